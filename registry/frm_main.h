@@ -260,7 +260,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void durumYaz(std::string text) { sbDurum.setPanel(3, std::move(text)); }
 
   NameSearch isimler_;
-  shell::ListCompletions tamamlama_;
   int fotoGenisligi_ = 0;
   int fotoYuksekligi_ = 0;
 };
