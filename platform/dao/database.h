@@ -1,0 +1,141 @@
+// Stores: one database file each. These are the operations of the record engine, under its names.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/dao/definition.h"
+#include "platform/dao/recordset.h"
+#include "platform/dao/value.h"
+#include "platform/status/status.h"
+
+namespace dao {
+
+using platform::Fault;
+using platform::Result;
+using platform::Status;
+
+class Engine;
+
+// The write transaction of a database. Destroyed without commit() it is rolled back. One begun
+// inside another joins it: only the outermost commits, and not when an inner one was given up.
+class Transaction {
+ public:
+  Transaction(Transaction&& other) noexcept = default;
+  Transaction& operator=(Transaction&&) = delete;
+  ~Transaction();
+
+  Status commit();
+
+ private:
+  friend class Database;
+  explicit Transaction(std::shared_ptr<Engine> engine) : engine_(std::move(engine)) {}
+  std::shared_ptr<Engine> engine_;
+};
+
+enum class Access { ReadWrite, ReadOnly };
+
+struct OpenOptions {
+  Access access = Access::ReadWrite;
+  Order emptyFileOrder = Order::General;  // of a file of 0 bytes; any other file knows its order
+  std::chrono::milliseconds busyTimeout{5000};
+};
+
+// What a catalogue tells of a field.
+struct FieldInfo {
+  std::string name;
+  FieldType type = FieldType::Text;
+  int size = 0;  // in characters, 0 when unlimited or no text
+  ZeroLength zeroLength = ZeroLength::Allowed;
+  AutoIncrement autoIncrement = AutoIncrement::No;
+};
+
+struct IndexInfo {
+  std::string name;
+  std::vector<std::string> fields;
+  Primary primary = Primary::No;
+  Unique unique = Unique::No;
+};
+
+// An open store. Closing it (or destroying the last handle) ends the work of its recordsets: they
+// answer NoCurrent.
+class Database {
+ public:
+  Database() = default;  // closed
+  explicit Database(std::shared_ptr<Engine> engine);
+
+  void Close();
+  [[nodiscard]] bool isOpen() const;
+  [[nodiscard]] bool isReadOnly() const;
+  [[nodiscard]] Order order() const;
+  [[nodiscard]] std::string path() const;
+
+  // A table name gives a table-type recordset; a text that begins with SELECT gives a read-only set
+  // of the rows that it finds now. "like" takes * ? # [a-z] [!x]; left, len and DateValue are
+  // there; texts stand in single or double quotes, names with blanks in [brackets]. Missing when
+  // there is no such table.
+  [[nodiscard]] Result<Recordset> OpenRecordset(std::string_view source,
+                                                const std::vector<Value>& parameters = {});
+
+  // Runs one statement of the same language. The number of rows changed. The rules of the fields
+  // (width, zero length) are not tested here, keys are.
+  Result<std::int64_t> Execute(std::string_view statement,
+                               const std::vector<Value>& parameters = {});
+
+  [[nodiscard]] Result<std::vector<std::string>> tables() const;
+  [[nodiscard]] Result<std::vector<FieldInfo>> fields(std::string_view table) const;
+  [[nodiscard]] Result<std::vector<IndexInfo>> indexes(std::string_view table) const;
+
+  // Exists when the table is there, whatever its fields are. All or nothing.
+  Status appendTable(const TableDef& table);
+  Status dropTable(std::string_view table);
+  // Makes those helper indexes of an existing table that its file lacks.
+  Status ensureHelpers(const TableDef& table);
+
+  [[nodiscard]] Result<Transaction> beginTransaction();
+
+  // The highest number of the field plus one, 1 for an empty table. Only inside a transaction: no
+  // other station can take the same number before it ends.
+  [[nodiscard]] Result<std::int64_t> nextNumber(std::string_view table, std::string_view field);
+
+  // Damaged, with what was found, unless every table and index is sound.
+  [[nodiscard]] Status integrityCheck();
+
+  // Whether the keys in the file were made by the collation rules that are installed. When not,
+  // seeks may miss: rebuildOrder() makes all keys anew in one exclusive transaction.
+  [[nodiscard]] Result<bool> orderIsCurrent();
+  Status rebuildOrder();
+
+  [[nodiscard]] const std::shared_ptr<Engine>& engine() const { return engine_; }
+
+ private:
+  std::shared_ptr<Engine> engine_;
+};
+
+// Missing, Damaged, Busy or Other. A file of 0 bytes is a store without tables; one that cannot be
+// written opens read-only.
+[[nodiscard]] Result<Database> OpenDatabase(const std::filesystem::path& path,
+                                            const OpenOptions& options = {});
+
+// Exists when there is a file of that name.
+[[nodiscard]] Result<Database> CreateDatabase(const std::filesystem::path& path, Order order);
+
+// Writes a compact copy. The source is closed everywhere, the destination must not exist.
+[[nodiscard]] Status CompactDatabase(const std::filesystem::path& from,
+                                     const std::filesystem::path& to);
+
+struct RepairReport {
+  bool wasDamaged = false;
+  std::string findings;  // what the check found before the repair, a line each
+};
+
+// Checks a store that is closed everywhere and makes its indexes anew when something is wrong.
+// Damaged when the file is not sound after that either.
+[[nodiscard]] Result<RepairReport> RepairDatabase(const std::filesystem::path& path);
+
+}  // namespace dao
