@@ -59,8 +59,8 @@ class Document {
   void changeParagraphs(Range range, const std::function<void(ParagraphFormat&)>& change);
 
   // The exact pair behind all editing: splice(range, fragment) is undone by splicing the slice that
-  // was taken before. The fragment's first and last paragraph formats become those of the paragraphs
-  // that they join.
+  // was taken before. The fragment's first and last paragraph formats become those of the
+  // paragraphs that they join.
   [[nodiscard]] Document slice(Range range) const;
   void splice(Range range, Document fragment);
   // The fragment with paragraph formats as a person expects them where it replaces the range: a
@@ -80,6 +80,7 @@ class Document {
   [[nodiscard]] Range clamped(Range range) const;
   [[nodiscard]] Place placeOf(std::size_t position) const;
   [[nodiscard]] bool replaceInsideRun(Place begin, Place end, const Document& fragment);
+  void replaceParagraphs(std::size_t begin, std::size_t end, Document fragment);
   void measure();
 
   std::vector<Paragraph> paragraphs_;

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/richtext/document.h"
 #include "platform/richtext/find.h"
@@ -85,10 +86,11 @@ class Editor {
   void erase(Range range, EditKind kind);
   void changeSelection(const std::function<void(CharFormat&)>& change);
   void changeParagraphs(const std::function<void(ParagraphFormat&)>& change);
+  void changeInPlace(const std::function<void()>& change);
   template <class T>
-  std::optional<T> common(T CharFormat::* field) const;
+  std::optional<T> common(T CharFormat::*field) const;
   template <class T>
-  std::optional<T> commonParagraph(T ParagraphFormat::* field) const;
+  std::optional<T> commonParagraph(T ParagraphFormat::*field) const;
 
   Document document_;
   Range selection_;

@@ -58,8 +58,8 @@ struct Paragraph {
 // paragraph without text keeps one empty run, whose format is what is typed there next.
 void normalise(Paragraph& paragraph);
 
-// Cuts a paragraph behind its first `characters` characters and returns the runs of the rest. Either
-// side may be left without any run.
+// Cuts a paragraph behind its first `characters` characters and returns the runs of the rest.
+// Either side may be left without any run.
 std::vector<Run> splitRuns(Paragraph& paragraph, std::size_t characters);
 
 }  // namespace richtext
