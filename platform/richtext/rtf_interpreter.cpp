@@ -160,7 +160,8 @@ void RtfInterpreter::addText(std::string_view utf8) {
 void RtfInterpreter::endListText(const std::string& text) {
   if (!inBody() || state_.hidden) return;
   if (isBullet(text)) return builder_.markListItem();
-  builder_.addText(text, format(), state_.paragraph);
+  const std::size_t start = std::min(text.find_first_not_of(' '), text.size());
+  builder_.addText(std::string_view(text).substr(start), format(), state_.paragraph);
 }
 
 // A symbol font's own name is in ordinary letters.

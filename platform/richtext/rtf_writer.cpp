@@ -5,6 +5,8 @@
 #include <map>
 #include <optional>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/richtext/code_pages.h"
 #include "platform/richtext/utf8.h"
@@ -112,18 +114,21 @@ class Writer {
   }
 
   void writeParagraph(const Paragraph& paragraph) {
-    if (paragraph.format != paragraph_) body_ += paragraphWords(paragraph.format);
-    if (paragraph.format.mark == ListMark::Bullet) body_ += "{\\pntext\\f0\\'B7\\tab}";
+    std::string words;
+    if (paragraph.format != paragraph_) words = paragraphWords(paragraph.format);
+    if (paragraph.format.mark == ListMark::Bullet) words += "{\\pntext\\f0\\'B7\\tab}";
     paragraph_ = paragraph.format;
-    for (const Run& run : paragraph.runs) writeRun(run);
+    for (const Run& run : paragraph.runs) writeRun(run, std::exchange(words, {}));
     body_ += "\\par";
     body_ += kLineEnd;
   }
 
-  void writeRun(const Run& run) {
-    const std::string words = formatWords(run.format);
+  // A blank parts the last word from text behind it; behind a group it would be text itself.
+  void writeRun(const Run& run, std::string words) {
+    words += formatWords(run.format);
     body_ += words;
-    if (!words.empty() && !run.text.empty()) body_ += ' ';
+    const bool endsInWord = !words.empty() && words.back() != '}';
+    if (endsInWord && !run.text.empty()) body_ += ' ';
     body_ += escaped(run.text);
     format_ = run.format;
   }
