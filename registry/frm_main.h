@@ -12,7 +12,7 @@
 #include "platform/forms/menu.h"
 #include "platform/forms/text_control.h"
 #include "registry/name_search.h"
-#include "shell/list_completion.h"
+#include "registry/photo_fit.h"
 #include "shell/record_screen.h"
 
 namespace registry {
@@ -64,7 +64,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem mnuefor{MnuKayit, "mnuefor"};
   forms::MenuItem mnuanjiyo{MnuKayit, "mnuanjiyo"};
   forms::MenuItem mnusigara{MnuKayit, "mnusigara"};
-  forms::MenuItem mnusigarabp{MnuKayit, "mnusigarabp"};
+  forms::MenuItem mnusigarabp{mnusigara, "mnusigarabp"};
 
   forms::MenuItem MnuListeler{*this, "MnuListeler"};
   forms::MenuItem mnugünlükmuayeneler{MnuListeler, "mnugünlükmuayeneler"};
@@ -192,7 +192,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   bool hatalitarih();
 
   void Listeleriyaz() override;
-  void basliklariYenile() override;
+  void dilDegisti() override;
   void sigaraGirisi() override;
   // Shows on the toolbar whether the patient has a visit in the present speciality.
   void muayenetusuboya();
@@ -201,9 +201,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   void datlistele();
   void datlisteleTUR();
-  // Works on the name list until its slice of time is used up; true when the list is complete.
-  bool listeyiIlerlet();
-
   [[nodiscard]] std::string dogum() const override { return TxtDTarihi.text(); }
   [[nodiscard]] int cinsiyet() const override { return ComCinsiyet.listIndex(); }
   [[nodiscard]] const std::string& baslik() const override { return caption(); }
@@ -220,33 +217,34 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   enum class NameCheck { Kept, OtherPatientLoaded };
 
   void menuleriBagla();
-  void dugmeleriKur();
+  void araclariKur();
   void kartiBagla();
-  void adiBagla();
-  void dogumuBagla();
   void ekranBagla(forms::MenuItem& entry, std::string_view screen);
   void tusBas(std::string_view key);
+  void yonEtkin(Direction direction, bool enabled);
+  void adim(Direction direction);
 
   // Ends what was typed into the name field: the case of a listed name, then the namesake question.
   NameCheck isimBitti();
-  [[nodiscard]] bool gizliMi(std::string_view key) const;
-  [[nodiscard]] bool isimVar(const std::string& name);
-  void hastaSec(std::string_view name);
+  NameCheck adasSor();
+  [[nodiscard]] bool baskaHasta(const std::string& name);
+  void hastaSec(const std::string& name);
+  // A choice in the list replaces what is on the card; what was typed beside the name is not lost without a question.
+  void secimdenOnce();
   void saatVurusu();
   void listeyiBaslat(dao::Fold fold);
-  void listeyiGoster();
+  void listeyiSurdur();
   void listeyiKapat();
+  [[nodiscard]] bool gizliMi(std::string_view key) const;
+  void isimleriAc(bool unlocked);
+  void isimSifresi();
 
   [[nodiscard]] dao::Status kartiYaz();
+  [[nodiscard]] dao::Status kaydiBul();
   void listelereEkle();
-  void kaydetmedenOnce();
-  void adim(Direction direction);
-  void yonuKapat(Direction direction);
-  void yonleriAc(bool enabled);
 
   void dogumBitti();
   void yasBitti();
-  void yasGoster();
   void yasSor();
   void cinsiyetYazildi();
   void Cinsiyetrengi();
@@ -256,12 +254,15 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void klasorleriAc();
   void ayarlarioku();
   void ayarlariyaz();
+  void basliklariYenile();
   void hakkindaYaz();
   void durumYaz(std::string text) { sbDurum.setPanel(3, std::move(text)); }
 
   NameSearch isimler_;
-  int fotoGenisligi_ = 0;
-  int fotoYuksekligi_ = 0;
+  // Tasks that were put off look whether the card is still there.
+  std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);
+  bool listeBekliyor_ = false;
+  Extent panofoto_;
 };
 
 }  // namespace registry

@@ -1,9 +1,9 @@
 // The Options screen: letterhead, lookup lists and settings.
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/forms/button.h"
 #include "platform/forms/label.h"
@@ -74,27 +74,29 @@ class FrmOption : public forms::Form {
   void yaziTipleri(std::vector<std::string> names) { ComFontName.setItems(std::move(names)); }
 
  private:
+  void sekmeSec();
   void ayarlariBagla();
   void listeleriBagla();
   void basligiBagla();
   void ayarlariOku();
-  void dilSec(std::string_view language);
   void dilDegistir();
   void sifreIle(forms::CheckBox& box, std::string_view key, bool& eaten);
-  void yedekKlasoru();
+  [[nodiscard]] bool yedekKlasoru();
 
   void listeSec(forms::ComboBox& combo);
   void listeyiDoldur(forms::ComboBox& combo);
   void degerEkle();
   void degerDegistir();
   void degerSil();
+  // After a change of the chosen list: what went wrong, and the list anew with one value chosen.
+  void degistir(const platform::Status& changed, std::string_view shown);
   [[nodiscard]] std::string_view secilenTablo() const;
 
   void basligiOku();
   void bicimle(std::string_view key);
   void bicimiGoster();
-  void resimSec(std::string_view filter, std::string_view target, forms::Picture& shown);
-  platform::Status resmiKopyala(const std::string& from, std::string_view target);
+  void resimSec(std::string_view filter, forms::Picture& shown);
+  void resmiSakla(forms::Picture& shown, std::string_view target);
 
   Station& istasyon;
   forms::ComboBox* secilen_ = nullptr;

@@ -18,8 +18,9 @@ class PatientCard {
   [[nodiscard]] virtual std::string dogum() const = 0;
   [[nodiscard]] virtual int cinsiyet() const = 0;
 
-  // What the Options screen sets off on the main window: captions and lists filled anew, entries shown or hidden.
-  virtual void basliklariYenile() = 0;
+  // What the Options screen sets off on the main window: all words anew, lists filled anew, the smoking clinic's
+  // entry shown or hidden.
+  virtual void dilDegisti() = 0;
   virtual void Listeleriyaz() = 0;
   virtual void sigaraGirisi() = 0;
 

@@ -18,16 +18,19 @@ RecordScreen::RecordScreen(Station& station, std::string_view name) : Form(name)
   mnusil.Click.connect([this] { Sil(); });
 }
 
-void RecordScreen::alanlariBagla(const dao::Database& database, std::string_view table) {
-  const auto widths = database.fields(table);
+void RecordScreen::alanlariBagla() {
+  for (const FieldRow& row : alanlar()) kontrol(row).Change.connect([this] { tuskontrol(); });
+}
+
+void RecordScreen::alanGenislikleri(const dao::Database& database, std::string_view table) {
+  const auto columns = database.fields(table);
   for (const FieldRow& row : alanlar()) {
-    forms::TextControl& field = kontrol(row);
-    field.Change.connect([this] { tuskontrol(); });
-    if (row.cut > 0) field.setMaxLength(static_cast<std::size_t>(row.cut));
-    if (row.cut > 0 || row.stored != Stored::Text || !widths) continue;
+    if (row.stored != Stored::Text) continue;
+    if (row.cut > 0) kontrol(row).setMaxLength(static_cast<std::size_t>(row.cut));
+    if (row.cut > 0 || !columns) continue;
     const auto column = std::ranges::find_if(
-        *widths, [&](const dao::FieldInfo& info) { return text::equalsNoCase(info.name, row.column); });
-    if (column != widths->end()) field.setMaxLength(static_cast<std::size_t>(column->size));
+        *columns, [&](const dao::FieldInfo& info) { return text::equalsNoCase(info.name, row.column); });
+    if (column != columns->end()) kontrol(row).setMaxLength(static_cast<std::size_t>(column->size));
   }
 }
 

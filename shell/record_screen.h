@@ -53,8 +53,10 @@ class RecordScreen : public forms::Form {
   forms::Toolbar tbToolBar{*this, "tbToolBar"};
 
  protected:
-  // To be called by the screen's constructor, when its fields exist.
-  void alanlariBagla(const dao::Database& database, std::string_view table);
+  // To be called by the screen's constructor, when its fields exist: every change runs tuskontrol.
+  void alanlariBagla();
+  // Fields take as many characters as their columns; to be called when the table is open.
+  void alanGenislikleri(const dao::Database& database, std::string_view table);
   // Copies the current record onto the fields, trimmed; a Null column leaves its field blank.
   void alanlariYukle();
   void alanlariBosalt();

@@ -81,7 +81,11 @@ dao::Status openClinical(Stores& stores) {
 }
 
 dao::Status openSettings(Stores& stores) {
-  return stores.settings.open(stores.folder + settingsFile, files::SettingRecord::length);
+  stores.settings.reset();
+  auto file = files::RecordFile::open(stores.folder + settingsFile, files::SettingRecord::length);
+  if (!file) return file.error();
+  stores.settings = std::move(*file);
+  return {};
 }
 
 }  // namespace
@@ -100,7 +104,7 @@ dao::Status OpenStores(Stores& stores) {
 void CloseStores(Stores& stores) {
   stores.personal = {};
   stores.clinical = {};
-  stores.settings.close();
+  stores.settings.reset();
 }
 
 dao::Status ReopenPersonalStore(Stores& stores) {

@@ -2,6 +2,7 @@
 // records that opens between them.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/dao/database.h"
@@ -33,7 +34,7 @@ struct ClinicalStore {
 struct Stores {
   std::string folder;  // the program's folder, with a trailing slash
   PersonalStore personal;
-  files::RecordFile settings;  // Data/setting.dat
+  std::optional<files::RecordFile> settings;  // Data/setting.dat
   ClinicalStore clinical;
 };
 

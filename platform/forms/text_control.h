@@ -90,6 +90,8 @@ class ComboBox : public TextControl {
   [[nodiscard]] int listIndex() const { return listIndex_; }
   // A row beyond the list counts as -1, which blanks the text.
   void setListIndex(int row);
+  // Shows a text without any event, as a list does that follows what is selected elsewhere.
+  void showText(std::string_view text) { replaceText(text); }
   // The first row equal to the text letter for letter, -1 when none.
   [[nodiscard]] int rowOf(std::string_view item) const;
 

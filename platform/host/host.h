@@ -52,8 +52,12 @@ class Host {
 
   // Runs the task when the present event was handled, so that long work can be done in slices.
   virtual void later(std::function<void()> task) = 0;
+  // Lets the windows draw for that long.
+  virtual void pause(int milliseconds) = 0;
   virtual void shellOpen(std::string_view target) = 0;
   virtual void beep() = 0;
+  // Sends keystrokes to the focused control, in the notation "^z" for Ctrl+Z, "+{INSERT}" for Shift+Insert.
+  virtual void sendKeys(std::string_view keys) = 0;
   // A failure that the rules do not pass over: a box with its text.
   virtual void runtimeError(const platform::Status& status) = 0;
 
