@@ -4,6 +4,8 @@
 
 #include <set>
 
+#include "platform/forms/label.h"
+#include "platform/forms/menu.h"
 #include "shell/caption_rows.h"
 #include "shell/text_lookup.h"
 #include "shell/vocabulary/vocabulary.h"
