@@ -10,12 +10,15 @@
 namespace text {
 
 // A day of the proleptic Gregorian calendar and the seconds passed of it (0 for a plain date).
+// What this header makes lies in the years 1 to 9999: arithmetic beyond ends at the first or the
+// last day.
 struct DateTime {
   std::chrono::sys_days day{};
   int seconds = 0;
 
   auto operator<=>(const DateTime&) const = default;
 
+  // Precondition: a day of the calendar.
   static DateTime of(int year, unsigned month, unsigned dayOfMonth, int seconds = 0);
   [[nodiscard]] std::chrono::year_month_day ymd() const { return {day}; }
   [[nodiscard]] int year() const { return static_cast<int>(ymd().year()); }
@@ -31,10 +34,11 @@ struct DateTime {
 [[nodiscard]] std::string isoText(const DateTime& date);
 [[nodiscard]] std::optional<DateTime> parseIso(std::string_view iso);
 
-// What people type, day before month; the separators are '.', '/', '-' and blanks. The month may be a number
-// only. If day and month do not fit in that order but do in the other, they are swapped; if neither fits, the year
-// is tried first. Two-digit years 0-29 are 20xx, 30-99 are 19xx; without a year it is the year of `today`.
-// A single number is no date. A time "h:mm" or "h:mm:ss" may follow.
+// What people type, day before month; the separators are '.', '/', '-' and blanks. The month may be
+// a number only. If day and month do not fit in that order but do in the other, they are swapped;
+// if neither fits, the year is tried first. Two-digit years 0-29 are 20xx, 30-99 are 19xx; without
+// a year it is the year of `today`. A single number is no date. A time "h:mm" or "h:mm:ss" may
+// follow.
 [[nodiscard]] std::optional<DateTime> parseDate(std::string_view typed, const DateTime& today);
 
 // "22.11.2026" and "14:05".

@@ -1,0 +1,61 @@
+#include "app/start_up.h"
+
+#include <memory>
+
+#include "platform/text/number.h"
+#include "registry/frm_birthday.h"
+#include "shell/frm_option.h"
+#include "shell/frm_pass.h"
+#include "shell/speciality.h"
+
+namespace app {
+
+namespace {
+
+constexpr int splashMilliseconds = 400;
+
+// Restricted opening: the card and the name list stay usable, the tools and the examination do not.
+void sp4(registry::FrmMain& main) {
+  main.MnuSecenek.setVisible(false);
+  main.tbToolBar.setButtonVisible("muayene", false);
+}
+
+}  // namespace
+
+shell::ScreenDirectory screens() {
+  shell::ScreenDirectory directory;
+  directory.add("FrmOption", [](shell::Station& station) { return std::make_unique<shell::FrmOption>(station); });
+  return directory;
+}
+
+Session::Session(shell::Station& istasyon) : istasyon_(istasyon), main_(istasyon) {}
+
+Session::Outcome Session::start() {
+  shell::bransmenusu(istasyon_, main_);
+  shell::Logo logo(istasyon_);
+  logo.Load();
+  istasyon_.host.show(logo);
+  main_.Load();
+  istasyon_.host.pause(splashMilliseconds);
+  istasyon_.host.close(logo);
+  if (!openingPassword()) {
+    main_.Unload();
+    return Outcome::Refused;
+  }
+  registry::dogumGunuHatirlat(istasyon_);
+  if (istasyon_.BransNo == shell::brans::polyclinic) main_.BGenel.setValue(true);
+  istasyon_.host.show(main_);
+  return Outcome::Shown;
+}
+
+bool Session::openingPassword() {
+  if (text::Val(istasyon_.ayar("oppas", "0")) != 1) return true;
+  const bool accepted = shell::sifreSor(istasyon_, shell::password::opening, shell::PasswordChange::Withheld);
+  istasyon_.SifreSonucu = 0;
+  if (accepted) return true;
+  if (istasyon_.ayar("nopen", "1") == "True") return false;
+  sp4(main_);
+  return true;
+}
+
+}  // namespace app

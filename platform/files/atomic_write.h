@@ -1,0 +1,16 @@
+// Replacing a file so that a reader, a crash or a full disk meets the old content or the new one.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "platform/status/status.h"
+
+namespace files {
+
+// Writes beside the file, flushes, renames over it. The file keeps its permissions; a symbolic link
+// stays one. On a fault the old file is untouched and nothing is left beside it.
+[[nodiscard]] platform::Status writeAtomically(const std::filesystem::path& path,
+                                               std::string_view content);
+
+}  // namespace files

@@ -1,0 +1,78 @@
+#include "platform/files/descriptor.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+namespace files {
+
+using platform::Fault;
+using platform::Result;
+using platform::Status;
+
+Result<Descriptor> Descriptor::open(const std::filesystem::path& path, int flags) {
+  int number = -1;
+  do {
+    number = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+  } while (number < 0 && errno == EINTR);
+  if (number < 0) return std::unexpected(systemFault(path, errno));
+  return Descriptor{number};
+}
+
+Descriptor::Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+
+Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
+  if (this == &other) return *this;
+  close();
+  number_ = std::exchange(other.number_, -1);
+  return *this;
+}
+
+Descriptor::~Descriptor() {
+  close();
+}
+
+void Descriptor::close() {
+  if (number_ >= 0) ::close(std::exchange(number_, -1));
+}
+
+namespace {
+
+Fault faultOf(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+      return Fault::Missing;
+    case EEXIST:
+      return Fault::Exists;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EBADF:  // writing, or locking for it, through a handle that only reads
+      return Fault::ReadOnly;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return Fault::DiskFull;
+    case EAGAIN:
+    case EBUSY:
+      return Fault::Busy;
+    case EINVAL:
+    case ENOLCK:
+    case EOPNOTSUPP:
+      return Fault::Unsupported;
+    default:
+      return Fault::Other;
+  }
+}
+
+}  // namespace
+
+Status systemFault(const std::filesystem::path& path, int error) {
+  return {faultOf(error), path.string() + ": " + std::generic_category().message(error)};
+}
+
+}  // namespace files

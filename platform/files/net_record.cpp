@@ -1,0 +1,36 @@
+#include "platform/files/net_record.h"
+
+#include <utility>
+
+#include "platform/files/record_fields.h"
+
+namespace files {
+namespace {
+
+constexpr TextField<NetRecord> nameField{&NetRecord::name, 0, 40};
+
+constexpr NumberField<NetRecord> numberFields[] = {
+    {&NetRecord::used, 40},
+    {&NetRecord::reserved, 42},
+    {&NetRecord::appointmentFlag, 44},
+};
+
+}  // namespace
+
+NetRecord NetRecord::decode(RecordBuffer buffer) {
+  buffer.resize(length);
+  NetRecord record;
+  read(record, buffer, nameField);
+  for (const auto& field : numberFields) read(record, buffer, field);
+  record.carried_ = std::move(buffer);
+  return record;
+}
+
+RecordBuffer NetRecord::encode() const {
+  RecordBuffer buffer = carried_;
+  write(*this, buffer, nameField);
+  for (const auto& field : numberFields) write(*this, buffer, field);
+  return buffer;
+}
+
+}  // namespace files

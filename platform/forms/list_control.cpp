@@ -1,0 +1,82 @@
+#include "platform/forms/list_control.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace forms {
+
+std::size_t ListBox::addItem(std::string_view text, long data) {
+  auto at = items_.end();
+  if (order_ == ListOrder::Sorted) {
+    at = std::ranges::upper_bound(items_, text, {}, [](const ListItem& i) { return std::string_view(i.text); });
+  }
+  const auto row = static_cast<std::size_t>(at - items_.begin());
+  items_.insert(at, ListItem{std::string(text), data, false});
+  if (listIndex_ >= 0 && std::cmp_less_equal(row, listIndex_)) ++listIndex_;
+  notify(Aspect::Items);
+  return row;
+}
+
+void ListBox::appendItems(std::vector<std::string> texts) {
+  items_.reserve(items_.size() + texts.size());
+  for (std::string& text : texts) items_.push_back({std::move(text), 0, false});
+  notify(Aspect::Items);
+}
+
+void ListBox::removeItem(std::size_t row) {
+  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(row));
+  listIndex_ = -1;
+  notify(Aspect::Items);
+}
+
+void ListBox::clear() {
+  if (items_.empty()) return;
+  items_.clear();
+  listIndex_ = -1;
+  notify(Aspect::Items);
+}
+
+void ListBox::setListIndex(int row) {
+  const int index = row >= 0 && std::cmp_less(row, items_.size()) ? row : -1;
+  if (std::exchange(listIndex_, index) == index) return;
+  notify(Aspect::Selection);
+  if (index >= 0) Click();
+}
+
+std::string ListBox::text() const {
+  return listIndex_ < 0 ? std::string() : items_[static_cast<std::size_t>(listIndex_)].text;
+}
+
+void ListBox::setSelected(std::size_t row, bool selected) {
+  items_.at(row).selected = selected;
+  notify(Aspect::Selection);
+}
+
+void ListBox::setVisibleRows(int rows) {
+  if (std::exchange(visibleRows_, rows) != rows) notify(Aspect::Range);
+}
+
+void ListView::setColumns(std::vector<std::string> headings) {
+  columns_ = std::move(headings);
+  notify(Aspect::Items);
+}
+
+void ListView::addRow(Row row) {
+  rows_.push_back(std::move(row));
+  notify(Aspect::Items);
+}
+
+void ListView::clearRows() {
+  rows_.clear();
+  selectedRow_ = -1;
+  notify(Aspect::Items);
+}
+
+void ListView::setSelectedRow(int row) {
+  const int index = row >= 0 && std::cmp_less(row, rows_.size()) ? row : -1;
+  if (std::exchange(selectedRow_, index) == index) return;
+  notify(Aspect::Selection);
+  if (index >= 0) ItemClick();
+}
+
+}  // namespace forms

@@ -1,0 +1,88 @@
+// Lists of rows: the list box with item data, and the list view with columns.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/control.h"
+
+namespace forms {
+
+struct ListItem {
+  std::string text;
+  long data = 0;
+  bool selected = false;
+};
+
+enum class ListOrder { AsAdded, Sorted };
+enum class ListChoice { One, Several };
+
+// A new list index fires Click. A sorted list keeps its rows in the byte order of their texts.
+class ListBox : public Control {
+ public:
+  ListBox(Form& form, std::string_view name, ListOrder order = ListOrder::AsAdded, ListChoice choice = ListChoice::One)
+      : Control(form, name), order_(order), choice_(choice) {}
+
+  [[nodiscard]] ListChoice choice() const { return choice_; }
+  [[nodiscard]] const std::vector<ListItem>& items() const { return items_; }
+  [[nodiscard]] std::size_t count() const { return items_.size(); }
+  // Returns the row that the item got.
+  std::size_t addItem(std::string_view text, long data = 0);
+  // Appends many rows at once, in their order; the widget is told once.
+  void appendItems(std::vector<std::string> texts);
+  void removeItem(std::size_t row);
+  void clear();
+
+  // The focused row, -1 when none.
+  [[nodiscard]] int listIndex() const { return listIndex_; }
+  void setListIndex(int row);
+  // The text of the focused row, empty when there is none.
+  [[nodiscard]] std::string text() const;
+  void setSelected(std::size_t row, bool selected);
+
+  // How many rows the drop-down shows without scrolling; 0 leaves it to the window.
+  [[nodiscard]] int visibleRows() const { return visibleRows_; }
+  void setVisibleRows(int rows);
+
+  Event<> Click;
+  Event<> DblClick;
+
+ private:
+  ListOrder order_;
+  ListChoice choice_;
+  std::vector<ListItem> items_;
+  int listIndex_ = -1;
+  int visibleRows_ = 0;
+};
+
+// Rows of columns with headings; the key of a row is the caller's own.
+class ListView : public Control {
+ public:
+  struct Row {
+    std::vector<std::string> cells;
+    long key = 0;
+  };
+
+  using Control::Control;
+
+  [[nodiscard]] const std::vector<std::string>& columns() const { return columns_; }
+  void setColumns(std::vector<std::string> headings);
+  [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
+  void addRow(Row row);
+  void clearRows();
+  [[nodiscard]] int selectedRow() const { return selectedRow_; }
+  // Fires ItemClick when another row is selected.
+  void setSelectedRow(int row);
+
+  Event<> ItemClick;
+  Event<> DblClick;
+
+ private:
+  std::vector<std::string> columns_;
+  std::vector<Row> rows_;
+  int selectedRow_ = -1;
+};
+
+}  // namespace forms

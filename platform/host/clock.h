@@ -1,0 +1,21 @@
+// The present date and time, so that tests can set them.
+#pragma once
+
+#include "platform/text/date.h"
+
+namespace host {
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  // The local date with the seconds passed of the day.
+  [[nodiscard]] virtual text::DateTime now() const = 0;
+  [[nodiscard]] text::DateTime today() const { return {now().day, 0}; }
+};
+
+class SystemClock final : public Clock {
+ public:
+  [[nodiscard]] text::DateTime now() const override;
+};
+
+}  // namespace host

@@ -1,0 +1,162 @@
+#include "registry/frm_main.h"
+
+#include <array>
+#include <filesystem>
+
+#include "platform/files/folders.h"
+#include "platform/text/number.h"
+#include "registry/card_fields.h"
+#include "shell/captions.h"
+#include "shell/font_record.h"
+#include "shell/menu_icons.h"
+#include "shell/phrases.h"
+#include "shell/speciality.h"
+#include "shell/text_lookup.h"
+
+namespace registry {
+
+namespace {
+
+constexpr int tickMilliseconds = 50;
+constexpr int defaultWidth = 1240;
+constexpr int defaultHeight = 780;
+constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Netsıra", "Lresim"};
+
+bool isSet(const std::string& setting) { return setting == "True" || setting == "true" || text::Val(setting) != 0; }
+
+}  // namespace
+
+FrmMain::FrmMain(Station& station) : RecordScreen(station, "FrmMain") {
+  istasyon.kart = this;
+  width = defaultWidth;
+  height = defaultHeight;
+  for (const char* name : stateControls) find(name)->setVisible(false);
+  Lstdat.setVisible(false);
+  Txtyaş.setVisible(false);
+  Pexam.setVisible(false);
+  Picbranslar.setVisible(false);
+  idk.setCaption("6");
+  Timer1.setInterval(tickMilliseconds);
+  Timer1.Tick.connect([this] { saatVurusu(); });
+  araclariKur();
+  menuleriBagla();
+  kartiBagla();
+  alanlariBagla();
+}
+
+FrmMain::~FrmMain() {
+  *yasiyor_ = false;
+  istasyon.kart = nullptr;
+}
+
+std::span<const shell::FieldRow> FrmMain::alanlar() const { return cardFields(); }
+
+void FrmMain::Load() {
+  shell::bransmenusu(istasyon, *this);
+  klasorleriAc();
+  const dao::Status opened = stores::OpenStores(istasyon.stores);
+  if (!opened) istasyon.host.runtimeError({opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
+  alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+  basliklariYenile();
+  Listeleriyaz();
+  alanlaribosalt();
+  Eskialanmain();
+  shell::Setkayitlarioku(istasyon, *this, shell::font_record::card);
+  txttarih.setText(text::shortDate(istasyon.clock.today()));
+  ayarlarioku();
+  isimleriAc(false);
+  tbToolBar.setButtonEnabled("muayene", false);
+  const bool anyone = !istasyon.stores.personal.IDCard.empty();
+  yonEtkin(Direction::Back, anyone);
+  yonEtkin(Direction::Forward, anyone);
+  istasyon.settings.set(shell::applicationName, istasyon.BransAdi, "Path", istasyon.UygYolu).ignore();
+  shell::menuikon(*this);
+  sbDurum.setPanel(6, istasyon.UygYolu);
+}
+
+void FrmMain::Activate() {
+  Pexam.setVisible(isSet(istasyon.ayar("dexam", "0")));
+  Liste.setToolTip(phrase(istasyon, shell::Phrase::NobodyExamined));
+}
+
+void FrmMain::Unload() {
+  Timer1.setInterval(0);
+  kayitkontrol();
+  alanlaribosalt();
+  ayarlariyaz();
+  shell::setkayityaz(istasyon, *this, shell::font_record::card).ignore();
+}
+
+// Folders that cannot be made are met again, with a message, by the first file that is wanted in them.
+void FrmMain::klasorleriAc() {
+  for (const char* folder : {"Data", "Image", "Documents", "Documents/Diseases"}) {
+    files::createFolders(istasyon.dosya(folder)).ignore();
+  }
+}
+
+void FrmMain::basliklariYenile() {
+  shell::basliklariyaz(istasyon, *this);
+  shell::alanBasliklari(istasyon, *this, alanlar());
+  hakkindaYaz();
+}
+
+// The workspace is set up anew for its words; on a polyclinic copy the chosen speciality stays the working one.
+void FrmMain::dilDegisti() {
+  const int sex = ComCinsiyet.listIndex();
+  shell::bransmenusu(istasyon, *this);
+  for (const forms::OptionButton* option : {&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum, &BGöz, &BKBB, &BGenel}) {
+    if (option->value()) shell::bransSec(istasyon, *this, option->name());
+  }
+  basliklariYenile();
+  sigaraGirisi();
+  const bool changed = mnukaydet.enabled();
+  Listeleriyaz();
+  ComCinsiyet.setListIndex(sex);
+  yasGoster();
+  muayenetusuboya();
+  if (!changed) Eskialanmain();
+}
+
+void FrmMain::hakkindaYaz() {
+  Lhakkinda.setCaption(phrase(istasyon, shell::Phrase::AboutText) + "\n" + istasyon.Surum);
+  sbDurum.setPanel(5, caption());
+}
+
+void FrmMain::ayarlarioku() {
+  if (const auto w = text::wholeNumber(istasyon.ayar("Main Width")); w && *w > 0 && *w < 20000) width = static_cast<int>(*w);
+  if (const auto h = text::wholeNumber(istasyon.ayar("Main Height")); h && *h > 0 && *h < 20000) height = static_cast<int>(*h);
+  windowState = istasyon.ayar("Main WindowState", "2") == "2" ? forms::WindowState::Maximised : forms::WindowState::Normal;
+  Lresim.setCaption(istasyon.ayar("CurX", "1200"));
+  PResim.setPath(istasyon.ayar("Picture"));
+  sigaraGirisi();
+}
+
+void FrmMain::ayarlariyaz() {
+  if (windowState == forms::WindowState::Minimised) return;
+  istasyon.ayarYaz("Main Width", std::to_string(width));
+  istasyon.ayarYaz("Main Height", std::to_string(height));
+  istasyon.ayarYaz("Main WindowState", windowState == forms::WindowState::Maximised ? "2" : "0");
+  istasyon.ayarYaz("CurX", Lresim.caption());
+}
+
+void FrmMain::sigaraGirisi() {
+  const bool clinic = istasyon.BransNo == shell::brans::smoke;
+  const bool shown = clinic || (istasyon.BransKodu == shell::brans::koduDahiliye && isSet(istasyon.ayar("smok", "0")));
+  mnusigara.setVisible(shown);
+  mnusigarabp.setVisible(shown);
+  tbToolBar.setButtonVisible("smok", shown);
+}
+
+void FrmMain::saatVurusu() {
+  const text::DateTime now = istasyon.clock.now();
+  sbDurum.setPanel(1, text::shortDate(now));
+  sbDurum.setPanel(2, text::shortTime(now));
+  const auto counter = text::wholeNumber(idk.caption()).value_or(6);
+  if (counter == 6) return;
+  idk.setCaption(std::to_string(counter + 1));
+  if (counter + 1 != 1) return;
+  istasyon.ayar("Language", "tr") == "tr" ? datlisteleTUR() : datlistele();
+  idk.setCaption("6");
+}
+
+}  // namespace registry

@@ -1,0 +1,269 @@
+// The patient card: the main window and the identity record of a patient.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/forms/button.h"
+#include "platform/forms/label.h"
+#include "platform/forms/list_control.h"
+#include "platform/forms/menu.h"
+#include "platform/forms/text_control.h"
+#include "registry/name_search.h"
+#include "registry/photo_fit.h"
+#include "shell/record_screen.h"
+
+namespace registry {
+
+using shell::Station;
+
+class FrmMain : public shell::RecordScreen, public shell::PatientCard {
+ public:
+  explicit FrmMain(Station& istasyon);
+  ~FrmMain() override;
+
+  // --- Menus -------------------------------------------------------------------------------------------------
+  forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
+  forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
+  forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
+  forms::MenuItem çizgi2{MnuDosya, "çizgi2", forms::MenuKind::Separator};
+  forms::MenuItem mnucik{MnuDosya, "mnucik"};
+
+  forms::MenuItem MnuDuzen{*this, "MnuDuzen"};
+  forms::MenuItem mnugerial{MnuDuzen, "mnugerial"};
+  forms::MenuItem mnukes{MnuDuzen, "mnukes"};
+  forms::MenuItem mnukopyala{MnuDuzen, "mnukopyala"};
+  forms::MenuItem mnuyapıştır{MnuDuzen, "mnuyapıştır"};
+
+  forms::MenuItem MnuKayit{*this, "MnuKayit"};
+  forms::MenuItem mnugeri{MnuKayit, "mnugeri"};
+  forms::MenuItem mnuileri{MnuKayit, "mnuileri"};
+  forms::MenuItem çizgi3{MnuKayit, "çizgi3", forms::MenuKind::Separator};
+  forms::MenuItem mnumuayene1{MnuKayit, "mnumuayene1"};
+  forms::MenuItem MnuMuayene2{MnuKayit, "MnuMuayene2"};
+  forms::MenuItem MnuMuayene3{MnuKayit, "MnuMuayene3"};
+  forms::MenuItem MnuMuayene4{MnuKayit, "MnuMuayene4"};
+  forms::MenuItem MnuMuayene5{MnuKayit, "MnuMuayene5"};
+  forms::MenuItem MnuMuayene6{MnuKayit, "MnuMuayene6"};
+  forms::MenuItem MnuMuayene7{MnuKayit, "MnuMuayene7"};
+  forms::MenuItem Mnumuayene9{MnuKayit, "Mnumuayene9"};
+  forms::MenuItem MnuMuayene10{MnuKayit, "MnuMuayene10"};
+  forms::MenuItem mnumuayene13{MnuKayit, "mnumuayene13"};
+  forms::MenuItem mnumuayene14{MnuKayit, "mnumuayene14"};
+  forms::MenuItem MnuMuayene20{MnuKayit, "MnuMuayene20"};
+  forms::MenuItem mnutest{MnuKayit, "mnutest"};
+  forms::MenuItem mnuasi{MnuKayit, "mnuasi"};
+  forms::MenuItem mnufizikgelişme{MnuKayit, "mnufizikgelişme"};
+  forms::MenuItem mnumotmengelişme{MnuKayit, "mnumotmengelişme"};
+  forms::MenuItem mnugebetakip{MnuKayit, "mnugebetakip"};
+  forms::MenuItem mnuameliyat{MnuKayit, "mnuameliyat"};
+  forms::MenuItem mnulens{MnuKayit, "mnulens"};
+  forms::MenuItem mnueko{MnuKayit, "mnueko"};
+  forms::MenuItem mnuefor{MnuKayit, "mnuefor"};
+  forms::MenuItem mnuanjiyo{MnuKayit, "mnuanjiyo"};
+  forms::MenuItem mnusigara{MnuKayit, "mnusigara"};
+  forms::MenuItem mnusigarabp{mnusigara, "mnusigarabp"};
+
+  forms::MenuItem MnuListeler{*this, "MnuListeler"};
+  forms::MenuItem mnugünlükmuayeneler{MnuListeler, "mnugünlükmuayeneler"};
+  forms::MenuItem mnumuayenetarihleri{MnuListeler, "mnumuayenetarihleri"};
+  forms::MenuItem mnulensstok{MnuListeler, "mnulensstok"};
+  forms::MenuItem mnubekdoğum{MnuListeler, "mnubekdoğum"};
+
+  forms::MenuItem mnuara{*this, "mnuara"};
+  forms::MenuItem mnubul{mnuara, "mnubul"};
+  forms::MenuItem cizgi7{mnuara, "cizgi7", forms::MenuKind::Separator};
+  forms::MenuItem mnumuayeneara{mnuara, "mnumuayeneara"};
+  forms::MenuItem mnuraporara{mnuara, "mnuraporara"};
+  forms::MenuItem mnutestara{mnuara, "mnutestara"};
+  forms::MenuItem mnuameliyatara{mnuara, "mnuameliyatara"};
+  forms::MenuItem çizgi8{mnuara, "çizgi8", forms::MenuKind::Separator};
+  forms::MenuItem mnuekoara{mnuara, "mnuekoara"};
+  forms::MenuItem mnueforara{mnuara, "mnueforara"};
+  forms::MenuItem mnuanjiyoara{mnuara, "mnuanjiyoara"};
+  forms::MenuItem mnulensara{mnuara, "mnulensara"};
+
+  forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
+  forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
+
+  forms::MenuItem MnuYardim{*this, "MnuYardim"};
+  forms::MenuItem mnuhakkinda{MnuYardim, "mnuhakkinda"};
+
+  // --- The card, in the order in which one dictates it ------------------------------------------------------------
+  forms::TextBox Txtİsim{*this, "Txtİsim"};
+  forms::ListBox Lstdat{*this, "Lstdat"};
+  forms::TextBox TxtDTarihi{*this, "TxtDTarihi"};
+  forms::TextBox Txtyaş{*this, "Txtyaş"};
+  forms::Label txtyaşı{*this, "txtyaşı"};
+  forms::ComboBox ComCinsiyet{*this, "ComCinsiyet"};
+
+  forms::TabStrip TabStrip1{*this, "TabStrip1", {"TSKişisel", "TSAdres", "TSKurum", "TSNot"}};
+
+  forms::Panel PKişisel{*this, "PKişisel"};
+  forms::ComboBox ComKanGrubu{*this, "ComKanGrubu"};
+  forms::ComboBox comdogumyeri{*this, "comdogumyeri"};
+  forms::ComboBox ComMeslek{*this, "ComMeslek"};
+  forms::TextBox TxtAnaAdı{*this, "TxtAnaAdı"};
+  forms::TextBox TxtBabaAdı{*this, "TxtBabaAdı"};
+  forms::TextBox TxtKimlikNo{*this, "TxtKimlikNo"};
+  forms::ComboBox ComRefere{*this, "ComRefere"};
+
+  forms::Panel PAdres{*this, "PAdres"};
+  forms::ComboBox ComHitap{*this, "ComHitap"};
+  forms::TextBox TxtAdres1{*this, "TxtAdres1"};
+  forms::TextBox TxtAdres2{*this, "TxtAdres2"};
+  forms::TextBox TxtAdres3{*this, "TxtAdres3"};
+  forms::TextBox TxtAdres4{*this, "TxtAdres4"};
+  forms::TextBox TxtTelefon1{*this, "TxtTelefon1"};
+  forms::TextBox TxtTelefon2{*this, "TxtTelefon2"};
+  forms::TextBox TxtMobil{*this, "TxtMobil"};
+  forms::TextBox TxtFax{*this, "TxtFax"};
+  forms::TextBox TxtMail{*this, "TxtMail"};
+
+  forms::Panel PKurum{*this, "PKurum"};
+  forms::ComboBox ComKurum{*this, "ComKurum"};
+  forms::TextBox TxtÇalışan{*this, "TxtÇalışan"};
+  forms::TextBox TxtSicil{*this, "TxtSicil"};
+  forms::ComboBox comgorev{*this, "comgorev"};
+  forms::ComboBox comyakinlik{*this, "comyakinlik"};
+
+  forms::Panel PNot{*this, "PNot"};
+  forms::TextBox txtnot{*this, "txtnot", forms::TextLines::Multiple};
+
+  // --- Beside the card -----------------------------------------------------------------------------------------
+  forms::Panel Panofoto{*this, "Panofoto"};
+  forms::Picture ImgFoto{*this, "ImgFoto"};
+  forms::TextBox txtfoto{*this, "txtfoto"};
+  forms::CommandButton Butfoto{*this, "Butfoto"};
+  forms::TextBox txtdosyano{*this, "txtdosyano"};
+  forms::TextBox txtfinno{*this, "txtfinno"};
+  forms::CommandButton butfatbil{*this, "butfatbil"};
+
+  forms::Panel panoresim{*this, "panoresim"};
+  forms::Picture PResim{*this, "PResim"};
+  forms::Label Lhakkinda{*this, "Lhakkinda"};
+
+  forms::Panel Picbranslar{*this, "Picbranslar"};
+  forms::OptionButton Bdahiliye{*this, "Bdahiliye", "brans"};
+  forms::OptionButton BCerrahi{*this, "BCerrahi", "brans"};
+  forms::OptionButton BÇocuk{*this, "BÇocuk", "brans"};
+  forms::OptionButton BKadınDoğum{*this, "BKadınDoğum", "brans"};
+  forms::OptionButton BGöz{*this, "BGöz", "brans"};
+  forms::OptionButton BKBB{*this, "BKBB", "brans"};
+  forms::OptionButton BGenel{*this, "BGenel", "brans"};
+
+  forms::Panel Pexam{*this, "Pexam"};
+  forms::TextBox txttarih{*this, "txttarih"};
+  forms::ListBox Liste{*this, "Liste"};
+
+  forms::StatusBar sbDurum{*this, "sbDurum", 6};
+  forms::Timer Timer1{*this, "Timer1"};
+
+  // --- State that never shows ------------------------------------------------------------------------------------
+  forms::TextBox TxtEskiİsim{*this, "TxtEskiİsim"};  // the old key
+  forms::TextBox txtkey{*this, "txtkey"};            // "¬" hides the patient
+  forms::Label idk{*this, "idk"};                    // the counter of the delayed search
+  forms::Label Netsıra{*this, "Netsıra"};            // the number of this station
+  forms::Label Lresim{*this, "Lresim"};              // the splitter's place, setting CurX
+
+  // --- The protocol ------------------------------------------------------------------------------------------------
+  [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
+  [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.personal.IDCard; }
+  [[nodiscard]] std::string eskiAnahtar() const override { return TxtEskiİsim.text(); }
+  [[nodiscard]] std::string& yedek() override { return istasyon.KartYedegi; }
+
+  void Load() override;
+  void Activate() override;
+  [[nodiscard]] bool QueryUnload() override { return true; }
+  void Unload() override;
+
+  void hastaoku() override;
+  void Eskialanmain() override { Eskialan(); }
+  void kayityap();
+  void Kaydet() override;
+  void Sil() override;
+  void Yeni();
+  void alanlaribosalt() override;
+  void tuskontrol() override;
+  dao::Status Forumalanlaritasi() override;
+  // The birth field holds no year later than this one, and no date later than today.
+  bool hatalitarih();
+
+  void Listeleriyaz() override;
+  void dilDegisti() override;
+  void sigaraGirisi() override;
+  // Shows on the toolbar whether the patient has a visit in the present speciality.
+  void muayenetusuboya();
+  // Opens the examination of the present speciality.
+  void muayenetus();
+
+  void datlistele();
+  void datlisteleTUR();
+  [[nodiscard]] std::string dogum() const override { return TxtDTarihi.text(); }
+  [[nodiscard]] int cinsiyet() const override { return ComCinsiyet.listIndex(); }
+  [[nodiscard]] const std::string& baslik() const override { return caption(); }
+
+  // Fits the photograph into its panel; the window reports the panel's size in pixels.
+  void panofotoBoyutu(int width, int height);
+  void ResimBoyutla();
+
+ protected:
+  [[nodiscard]] bool kaydedilebilir() override;
+
+ private:
+  enum class Direction { Back, Forward };
+  enum class NameCheck { Kept, OtherPatientLoaded };
+
+  void menuleriBagla();
+  void araclariKur();
+  void kartiBagla();
+  void ekranBagla(forms::MenuItem& entry, std::string_view screen);
+  void tusBas(std::string_view key);
+  void yonEtkin(Direction direction, bool enabled);
+  void adim(Direction direction);
+
+  // Ends what was typed into the name field: the case of a listed name, then the namesake question.
+  NameCheck isimBitti();
+  NameCheck adasSor();
+  [[nodiscard]] bool baskaHasta(const std::string& name);
+  void hastaSec(const std::string& name);
+  // A choice in the list replaces what is on the card; what was typed beside the name is not lost without a question.
+  void secimdenOnce();
+  void saatVurusu();
+  void listeyiBaslat(dao::Fold fold);
+  void listeyiSurdur();
+  void listeyiKapat();
+  [[nodiscard]] bool gizliMi(std::string_view key) const;
+  void isimleriAc(bool unlocked);
+  void isimSifresi();
+
+  [[nodiscard]] dao::Status kartiYaz();
+  [[nodiscard]] dao::Status kaydiBul();
+  void listelereEkle();
+
+  void yasGoster();
+  void dogumBitti();
+  void yasBitti();
+  void yasSor();
+  void cinsiyetYazildi();
+  void Cinsiyetrengi();
+  void sekmeSecildi();
+  void fotoSec();
+
+  void klasorleriAc();
+  void ayarlarioku();
+  void ayarlariyaz();
+  void basliklariYenile();
+  void hakkindaYaz();
+  void durumYaz(std::string text) { sbDurum.setPanel(3, std::move(text)); }
+
+  NameSearch isimler_;
+  // Tasks that were put off look whether the card is still there.
+  std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);
+  bool listeBekliyor_ = false;
+  Extent panofoto_;
+};
+
+}  // namespace registry

@@ -1,0 +1,62 @@
+// The birth field and the age that follows from it.
+#include "platform/text/number.h"
+#include "platform/text/utf8.h"
+#include "registry/frm_main.h"
+#include "shell/age.h"
+#include "shell/text_lookup.h"
+
+namespace registry {
+
+namespace {
+
+constexpr std::size_t shortestFullDate = 5;
+constexpr long oldestAge = 150;
+
+}  // namespace
+
+// Shows the age behind its word; without a valid birth value just the word, and the age can be typed instead.
+void FrmMain::yasGoster() {
+  const std::string word = metinbul(istasyon, "yasi");
+  if (TxtDTarihi.text().empty()) return txtyaşı.setCaption("");
+  const auto age = shell::yasmetni(istasyon, text::trim(TxtDTarihi.text()), istasyon.clock.today());
+  txtyaşı.setCaption(age ? word + " :  " + *age : word);
+}
+
+void FrmMain::yasSor() {
+  Txtyaş.setVisible(true);
+  Txtyaş.setFocus();
+}
+
+void FrmMain::dogumBitti() {
+  if (!hatalitarih()) return;
+  yasGoster();
+  const bool known =
+      shell::yasmetni(istasyon, text::trim(TxtDTarihi.text()), istasyon.clock.today()).has_value();
+  if (!known) yasSor();
+}
+
+bool FrmMain::hatalitarih() {
+  const std::string birth = text::trim(TxtDTarihi.text());
+  const text::DateTime today = istasyon.clock.today();
+  const auto date = text::parseDate(birth, today);
+  const bool tooLate = text::length(birth) < shortestFullDate ? text::Val(birth) > today.year() : date && *date > today;
+  if (!tooLate) return true;
+  istasyon.bilgi(metinbul(istasyon, "msghatalitarih"));
+  TxtDTarihi.setFocus();
+  TxtDTarihi.selectAll();
+  return false;
+}
+
+void FrmMain::yasBitti() {
+  const auto age = text::wholeNumber(Txtyaş.text());
+  if (age && *age >= 0 && *age <= oldestAge) {
+    TxtDTarihi.setText(std::to_string(istasyon.clock.today().year() - *age));
+    txtyaşı.setCaption(metinbul(istasyon, "yasi") + " :  " + std::to_string(*age));
+    Txtyaş.setText("");
+    Txtyaş.setVisible(false);
+  } else if (Txtyaş.text().empty()) {
+    txtyaşı.setCaption("");
+  }
+}
+
+}  // namespace registry

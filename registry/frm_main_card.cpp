@@ -1,0 +1,242 @@
+// The card's record: load, save, new, delete.
+#include <array>
+
+#include "platform/text/fold.h"
+#include "platform/text/number.h"
+#include "platform/text/utf8.h"
+#include "registry/card_fields.h"
+#include "registry/frm_main.h"
+#include "shell/age.h"
+#include "shell/list_completion.h"
+#include "shell/phrases.h"
+#include "shell/speciality.h"
+#include "shell/text_lookup.h"
+#include "stores/value_list.h"
+
+namespace registry {
+
+namespace {
+
+constexpr int female = 0;
+constexpr int male = 1;
+constexpr int unknownSex = 2;
+constexpr forms::Colour femaleColour = forms::fromBgr(0xC0C0FF);
+constexpr forms::Colour maleColour = forms::fromBgr(0xFFC0C0);
+constexpr std::array bloodGroups{"0 Rh(+)", "0 Rh(-)", "A Rh(+)", "A Rh(-)", "B Rh(+)", "B Rh(-)", "AB Rh(+)", "AB Rh(-)"};
+
+}  // namespace
+
+void FrmMain::kartiBagla() {
+  Txtİsim.LostFocus.connect([this] { isimBitti(); });
+  Txtİsim.KeyUp.connect([this](forms::Key) { Txtİsim.text().empty() ? listeyiKapat() : idk.setCaption("0"); });
+  Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
+  TxtDTarihi.LostFocus.connect([this] { dogumBitti(); });
+  Txtyaş.LostFocus.connect([this] { yasBitti(); });
+  Txtyaş.KeyPress.connect([](char32_t& typed) { typed = typed == U'-' ? U'1' : typed; });
+  ComCinsiyet.Change.connect([this] { cinsiyetYazildi(); });
+  ComCinsiyet.Click.connect([this] {
+    Cinsiyetrengi();
+    tuskontrol();
+  });
+  TabStrip1.Click.connect([this] { sekmeSecildi(); });
+  Butfoto.Click.connect([this] { fotoSec(); });
+  txtfoto.Change.connect([this] { ResimBoyutla(); });
+  shell::completeWhileTyping(ComKanGrubu);
+  for (const ListField& row : listFields()) {
+    shell::completeWhileTyping(static_cast<forms::ComboBox&>(row.control(*this)));
+  }
+}
+
+void FrmMain::Listeleriyaz() {
+  ComCinsiyet.setItems({metinbul(istasyon, "kadin"), metinbul(istasyon, "Erkek"), ""});
+  ComKanGrubu.setItems({bloodGroups.begin(), bloodGroups.end()});
+  for (const ListField& row : listFields()) {
+    static_cast<forms::ComboBox&>(row.control(*this)).setItems(stores::values(istasyon.stores.personal, row.table));
+  }
+}
+
+void FrmMain::hastaoku() {
+  if (istasyon.SeciliHasta.empty()) return;
+  dao::Recordset& cards = tablo();
+  if (!cards.Seek("=", istasyon.SeciliHasta) || cards.NoMatch()) return;
+  const bool hidden = gizliMi(cards.Fields("Key").text());
+  alanlariYukle();
+  if (hidden) Txtİsim.setText("");
+  TxtEskiİsim.setText(Txtİsim.text());
+  istasyon.SeciliHasta = cards.Fields("Name").text();
+  Txtyaş.setVisible(false);
+  const std::string year = cards.Fields("Year of Birth").text();
+  const auto date = cards.Fields("Date of Birth").Value().date();
+  TxtDTarihi.setText(!year.empty() ? year : date ? text::shortDate(*date) : std::string());
+  yasGoster();
+  listeyiKapat();
+  etkinlestir(mnusil, "Delete", !hidden);
+  muayenetusuboya();
+  durumYaz({});
+}
+
+// Steps 1 to 4 of a save: the row itself, under its old name when the user declines the new one.
+dao::Status FrmMain::kaydiBul() {
+  const std::string old = TxtEskiİsim.text();
+  if (!old.empty() && old != Txtİsim.text()) {
+    const bool rename = istasyon.evetMi(old + ", " + Txtİsim.text() + metinbul(istasyon, "msgisimdegisti"));
+    if (!rename) Txtİsim.setText(old);
+  }
+  const dao::Status sought = tablo().Seek("=", old.empty() ? Txtİsim.text() : old);
+  // A card that another station deleted meanwhile is stored anew, under the name on the screen.
+  if (!sought || !tablo().NoMatch() || old.empty()) return sought;
+  return tablo().Seek("=", Txtİsim.text());
+}
+
+dao::Status FrmMain::kartiYaz() {
+  auto transaction = istasyon.stores.personal.database.beginTransaction();
+  if (!transaction) return transaction.error();
+  const dao::Status begun = tablo().NoMatch() ? tablo().AddNew() : tablo().Edit();
+  if (!begun) return begun;
+  const dao::Status moved = Forumalanlaritasi();
+  const dao::Status updated = moved ? tablo().Update() : moved;
+  if (!updated) {
+    tablo().CancelUpdate();
+    return updated;
+  }
+  listelereEkle();
+  return transaction->commit();
+}
+
+// A value that its list refuses, such as one wider than the list's column, stays on the card alone.
+void FrmMain::listelereEkle() {
+  for (const ListField& row : listFields()) {
+    const std::string value = text::left(text::trim(row.control(*this).text()), row.cut);
+    stores::addValue(istasyon.stores.personal, row.table, value).ignore();
+  }
+}
+
+// A failed write leaves the card as it is, still to be saved: what was typed is not lost.
+void FrmMain::kayityap() {
+  Txtİsim.setText(text::trim(Txtİsim.text()));
+  const dao::Status found = kaydiBul();
+  const dao::Status written = found ? kartiYaz() : found;
+  if (!written) {
+    durumYaz(phrase(istasyon, shell::Phrase::StateNotSaved) + written.text());
+    istasyon.host.beep();
+    return;
+  }
+  TxtEskiİsim.setText(Txtİsim.text());
+  istasyon.SeciliHasta = Txtİsim.text();
+  hastaoku();
+  Eskialanmain();
+  durumYaz(phrase(istasyon, shell::Phrase::StateSaved) + text::shortTime(istasyon.clock.now()));
+}
+
+// The keyboard reaches Save without leaving the name field, so its question comes first.
+void FrmMain::Kaydet() {
+  if (activeControl() == &Txtİsim && isimBitti() == NameCheck::OtherPatientLoaded) return;
+  kayityap();
+}
+
+dao::Status FrmMain::Forumalanlaritasi() {
+  dao::Recordset& cards = tablo();
+  const dao::Status moved = RecordScreen::Forumalanlaritasi();
+  const std::string birth = text::trim(TxtDTarihi.text());
+  const bool isYear = text::isNumeric(birth) && text::length(birth) == 4;
+  const auto date = isYear ? std::nullopt : text::parseDate(birth, istasyon.clock.today());
+  const dao::Status dateSet = cards.Fields("Date of Birth").Set(date ? dao::Value(*date) : dao::Value());
+  const dao::Status yearSet = cards.Fields("Year of Birth").Set(isYear ? birth : std::string());
+  if (!moved) return moved;
+  return dateSet ? yearSet : dateSet;
+}
+
+void FrmMain::Yeni() {
+  alanlaribosalt();
+  Eskialanmain();
+  yonEtkin(Direction::Back, true);
+  yonEtkin(Direction::Forward, true);
+  TabStrip1.select("TSKişisel");
+  Txtİsim.setFocus();
+}
+
+void FrmMain::alanlaribosalt() {
+  RecordScreen::alanlaribosalt();
+  ComCinsiyet.setListIndex(unknownSex);
+  TxtEskiİsim.setText("");
+  Txtyaş.setText("");
+  Txtyaş.setVisible(false);
+  txtyaşı.setCaption("");
+  istasyon.SeciliHasta.clear();
+  listeyiKapat();
+  etkinlestir(mnuyeni, "New", false);
+  etkinlestir(mnusil, "Delete", false);
+  tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, shell::Visits::None));
+  durumYaz({});
+}
+
+void FrmMain::Sil() {
+  if (TxtEskiİsim.text().empty() || TxtEskiİsim.text() != Txtİsim.text()) return;
+  if (!tablo().Seek("=", TxtEskiİsim.text()) || tablo().NoMatch()) return;
+  if (!istasyon.evetMi(Txtİsim.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  const dao::Status deleted = tablo().Delete();
+  if (!deleted) return istasyon.host.runtimeError(deleted);
+  Listeleriyaz();
+  alanlaribosalt();
+  Eskialanmain();
+}
+
+bool FrmMain::kaydedilebilir() {
+  return !text::trimmed(Txtİsim.text()).empty() && shell::gecerliDogum(TxtDTarihi.text(), istasyon.clock.today());
+}
+
+void FrmMain::Cinsiyetrengi() {
+  const int sex = ComCinsiyet.listIndex();
+  Panofoto.setBackColour(sex == female ? forms::OptionalColour(femaleColour)
+                         : sex == male ? forms::OptionalColour(maleColour)
+                                       : std::nullopt);
+  BKadınDoğum.setEnabled(sex != male);
+}
+
+// One letter is enough: the beginning of a row chooses the row.
+void FrmMain::cinsiyetYazildi() {
+  const std::string first = text::upper(text::left(ComCinsiyet.text(), 1));
+  for (const int row : {female, male}) {
+    if (first.empty() || static_cast<std::size_t>(row) >= ComCinsiyet.items().size()) continue;
+    if (first == text::upper(text::left(ComCinsiyet.items()[static_cast<std::size_t>(row)], 1))) {
+      return ComCinsiyet.setListIndex(row);
+    }
+  }
+  Cinsiyetrengi();
+}
+
+void FrmMain::sekmeSecildi() {
+  struct Page {
+    std::string_view tab;
+    forms::Panel& panel;
+    forms::Control& first;
+  };
+  const std::array<Page, 4> pages{{{"TSKişisel", PKişisel, ComKanGrubu},
+                                   {"TSAdres", PAdres, ComHitap},
+                                   {"TSKurum", PKurum, ComKurum},
+                                   {"TSNot", PNot, txtnot}}};
+  for (const Page& page : pages) page.panel.setVisible(page.tab == TabStrip1.selected());
+  for (const Page& page : pages) {
+    if (page.tab == TabStrip1.selected()) page.first.setFocus();
+  }
+}
+
+void FrmMain::fotoSec() {
+  const auto chosen = istasyon.host.openFile(
+      {.title = Butfoto.caption(), .filters = {"*.bmp", "*.jpg", "*.ico"}, .folder = istasyon.dosya("Image")});
+  if (chosen) txtfoto.setText(*chosen);
+}
+
+void FrmMain::panofotoBoyutu(int panelWidth, int panelHeight) {
+  panofoto_ = {panelWidth, panelHeight};
+  ResimBoyutla();
+}
+
+// A file that is no picture leaves the frame empty; the field keeps its path.
+void FrmMain::ResimBoyutla() {
+  const auto size = txtfoto.text().empty() ? std::nullopt : istasyon.host.pictureSize(txtfoto.text());
+  ImgFoto.setPath(size ? txtfoto.text() : std::string());
+  ImgFoto.setFrame(size ? fitted({size->width, size->height}, panofoto_) : forms::Picture::Frame());
+}
+
+}  // namespace registry

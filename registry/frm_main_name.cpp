@@ -1,0 +1,131 @@
+// The name field: search as you type, the list under it, and the rule that tells namesakes apart.
+#include <algorithm>
+
+#include "platform/text/utf8.h"
+#include "registry/frm_main.h"
+#include "shell/frm_pass.h"
+#include "shell/phrases.h"
+#include "shell/speciality.h"
+#include "shell/text_lookup.h"
+
+namespace registry {
+
+namespace {
+
+constexpr int mostRowsShown = 5;
+constexpr std::size_t nameWidth = 40;
+
+// The name with one more mark; a name that fills its field gives up its last letter for it.
+std::string withMark(const std::string& name) {
+  if (text::length(name) < nameWidth) return name + "*";
+  const std::string bare = shell::RecordScreen::sisim(name);
+  const std::string marks = name.substr(bare.size());
+  return text::left(bare, static_cast<std::ptrdiff_t>(text::length(bare)) - 1) + marks + "*";
+}
+
+}  // namespace
+
+bool FrmMain::gizliMi(std::string_view key) const {
+  const forms::ToolButton* const locked = tbToolBar.button("keyclose");
+  return locked != nullptr && locked->visible && text::trimmed(key) == hiddenMark;
+}
+
+void FrmMain::isimleriAc(bool unlocked) {
+  tbToolBar.setButtonVisible("keyclose", !unlocked);
+  tbToolBar.setButtonVisible("keyopen", unlocked);
+  tbToolBar.setButtonVisible("idpass", unlocked && istasyon.screens.has("Frmkey"));
+}
+
+void FrmMain::isimSifresi() {
+  if (!shell::sifreSor(istasyon, shell::password::names)) return;
+  istasyon.SifreSonucu = 0;
+  isimleriAc(true);
+}
+
+void FrmMain::datlistele() { listeyiBaslat(dao::Fold::General); }
+void FrmMain::datlisteleTUR() { listeyiBaslat(dao::Fold::Turkish); }
+
+void FrmMain::listeyiBaslat(dao::Fold fold) {
+  listeyiKapat();
+  const auto hidden = gizliMi(hiddenMark) ? HiddenPatients::PassedOver : HiddenPatients::Shown;
+  const platform::Status started = isimler_.start(istasyon.stores.personal.database, Txtİsim.text(), fold, hidden);
+  if (!started) return durumYaz(started.text());
+  listeyiSurdur();
+}
+
+// One slice of the search; the rest is put off so that keys are answered in between.
+void FrmMain::listeyiSurdur() {
+  listeBekliyor_ = false;
+  const bool done = isimler_.step();
+  Lstdat.appendItems(isimler_.take());
+  Lstdat.setVisibleRows(std::min(static_cast<int>(Lstdat.count()), mostRowsShown));
+  Lstdat.setVisible(Lstdat.count() > 0);
+  if (done) return durumYaz(phrase(istasyon, shell::Phrase::PatientCount) + std::to_string(Lstdat.count()));
+  listeBekliyor_ = true;
+  istasyon.host.later([this, alive = yasiyor_] {
+    if (*alive && listeBekliyor_) listeyiSurdur();
+  });
+}
+
+void FrmMain::listeyiKapat() {
+  isimler_.stop();
+  listeBekliyor_ = false;
+  Lstdat.clear();
+  Lstdat.setVisible(false);
+}
+
+void FrmMain::hastaSec(const std::string& name) {
+  secimdenOnce();
+  istasyon.SeciliHasta = name;
+  hastaoku();
+  Eskialanmain();
+  Lstdat.setVisible(false);
+}
+
+void FrmMain::secimdenOnce() {
+  if (!mnukaydet.enabled()) return;
+  if (TxtEskiİsim.text().empty()) return kayitkontrol();
+  // What stands in the name field was typed to find somebody; the other fields belong to the old name.
+  const std::string typed = Txtİsim.text();
+  Txtİsim.setText(TxtEskiİsim.text());
+  kayitkontrol();
+}
+
+FrmMain::NameCheck FrmMain::isimBitti() {
+  Lstdat.setVisible(false);
+  Txtİsim.setText(text::trim(Txtİsim.text()));
+  if (Txtİsim.text().empty() || Txtİsim.text() == TxtEskiİsim.text()) return NameCheck::Kept;
+  const bool onlyOne = Lstdat.count() == 1 && !isimler_.running();
+  if (onlyOne && text::length(Txtİsim.text()) == text::length(Lstdat.items().front().text)) {
+    Txtİsim.setText(Lstdat.items().front().text);
+  }
+  listeyiKapat();
+  if (adasSor() == NameCheck::OtherPatientLoaded) return NameCheck::OtherPatientLoaded;
+  const bool sexChosen = ComCinsiyet.listIndex() == 0 || ComCinsiyet.listIndex() == 1;
+  if (istasyon.BransKodu == shell::brans::koduKadinDogum && !sexChosen) ComCinsiyet.setListIndex(0);
+  return NameCheck::Kept;
+}
+
+// While the name belongs to another patient: that one is loaded, or the name gets one more mark.
+FrmMain::NameCheck FrmMain::adasSor() {
+  while (baskaHasta(Txtİsim.text())) {
+    const std::string name = Txtİsim.text();
+    if (!istasyon.evetMi(name + metinbul(istasyon, "msgisimtekrari"))) {
+      istasyon.SeciliHasta = name;
+      hastaoku();
+      Eskialanmain();
+      return NameCheck::OtherPatientLoaded;
+    }
+    Txtİsim.setText(withMark(name));
+  }
+  return NameCheck::Kept;
+}
+
+// The patient on the card is no namesake of itself, whatever the case of the letters.
+bool FrmMain::baskaHasta(const std::string& name) {
+  dao::Recordset& cards = tablo();
+  if (!cards.Seek("=", name) || cards.NoMatch()) return false;
+  return cards.Fields("Name").text() != TxtEskiİsim.text();
+}
+
+}  // namespace registry

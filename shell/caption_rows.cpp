@@ -1,0 +1,186 @@
+#include "shell/caption_rows.h"
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+using enum CaptionKind;
+
+constexpr std::array menuRows{
+    CaptionRow{"MnuDosya", "Dosya", Menu},
+    CaptionRow{"mnuyeni", "Yeni", Menu},
+    CaptionRow{"mnukaydet", "Kaydet", Menu},
+    CaptionRow{"mnusil", "Sil", Menu},
+    CaptionRow{"mnuonizleme", "onizleme", Menu},
+    CaptionRow{"mnuyazdır", "yazdir", Menu},
+    CaptionRow{"mnucik", "cik", Menu},
+    CaptionRow{"MnuDuzen", "duzen", Menu},
+    CaptionRow{"mnugerial", "gerial", Menu},
+    CaptionRow{"mnukes", "Kes", Menu},
+    CaptionRow{"mnukopyala", "Kopyala", Menu},
+    CaptionRow{"mnuyapıştır", "yapistir", Menu},
+    CaptionRow{"mnugeri", "Geri", Menu},
+    CaptionRow{"mnuileri", "ileri", Menu},
+    CaptionRow{"MnuKayit", "Muayene", Menu},
+    CaptionRow{"mnumuayene1", "Muayene", Menu},
+    CaptionRow{"MnuMuayene2", "Muayene", Menu},
+    CaptionRow{"MnuMuayene3", "Muayene", Menu},
+    CaptionRow{"MnuMuayene4", "Muayene", Menu},
+    CaptionRow{"MnuMuayene5", "Muayene", Menu},
+    CaptionRow{"MnuMuayene6", "Muayene", Menu},
+    CaptionRow{"MnuMuayene7", "Muayene", Menu},
+    CaptionRow{"Mnumuayene9", "Patoloji Raporu", Menu},
+    CaptionRow{"MnuMuayene10", "Muayene", Menu},
+    CaptionRow{"mnumuayene13", "sigarabrakma", Menu},
+    CaptionRow{"mnumuayene14", "radyolojiraporu", Menu},
+    CaptionRow{"MnuMuayene20", "Muayene", Menu},
+    CaptionRow{"mnutest", "testsonuclari", Menu},
+    CaptionRow{"mnuasi", "asi", Menu},
+    CaptionRow{"mnufizikgelişme", "fizikgelisme", Menu},
+    CaptionRow{"mnumotmengelişme", "motormentalgel", Menu},
+    CaptionRow{"mnugebetakip", "gebetakip", Menu},
+    CaptionRow{"mnuameliyat", "Ameliyat", Menu},
+    CaptionRow{"mnulens", "Lens", Menu},
+    CaptionRow{"mnueko", "Eko", Menu},
+    CaptionRow{"mnuefor", "Efor", Menu},
+    CaptionRow{"mnuanjiyo", "Anjiyo", Menu},
+    CaptionRow{"mnusigara", "sigara", Menu},
+    CaptionRow{"mnusigarabp", "sigarabrakmaprogramı", Menu},
+    CaptionRow{"MnuListeler", "Listeler", Menu},
+    CaptionRow{"mnugünlükmuayeneler", "gunlukmuayeneler", Menu},
+    CaptionRow{"mnumuayenetarihleri", "muayenetarihleri", Menu},
+    CaptionRow{"mnulensstok", "lensstok", Menu},
+    CaptionRow{"mnubekdoğum", "beklenendogumlar", Menu},
+    CaptionRow{"mnuara", "Ara", Menu},
+    CaptionRow{"mnubul", "Bul", Menu},
+    CaptionRow{"mnumuayeneara", "muayeneara", Menu},
+    CaptionRow{"mnuraporara", "raporara", Menu},
+    CaptionRow{"mnutestara", "tetkikara", Menu},
+    CaptionRow{"mnuameliyatara", "ameliyatara", Menu},
+    CaptionRow{"mnuekoara", "ekoara", Menu},
+    CaptionRow{"mnueforara", "eforara", Menu},
+    CaptionRow{"mnuanjiyoara", "anjiyoara", Menu},
+    CaptionRow{"mnulensara", "lensara", Menu},
+    CaptionRow{"MnuSecenek", "araclar", Menu},
+    CaptionRow{"mnusecenekler", "secenek", Menu},
+    CaptionRow{"MnuYardim", "yardim", Menu},
+    CaptionRow{"mnuhakkinda", "hakkinda", Menu},
+};
+
+constexpr std::array cardRows{
+    CaptionRow{"TabStrip1", "kisisel"},
+    CaptionRow{"Txtyaş", "yasi"},
+    CaptionRow{"Lstdat", "isim"},
+    CaptionRow{"ImgFoto", "fotograf"},
+    CaptionRow{"PKişisel", "kisisel"},
+    CaptionRow{"PAdres", "Adres"},
+    CaptionRow{"PKurum", "Kurum"},
+    CaptionRow{"PNot", "Notlar"},
+    CaptionRow{"butfatbil", "faturabilgisi", Ellipsis},
+    CaptionRow{"PResim", "Resim"},
+    CaptionRow{"Picbranslar", "brans"},
+    CaptionRow{"Bdahiliye", "ichastaliklari"},
+    CaptionRow{"BCerrahi", "Cerrahi"},
+    CaptionRow{"BÇocuk", "cocukhastaliklari"},
+    CaptionRow{"BKadınDoğum", "kadindogum"},
+    CaptionRow{"BGöz", "goz"},
+    CaptionRow{"BKBB", "KBB"},
+    CaptionRow{"BGenel", "genelhastatakip"},
+    CaptionRow{"Pexam", "gunlukmuayeneler"},
+    CaptionRow{"txttarih", "Tarih"},
+    CaptionRow{"Liste", "gunlukmuayeneler"},
+};
+
+constexpr std::array optionRows{
+    CaptionRow{"FrmOption", "secenek", Window},
+    CaptionRow{"PAyarlar", "genelayarlar"},
+    CaptionRow{"OptTR", "turkce"},
+    CaptionRow{"OptGB", "ingilizce"},
+    CaptionRow{"dghatirlat", "dogumgunuhatitlat"},
+    CaptionRow{"Comgönce", "gunonce"},
+    CaptionRow{"txtbtime", "randevubaslangici"},
+    CaptionRow{"txtintapp", "randevuaraligi"},
+    CaptionRow{"chkrandevuaçılış", "acilistarandevularigoster"},
+    CaptionRow{"chkrandevukapanış", "kapanistarandevularigoster"},
+    CaptionRow{"acilistasifresor", "acilistasifresor"},
+    CaptionRow{"optaçma", "acma"},
+    CaptionRow{"optkısıtlıaç", "kisitliac"},
+    CaptionRow{"hesaplardasifre", "hesaplardasifresor"},
+    CaptionRow{"chkçıkyedek", "cikistayedekle"},
+    CaptionRow{"chsigarabrakma", "sigarabrakmaprogramı"},
+    CaptionRow{"PListeler", "Listeler"},
+    CaptionRow{"comdogumyeri", "dogumyeri", Plain, "FrmOption"},
+    CaptionRow{"ComMeslek", "Meslek", Plain, "FrmOption"},
+    CaptionRow{"ComHitap", "Hitap", Plain, "FrmOption"},
+    CaptionRow{"ComKurum", "Kurum", Plain, "FrmOption"},
+    CaptionRow{"comgorev", "gorev", Plain, "FrmOption"},
+    CaptionRow{"comyakinlik", "yakinlik", Plain, "FrmOption"},
+    CaptionRow{"ComRefere", "refereeden", Plain, "FrmOption"},
+    CaptionRow{"mnuekle", "Ekle"},
+    CaptionRow{"mnudüzen", "duzen"},
+    CaptionRow{"mnusil", "Sil", Plain, "FrmOption"},
+    CaptionRow{"PBaşlık", "baslik"},
+    CaptionRow{"ComFontName", "yazitipi"},
+    CaptionRow{"ComFontSize", "Boyut"},
+    CaptionRow{"rtfText", "baslik"},
+};
+
+constexpr std::array dialogRows{
+    CaptionRow{"buttamam", "Tamam"},          CaptionRow{"Butİptal", "iptal"},
+    CaptionRow{"butkapat", "kapat"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
+    CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
+    CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
+    CaptionRow{"frmmax", "fotograf", Window},
+};
+
+template <std::size_t... Sizes>
+constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
+  std::array<CaptionRow, (Sizes + ...)> all{};
+  auto* at = all.data();
+  (..., [&] {
+    for (const CaptionRow& row : parts) *at++ = row;
+  }());
+  return all;
+}
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows);
+
+constexpr std::array toolTips{
+    KeyedCaption{"New", "Yeni"},          KeyedCaption{"Save", "Kaydet"},
+    KeyedCaption{"Delete", "Sil"},        KeyedCaption{"Geri", "Geri"},
+    KeyedCaption{"ileri", "ileri"},       KeyedCaption{"Find", "Bul"},
+    KeyedCaption{"smok", "sigarabrakmaprogramı"}, KeyedCaption{"keyclose", "isimgizle"},
+    KeyedCaption{"keyopen", "isimsifrele"}, KeyedCaption{"idpass", "listeduzenle"},
+    KeyedCaption{"Exit", "cik"},          KeyedCaption{"Undo", "gerial"},
+    KeyedCaption{"Cut", "Kes"},           KeyedCaption{"Copy", "Kopyala"},
+    KeyedCaption{"Paste", "yapistir"},    KeyedCaption{"Bold", "kalin"},
+    KeyedCaption{"Italic", "italik"},     KeyedCaption{"Underline", "alticizili"},
+    KeyedCaption{"Color", "Renk"},        KeyedCaption{"Align Left", "solayasla"},
+    KeyedCaption{"Center", "Ortala"},     KeyedCaption{"Align Right", "sagayasla"},
+};
+
+constexpr std::array tabs{
+    KeyedCaption{"TSKişisel", "kisisel"}, KeyedCaption{"TSAdres", "Adres"},
+    KeyedCaption{"TSKurum", "Kurum"},     KeyedCaption{"TSNot", "Notlar"},
+    KeyedCaption{"TSAyarlar", "genelayarlar"}, KeyedCaption{"TSListeler", "Listeler"},
+    KeyedCaption{"TSBaşlık", "baslik"},
+};
+
+constexpr std::array phrases{
+    PhraseRow{"Butfoto", Phrase::ChoosePhotograph},
+    PhraseRow{"butresimseç", Phrase::LetterheadPicture},
+    PhraseRow{"butikonseç", Phrase::LetterheadIcon},
+    PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
+    PhraseRow{"Imgicon", Phrase::LetterheadIcon},
+    PhraseRow{"LblDil", Phrase::Language},
+};
+
+}  // namespace
+
+std::span<const CaptionRow> captionRows() { return allRows; }
+std::span<const KeyedCaption> toolTipRows() { return toolTips; }
+std::span<const KeyedCaption> tabRows() { return tabs; }
+std::span<const PhraseRow> phraseCaptions() { return phrases; }
+
+}  // namespace shell

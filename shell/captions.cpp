@@ -1,0 +1,56 @@
+#include "shell/captions.h"
+
+#include "platform/forms/menu.h"
+#include "shell/caption_rows.h"
+#include "shell/phrases.h"
+#include "shell/text_lookup.h"
+
+namespace shell {
+
+namespace {
+
+std::string worded(Station& istasyon, const CaptionRow& row) {
+  const std::string word = metinbul(istasyon, row.key);
+  switch (row.kind) {
+    case CaptionKind::Menu: return "&" + word;
+    case CaptionKind::Colon: return word + ":";
+    case CaptionKind::Ellipsis: return "..." + word;
+    case CaptionKind::Plain:
+    case CaptionKind::Window: break;
+  }
+  return word;
+}
+
+void captionControls(Station& istasyon, forms::Form& form) {
+  for (const CaptionRow& row : captionRows()) {
+    if (!row.form.empty() && row.form != form.name()) continue;
+    if (row.kind == CaptionKind::Window) {
+      if (row.control == form.name()) form.setCaption(worded(istasyon, row));
+    } else if (forms::Control* control = form.find(row.control)) {
+      control->setCaption(worded(istasyon, row));
+    }
+  }
+  for (const PhraseRow& row : phraseCaptions()) {
+    if (forms::Control* control = form.find(row.control)) control->setCaption(phrase(istasyon, row.phrase));
+  }
+}
+
+}  // namespace
+
+void basliklariyaz(Station& istasyon, forms::Form& form) {
+  captionControls(istasyon, form);
+  for (forms::Control* control : form.controls()) {
+    if (auto* toolbar = dynamic_cast<forms::Toolbar*>(control)) {
+      for (const KeyedCaption& row : toolTipRows()) toolbar->setButtonToolTip(row.key, metinbul(istasyon, row.textKey));
+    }
+    if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) {
+      for (const KeyedCaption& row : tabRows()) strip->setTabCaption(row.key, metinbul(istasyon, row.textKey));
+    }
+  }
+}
+
+void alanBasliklari(Station& istasyon, forms::Form& form, std::span<const FieldRow> fields) {
+  for (const FieldRow& row : fields) row.control(form).setCaption(metinbul(istasyon, row.captionKey));
+}
+
+}  // namespace shell

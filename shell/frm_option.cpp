@@ -1,0 +1,115 @@
+#include "shell/frm_option.h"
+
+#include <array>
+
+#include "platform/text/number.h"
+#include "shell/captions.h"
+#include "shell/frm_pass.h"
+#include "shell/speciality.h"
+#include "shell/text_lookup.h"
+
+namespace shell {
+
+namespace {
+
+constexpr std::array reminderDays{"0", "1", "3", "5", "10", "15", "20", "30"};
+
+// Which setting each box and field stands for, in the order of saving; the password boxes come between.
+struct BoxSetting {
+  std::string_view key;
+  forms::CheckBox FrmOption::*box;
+};
+constexpr std::array<BoxSetting, 7> boxes{{
+    {"oppas", &FrmOption::acilistasifresor},
+    {"accpas", &FrmOption::hesaplardasifre},
+    {"BDrem", &FrmOption::dghatirlat},
+    {"openapp", &FrmOption::chkrandevuaçılış},
+    {"closeapp", &FrmOption::chkrandevukapanış},
+    {"closebackup", &FrmOption::chkçıkyedek},
+    {"smok", &FrmOption::chsigarabrakma},
+}};
+
+}  // namespace
+
+FrmOption::FrmOption(Station& station) : Form("FrmOption"), istasyon(station) {
+  TabStrip1.Click.connect([this] { sekmeSec(); });
+  ayarlariBagla();
+  listeleriBagla();
+  basligiBagla();
+  buttamam.Click.connect([this] {
+    AyarKaydet();
+    ListKaydet();
+    BaşlıkKaydet();
+    istasyon.host.close(*this);
+  });
+  Butİptal.Click.connect([this] { istasyon.host.close(*this); });
+}
+
+void FrmOption::Load() {
+  basliklariyaz(istasyon, *this);
+  Comgönce.setItems({reminderDays.begin(), reminderDays.end()});
+  ayarlariOku();
+  ListeleriKaydet();
+  basligiOku();
+  sekmeSec();
+}
+
+void FrmOption::sekmeSec() {
+  PAyarlar.setVisible(TabStrip1.selected() == "TSAyarlar");
+  PListeler.setVisible(TabStrip1.selected() == "TSListeler");
+  PBaşlık.setVisible(TabStrip1.selected() == "TSBaşlık");
+}
+
+void FrmOption::ayarlariBagla() {
+  LblDil.setVisible(false);
+  OptTR.Click.connect([this] { LblDil.setCaption("tr"); });
+  OptGB.Click.connect([this] { LblDil.setCaption("eng"); });
+  acilistasifresor.MouseDown.connect([this](bool& eaten) { sifreIle(acilistasifresor, password::opening, eaten); });
+  hesaplardasifre.MouseDown.connect([this](bool& eaten) { sifreIle(hesaplardasifre, password::accounts, eaten); });
+  chkçıkyedek.MouseDown.connect([this](bool& eaten) {
+    if (!chkçıkyedek.value()) eaten = !yedekKlasoru();
+  });
+}
+
+void FrmOption::ayarlariOku() {
+  (istasyon.ayar("Language") == "tr" ? OptTR : OptGB).setValue(true);
+  for (const BoxSetting& row : boxes) (this->*row.box).setValue(text::Val(istasyon.ayar(row.key, "0")) != 0);
+  (istasyon.ayar("nopen", "1") == "False" ? optkısıtlıaç : optaçma).setValue(true);
+  Comgönce.setText(istasyon.ayar("remday", "0"));
+  txtbtime.setText(istasyon.ayar("btime", "12:00"));
+  txtintapp.setText(istasyon.ayar("intapp", "30"));
+  chsigarabrakma.setEnabled(istasyon.BransKodu == brans::koduDahiliye);
+}
+
+void FrmOption::AyarKaydet() {
+  istasyon.ayarYaz("btime", txtbtime.text());
+  istasyon.ayarYaz("intapp", txtintapp.text());
+  istasyon.ayarYaz("nopen", optaçma.value() ? "True" : "False");
+  istasyon.ayarYaz("remday", Comgönce.text());
+  for (const BoxSetting& row : boxes) istasyon.ayarYaz(row.key, (this->*row.box).value() ? "1" : "0");
+  if (istasyon.kart != nullptr) istasyon.kart->sigaraGirisi();
+  if (LblDil.caption() != istasyon.ayar("Language")) dilDegistir();
+}
+
+void FrmOption::dilDegistir() {
+  istasyon.ayarYaz("Language", LblDil.caption());
+  basliklariyaz(istasyon, *this);
+  if (istasyon.kart != nullptr) istasyon.kart->dilDegisti();
+}
+
+// A box with a password behind it changes only when the password dialog accepts.
+void FrmOption::sifreIle(forms::CheckBox& box, std::string_view key, bool& eaten) {
+  eaten = true;
+  if (!sifreSor(istasyon, key)) return;
+  istasyon.SifreSonucu = 0;
+  box.setValue(!box.value());
+}
+
+// Backing up at exit wants a folder first.
+bool FrmOption::yedekKlasoru() {
+  const auto folder = istasyon.host.chooseFolder(metinbul(istasyon, "Yedekle"), istasyon.ayar("BackUp", istasyon.dosya("Backup")));
+  if (folder) istasyon.ayarYaz("BackUp", *folder);
+  return folder.has_value();
+}
+
+}  // namespace shell

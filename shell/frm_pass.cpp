@@ -1,0 +1,71 @@
+#include "shell/frm_pass.h"
+
+#include "shell/captions.h"
+#include "shell/text_lookup.h"
+
+namespace shell {
+
+FrmPass::FrmPass(Station& station) : Form("frmpass"), istasyon(station) {
+  lblpass.setVisible(false);
+  lblsifre.setVisible(false);
+  lblsifre.Change.connect([this] {
+    ButŞifreDeğiştir.setEnabled(!lblsifre.caption().empty());
+    if (!lblsifre.caption().empty()) LŞifbilgi.setCaption(metinbul(istasyon, "msgsifregir"));
+  });
+  ButŞifreDeğiştir.setEnabled(false);
+  buttamam.Click.connect([this] { tamam(); });
+  Butİptal.Click.connect([this] { istasyon.host.close(*this); });
+  ButŞifreDeğiştir.Click.connect([this] { degistir(); });
+}
+
+void FrmPass::Load() {
+  basliklariyaz(istasyon, *this);
+  istasyon.SifreSonucu = 0;
+  LŞifbilgi.setCaption(metinbul(istasyon, "msgyenisifregir"));
+  txtsifre.setFocus();
+}
+
+// A first entry becomes the value to be matched by a second one; a wrong entry ends the dialog.
+void FrmPass::tamam() {
+  const std::string typed = txtsifre.text();
+  if (typed.empty()) return istasyon.host.close(*this);
+  if (lblsifre.caption().empty()) {
+    istasyon.bilgi(metinbul(istasyon, "msgsifreyiyenidengir"));
+    lblsifre.setCaption(typed);
+    LŞifbilgi.setCaption(metinbul(istasyon, "msgsifreyiyenidengir"));
+    txtsifre.setText("");
+    return txtsifre.setFocus();
+  }
+  if (typed == lblsifre.caption()) {
+    istasyon.ayarYaz(lblpass.caption(), typed);
+    istasyon.SifreSonucu = 1;
+  } else {
+    yanlisSifre();
+  }
+  istasyon.host.close(*this);
+}
+
+void FrmPass::degistir() {
+  const std::string old =
+      istasyon.host.inputBox(metinbul(istasyon, "inpeskisifregir"), ButŞifreDeğiştir.caption(), "");
+  if (old != lblsifre.caption()) return yanlisSifre();
+  lblsifre.setCaption("");
+  txtsifre.setText("");
+  LŞifbilgi.setCaption(metinbul(istasyon, "msgyenisifregir"));
+}
+
+void FrmPass::yanlisSifre() {
+  istasyon.mesaj(metinbul(istasyon, "msghatalisifre"), host::Buttons::Ok, host::Icon::Critical);
+}
+
+bool sifreSor(Station& istasyon, std::string_view key, PasswordChange change) {
+  FrmPass dialog(istasyon);
+  dialog.Load();
+  dialog.lblpass.setCaption(std::string(key));
+  dialog.lblsifre.setCaption(istasyon.ayar(key));
+  if (change == PasswordChange::Withheld) dialog.ButŞifreDeğiştir.setVisible(false);
+  istasyon.host.showModal(dialog);
+  return istasyon.SifreSonucu == 1;
+}
+
+}  // namespace shell

@@ -1,0 +1,46 @@
+// The password dialog: asks for, creates and changes the passwords of the settings.
+#pragma once
+
+#include <string_view>
+
+#include "platform/forms/button.h"
+#include "platform/forms/label.h"
+#include "platform/forms/text_control.h"
+#include "shell/station.h"
+
+namespace shell {
+
+class FrmPass : public forms::Form {
+ public:
+  explicit FrmPass(Station& istasyon);
+
+  forms::Label LŞifbilgi{*this, "LŞifbilgi"};  // the prompt
+  forms::TextBox txtsifre{*this, "txtsifre", forms::TextLines::Single, forms::TextEcho::Password};
+  forms::CommandButton buttamam{*this, "buttamam"};
+  forms::CommandButton Butİptal{*this, "Butİptal"};
+  forms::CommandButton ButŞifreDeğiştir{*this, "ButŞifreDeğiştir"};
+  forms::Label lblpass{*this, "lblpass"};    // the settings key of the password in question
+  forms::Label lblsifre{*this, "lblsifre"};  // the stored value; empty when none is set
+
+  void Load() override;
+
+ private:
+  void tamam();
+  void degistir();
+  void yanlisSifre();
+
+  Station& istasyon;
+};
+
+namespace password {
+inline constexpr std::string_view opening = "openpass";
+inline constexpr std::string_view accounts = "account";
+inline constexpr std::string_view names = "namepass";
+}  // namespace password
+
+enum class PasswordChange { Offered, Withheld };
+
+// Asks for the password of that key, or for a new one when none is set. The answer is in SifreSonucu as well.
+[[nodiscard]] bool sifreSor(Station& istasyon, std::string_view key, PasswordChange change = PasswordChange::Offered);
+
+}  // namespace shell

@@ -1,0 +1,42 @@
+#include "shell/list_completion.h"
+
+#include <algorithm>
+
+#include "platform/text/fold.h"
+#include "platform/text/utf8.h"
+
+namespace shell {
+
+namespace {
+
+bool steers(int code) {
+  return code == forms::key_code::Delete || code < forms::key_code::Space ||
+         (code >= forms::key_code::Left && code <= forms::key_code::Down);
+}
+
+std::string comparable(std::string_view text) { return text::trim(text::upper(text)); }
+
+}  // namespace
+
+void completeFromList(forms::ComboBox& combo, const forms::Key& key) {
+  if (steers(key.code) || key.control || key.alt) return;
+  const std::string typed = combo.text();
+  const auto length = static_cast<std::ptrdiff_t>(text::length(typed));
+  const std::string wanted = comparable(typed);
+  const auto row = std::ranges::find_if(
+      combo.items(), [&](const std::string& item) { return comparable(text::left(item, length)) == wanted; });
+  if (row == combo.items().end()) return;
+  combo.setText(typed + text::mid(*row, length + 1));
+  combo.select(static_cast<std::size_t>(length), text::length(combo.text()));
+}
+
+void keepTypedValue(forms::ComboBox& combo) {
+  if (combo.rowOf(combo.text()) < 0) combo.addItem(combo.text());
+}
+
+void completeWhileTyping(forms::ComboBox& combo) {
+  combo.KeyUp.connect([&combo](forms::Key key) { completeFromList(combo, key); });
+  combo.LostFocus.connect([&combo] { keepTypedValue(combo); });
+}
+
+}  // namespace shell

@@ -1,0 +1,32 @@
+// Words of the windows themselves, beside the vocabulary: hints and states that no key of it covers.
+#pragma once
+
+#include <string>
+
+#include "shell/station.h"
+
+namespace shell {
+
+enum class Phrase {
+  NotInThisVersion,  // behind the caption of an entry whose screen is missing
+  StateSaved,        // a time follows
+  StateChanged,
+  StateNotSaved,  // a reason follows
+  PatientCount,   // a number follows
+  NoNameFound,
+  NobodyExamined,
+  StationNumber,  // a number follows
+  AboutText,
+  EmptyList,
+  ChoosePhotograph,
+  RemovePicture,
+  LetterheadPicture,
+  LetterheadIcon,
+  Language,
+  OpeningFailed,
+  StoreFailed
+};
+
+[[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
+
+}  // namespace shell

@@ -1,0 +1,70 @@
+#include "shell/station.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "shell/phrases.h"
+#include "shell/text_lookup.h"
+
+namespace shell {
+
+namespace {
+
+std::string withSlash(std::string_view folder) {
+  std::string path(folder);
+  std::ranges::replace(path, '\\', '/');
+  if (path.empty() || path.back() != '/') path += '/';
+  return path;
+}
+
+// Without the folder, and without the ending that some systems give to programs.
+std::string bareName(std::string_view program) {
+  const std::filesystem::path name = std::filesystem::path(program).filename();
+  return name.extension() == ".exe" ? name.stem().string() : name.string();
+}
+
+}  // namespace
+
+Station::Station(World world, std::string_view folder, std::string_view program)
+    : host(world.host),
+      clock(world.clock),
+      settings(world.settings),
+      screens(world.screens),
+      UygYolu(withSlash(folder)),
+      programName(bareName(program)) {
+  stores.folder = UygYolu;
+}
+
+std::string Station::ayar(std::string_view key, std::string_view missing) const {
+  return std::string(settings.get(applicationName, mainSection, key, missing));
+}
+
+void Station::ayarYaz(std::string_view key, std::string_view value) {
+  const platform::Status written = settings.set(applicationName, mainSection, key, value);
+  if (!written) host.runtimeError(written);
+}
+
+host::Answer Station::mesaj(std::string_view text, host::Buttons buttons, host::Icon icon) {
+  return host.messageBox({.text = oneLineBreak(text),
+                          .title = kart == nullptr ? std::string(applicationName) : kart->baslik(),
+                          .buttons = buttons,
+                          .icon = icon});
+}
+
+bool Station::evetMi(std::string_view question) {
+  return mesaj(question, host::Buttons::YesNo, host::Icon::Question) == host::Answer::Yes;
+}
+
+void Station::bilgi(std::string_view text) { mesaj(text, host::Buttons::Ok, host::Icon::Information); }
+
+void Station::ekranAc(std::string_view name) {
+  const auto form = screens.make(name, *this);
+  if (form == nullptr) {
+    bilgi(std::string(name) + phrase(*this, Phrase::NotInThisVersion));
+    return;
+  }
+  form->Load();
+  host.showModal(*form);
+}
+
+}  // namespace shell

@@ -1,0 +1,68 @@
+// The state that all screens share, under the system's own names, read and written directly. A test can hold two
+// stations on one folder in one process.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/host/clock.h"
+#include "platform/host/host.h"
+#include "platform/settings/settings.h"
+#include "shell/patient_card.h"
+#include "shell/screen_directory.h"
+#include "stores/stores.h"
+
+namespace shell {
+
+struct Station {
+  // The program's folder, the file name that selects the speciality, and the world outside; none is owned.
+  struct World {
+    host::Host& host;
+    const host::Clock& clock;
+    settings::Settings& settings;
+    const ScreenDirectory& screens;
+  };
+  Station(World world, std::string_view folder, std::string_view programName);
+
+  host::Host& host;
+  const host::Clock& clock;
+  settings::Settings& settings;
+  const ScreenDirectory& screens;
+
+  std::string UygYolu;      // the program's folder, with a trailing slash
+  std::string programName;  // without folder and ending
+  std::string Dil;          // "tr" or anything else
+  std::string Surum;
+  int BransNo = 20;  // 1 to 14 or 20
+  int BransKodu = 335;
+  std::string BransAdi = "GenMed";
+  std::string SeciliHasta;  // the name of the patient on the card; empty when there is none
+
+  std::string AlanYedegi;     // the generic snapshot
+  std::string KartYedegi;     // the snapshot of the card
+  std::string MuayeneYedegi;  // the snapshot of the examination
+  std::string OncekiTarih;    // the date field's value when it took the focus
+  int SifreSonucu = 0;        // 1 when the password dialog accepted
+
+  stores::Stores stores;
+
+  // The patient card, while the main window is loaded.
+  PatientCard* kart = nullptr;
+
+  // Settings of the program, in its section `Main`.
+  [[nodiscard]] std::string ayar(std::string_view key, std::string_view missing = {}) const;
+  void ayarYaz(std::string_view key, std::string_view value);
+  [[nodiscard]] std::string dosya(std::string_view relative) const { return UygYolu + std::string(relative); }
+
+  // A message box under the main window's caption.
+  host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon);
+  [[nodiscard]] bool evetMi(std::string_view question);
+  void bilgi(std::string_view text);
+  // Opens a screen by its name and waits until it is closed; says so when this version has no such screen.
+  void ekranAc(std::string_view name);
+};
+
+inline constexpr std::string_view applicationName = "Sanavel";
+inline constexpr std::string_view mainSection = "Main";
+
+}  // namespace shell

@@ -1,0 +1,122 @@
+#include "stores/stores.h"
+
+#include <array>
+
+#include "platform/files/setting_record.h"
+#include "stores/clinical_schema.h"
+#include "stores/personal_schema.h"
+#include "stores/store_file.h"
+
+namespace stores {
+
+namespace {
+
+constexpr auto personalFile = "Data/Personal.mdb";
+constexpr auto clinicalFile = "Data/Sanavel.mdb";
+constexpr auto settingsFile = "Data/setting.dat";
+
+template <class Store>
+struct Handle {
+  std::string_view table;
+  dao::Recordset Store::*recordset;
+};
+
+// In the order of opening.
+constexpr std::array<Handle<PersonalStore>, 12> personalHandles{{
+    {"IDCard", &PersonalStore::IDCard},
+    {"Adressing", &PersonalStore::Adressing},
+    {"Place Of Birth", &PersonalStore::PlaceOfBirth},
+    {"Profession", &PersonalStore::Profession},
+    {"Company", &PersonalStore::Company},
+    {"Job", &PersonalStore::Job},
+    {"Relationship", &PersonalStore::Relationship},
+    {"Referance", &PersonalStore::Referance},
+    {"Appointment", &PersonalStore::Appointment},
+    {"Account", &PersonalStore::Account},
+    {"Financier", &PersonalStore::Financier},
+    {"Invoice", &PersonalStore::Invoice},
+}};
+constexpr std::array<Handle<ClinicalStore>, 1> clinicalHandles{{{"Visit", &ClinicalStore::Visit}}};
+
+template <class Store, std::size_t N>
+dao::Status openHandles(Store& store, const std::array<Handle<Store>, N>& handles, Schema schema) {
+  for (const Handle<Store>& handle : handles) {
+    auto recordset = openTable(store.database, *tableOf(schema, handle.table));
+    if (!recordset) return recordset.error();
+    store.*handle.recordset = std::move(*recordset);
+  }
+  return {};
+}
+
+template <class Store, std::size_t N>
+dao::Status openStore(Store& store, const std::string& path, const std::array<Handle<Store>, N>& handles,
+                      Schema schema) {
+  store = {};
+  auto database = dao::OpenDatabase(path);
+  if (!database) return database.error();
+  store.database = std::move(*database);
+  return openHandles(store, handles, schema);
+}
+
+// Opens, and on any failure creates what is missing and opens again.
+template <class Open, class Create>
+dao::Status openOrCreate(Open open, Create create) {
+  const dao::Status opened = open();
+  if (opened) return opened;
+  const dao::Status created = create();
+  return created ? open() : created;
+}
+
+template <class Store>
+dao::Status createInto(Store& store, const std::string& path, Schema schema) {
+  store = {};
+  auto database = createStore(path, dao::Order::General, schema);
+  if (!database) return database.error();
+  store.database = std::move(*database);
+  return {};
+}
+
+dao::Status openClinical(Stores& stores) {
+  return openStore(stores.clinical, stores.folder + clinicalFile, clinicalHandles, clinicalSchema());
+}
+
+dao::Status openSettings(Stores& stores) {
+  stores.settings.reset();
+  auto file = files::RecordFile::open(stores.folder + settingsFile, files::SettingRecord::length);
+  if (!file) return file.error();
+  stores.settings = std::move(*file);
+  return {};
+}
+
+}  // namespace
+
+dao::Status OpenStores(Stores& stores) {
+  const std::array results{
+      openOrCreate([&] { return ReopenPersonalStore(stores); }, [&] { return CreatePersonalStore(stores); }),
+      openSettings(stores),
+      openOrCreate([&] { return openClinical(stores); }, [&] { return CreateClinicalStore(stores); })};
+  for (const dao::Status& result : results) {
+    if (!result) return result;
+  }
+  return {};
+}
+
+void CloseStores(Stores& stores) {
+  stores.personal = {};
+  stores.clinical = {};
+  stores.settings.reset();
+}
+
+dao::Status ReopenPersonalStore(Stores& stores) {
+  return openStore(stores.personal, stores.folder + personalFile, personalHandles, personalSchema());
+}
+
+dao::Status CreatePersonalStore(Stores& stores) {
+  return createInto(stores.personal, stores.folder + personalFile, personalSchema());
+}
+
+dao::Status CreateClinicalStore(Stores& stores) {
+  return createInto(stores.clinical, stores.folder + clinicalFile, clinicalSchema());
+}
+
+}  // namespace stores
