@@ -1,0 +1,247 @@
+#include "platform/dao/engine.h"
+
+#include <sqlite3.h>
+
+#include <array>
+
+#include "platform/dao/engine_fault.h"
+#include "platform/dao/engine_functions.h"
+
+namespace dao {
+namespace {
+
+constexpr std::int64_t kApplicationId = 0x534E564C;
+constexpr std::int64_t kGeneralMark = 1;
+constexpr std::int64_t kTurkishMark = 2;
+
+// How long another station's commit may go unnoticed while rows of one page are walked.
+constexpr std::chrono::microseconds kNoticeWithin{100};
+
+std::int64_t markOf(Order order) {
+  return order == Order::Turkish ? kTurkishMark : kGeneralMark;
+}
+
+bool isMarkedReadOnly(const std::filesystem::path& path) {
+  using std::filesystem::perms;
+  constexpr perms kWrite = perms::owner_write | perms::group_write | perms::others_write;
+  std::error_code error;
+  return (std::filesystem::status(path, error).permissions() & kWrite) == perms::none && !error;
+}
+
+Status fileFault(const std::filesystem::path& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  const std::string name = path.filename().string();
+  if (!std::filesystem::exists(status)) return {Fault::Missing, name + ": there is no such file."};
+  if (!std::filesystem::is_regular_file(status))
+    return {Fault::Damaged, name + ": this is not a store file."};
+  return {};
+}
+
+}  // namespace
+
+std::string sqlName(std::string_view name) {
+  std::string text = "\"";
+  for (const char character : name) text.append(character == '"' ? 2 : 1, character);
+  return text += '"';
+}
+
+Engine::Engine(const std::filesystem::path& path, Order order) : path_(path), order_(order) {}
+
+Result<std::shared_ptr<Engine>> Engine::open(const std::filesystem::path& path,
+                                             const OpenOptions& options) {
+  if (Status fault = fileFault(path); !fault) return std::unexpected(fault);
+  auto engine = std::make_shared<Engine>(std::filesystem::absolute(path), options.emptyFileOrder);
+  Status status = engine->connect(options);
+  if (status) status = engine->configure(options);
+  if (status) status = engine->readMarks(options);
+  if (!status) return std::unexpected(std::move(status));
+  return engine;
+}
+
+Status Engine::connect(const OpenOptions& options) {
+  const bool readOnly = options.access == Access::ReadOnly || isMarkedReadOnly(path_);
+  const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX;
+  if (sqlite3_open_v2(path_.c_str(), &handle_, flags, nullptr) != SQLITE_OK)
+    return fault(path_.filename().string());
+  sqlite3_extended_result_codes(handle_, 1);
+  sqlite3_busy_timeout(handle_, static_cast<int>(options.busyTimeout.count()));
+  return {};
+}
+
+Status Engine::configure(const OpenOptions&) {
+  const std::string subject = path_.filename().string();
+  if (auto tables = number("SELECT count(*) FROM sqlite_schema"); !tables) return tables.error();
+  // A file that is read-only keeps the journal mode that it has.
+  sqlite3_exec(handle_, kConnectionSettings.data(), nullptr, nullptr, nullptr);
+  return {};
+}
+
+Status Engine::readMarks(const OpenOptions& options) {
+  const auto tables = number("SELECT count(*) FROM sqlite_schema");
+  const auto application = number("PRAGMA application_id");
+  const auto mark = number("PRAGMA user_version");
+  for (const auto* each : {&tables, &application, &mark}) {
+    if (!*each) return each->error();
+  }
+  marked_ = *application == kApplicationId && (*mark == kGeneralMark || *mark == kTurkishMark);
+  if (!marked_ && *tables > 0) {
+    return {Fault::Unsupported,
+            path_.filename().string() + ": this file belongs to another program."};
+  }
+  order_ = !marked_                ? options.emptyFileOrder
+           : *mark == kTurkishMark ? Order::Turkish
+                                   : Order::General;
+  collator_ = std::make_unique<Collator>(order_);
+  if (!collator_->usable()) return {Fault::Other, "The collation rules of the system are missing."};
+  if (addFunctions(handle_, order_, *collator_) != SQLITE_OK)
+    return fault(path_.filename().string());
+  return {};
+}
+
+Result<std::int64_t> Engine::number(std::string_view sql) {
+  const std::string subject = path_.filename().string();
+  auto statement = prepare(sql, subject);
+  if (!statement) return std::unexpected(statement.error());
+  const auto row = statement->step(subject);
+  if (!row) return std::unexpected(row.error());
+  return *row ? statement->integer(0) : 0;
+}
+
+Status Engine::mark() {
+  if (marked_) return {};
+  const std::string subject = path_.filename().string();
+  const std::array statements{
+      "PRAGMA application_id=" + std::to_string(kApplicationId),
+      "PRAGMA user_version=" + std::to_string(markOf(order_)),
+      std::string(
+          "CREATE TABLE IF NOT EXISTS \"~store\"(name TEXT PRIMARY KEY, value TEXT) WITHOUT ROWID"),
+      "INSERT OR REPLACE INTO \"~store\" VALUES('collation', '" + collator_->version() + "')"};
+  for (const std::string& statement : statements) {
+    if (auto done = run(statement, subject); !done) return done.error();
+  }
+  marked_ = true;
+  return {};
+}
+
+void Engine::close() {
+  if (!handle_) return;
+  rollback();
+  while (sqlite3_stmt* statement = sqlite3_next_stmt(handle_, nullptr)) sqlite3_finalize(statement);
+  sqlite3_close(handle_);
+  handle_ = nullptr;
+}
+
+bool Engine::isReadOnly() const {
+  return handle_ && sqlite3_db_readonly(handle_, "main") == 1;
+}
+
+Result<Statement> Engine::prepare(std::string_view sql, std::string_view subject) {
+  if (!handle_) return std::unexpected(closedFault());
+  sqlite3_stmt* statement = nullptr;
+  const char* rest = nullptr;
+  const int size = static_cast<int>(sql.size());
+  if (sqlite3_prepare_v3(handle_, sql.data(), size, SQLITE_PREPARE_PERSISTENT, &statement, &rest) !=
+      SQLITE_OK) {
+    return std::unexpected(fault(subject));
+  }
+  Statement prepared(*this, statement);
+  const std::string_view tail = sql.substr(static_cast<std::size_t>(rest - sql.data()));
+  if (!statement || tail.find_first_not_of(" \t\r\n;") != tail.npos) {
+    return std::unexpected(
+        Status(Fault::Unsupported, std::string(subject) + ": exactly one statement is expected."));
+  }
+  return prepared;
+}
+
+Result<std::int64_t> Engine::run(std::string_view sql, std::string_view subject,
+                                 const std::vector<Value>& parameters) {
+  auto statement = prepare(sql, subject);
+  if (!statement) return std::unexpected(statement.error());
+  statement->bindAll(parameters);
+  const std::int64_t before = sqlite3_total_changes64(handle_);
+  for (;;) {
+    const auto row = statement->step(subject);
+    if (!row) return std::unexpected(row.error());
+    if (!*row) return sqlite3_total_changes64(handle_) - before;
+  }
+}
+
+Status Engine::begin() {
+  if (depth_ == 0) {
+    doomed_ = false;
+    if (auto begun = run("BEGIN IMMEDIATE", path_.filename().string()); !begun)
+      return begun.error();
+  }
+  ++depth_;
+  return {};
+}
+
+Status Engine::commit() {
+  if (depth_ == 0) return {Fault::Other, "There is no open transaction."};
+  if (depth_ > 1) {
+    --depth_;
+    return {};
+  }
+  if (doomed_) {
+    rollback();
+    return {Fault::Other,
+            path_.filename().string() + ": a part of the work was given up, so all of it was."};
+  }
+  if (auto done = run("COMMIT", path_.filename().string()); !done) {
+    rollback();
+    return done.error();
+  }
+  depth_ = 0;
+  return {};
+}
+
+void Engine::rollback() {
+  if (depth_ == 0) return;
+  doomed_ = true;
+  if (--depth_ > 0) return;
+  // A full disk or a failed write may have rolled back already.
+  if (handle_ && !sqlite3_get_autocommit(handle_))
+    sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+  ++rollbacks_;
+}
+
+ChangeStamp Engine::changeStamp() {
+  if (!handle_) return {};
+  const auto now = std::chrono::steady_clock::now();
+  if (now - counterRead_ > kNoticeWithin) {
+    counter_ = fileCounter();
+    counterRead_ = now;
+  }
+  return {counter_, sqlite3_total_changes64(handle_) + rollbacks_};
+}
+
+// Read without a lock: a value caught in the middle of a commit only costs one more look.
+std::uint32_t Engine::fileCounter() {
+  constexpr sqlite3_int64 kCounterOffset = 24;
+  sqlite3_file* file = nullptr;
+  sqlite3_file_control(handle_, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+  std::array<unsigned char, 4> bytes{};
+  if (file && file->pMethods) file->pMethods->xRead(file, bytes.data(), 4, kCounterOffset);
+  std::uint32_t counter = 0;
+  for (const unsigned char byte : bytes) counter = counter << 8 | byte;
+  return counter;
+}
+
+std::int64_t Engine::lastNumber() const {
+  return handle_ ? sqlite3_last_insert_rowid(handle_) : 0;
+}
+
+Status Engine::fault(std::string_view subject) const {
+  return engineFault(handle_, subject);
+}
+
+std::string Engine::lastMessage() const {
+  return handle_ ? sqlite3_errmsg(handle_) : "";
+}
+
+Status Engine::closedFault() const {
+  return {Fault::NoCurrent, path_.filename().string() + ": the store has been closed."};
+}
+
+}  // namespace dao
