@@ -243,6 +243,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   [[nodiscard]] dao::Status kaydiBul();
   void listelereEkle();
 
+  void yasGoster();
   void dogumBitti();
   void yasBitti();
   void yasSor();

@@ -1,0 +1,122 @@
+#include "shell/frm_option.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "registry/frm_main.h"
+#include "stores/value_list.h"
+#include "tests/support/practice.h"
+
+namespace {
+
+struct Options : testing::Test {
+  Options() {
+    main.Load();
+    options.Load();
+  }
+  support::TemporaryFolder folder;
+  support::Desk desk{folder.path(), "IntMed"};
+  registry::FrmMain main{desk.station};
+  shell::FrmOption options{desk.station};
+};
+
+TEST_F(Options, SettingsAreStoredAsTheyStand) {
+  options.txtbtime.setText("08:30");
+  options.txtintapp.setText("");
+  options.dghatirlat.setValue(true);
+  options.Comgönce.setText("15");
+  options.optkısıtlıaç.setValue(true);
+  options.chsigarabrakma.setValue(true);
+  options.AyarKaydet();
+  EXPECT_EQ(desk.station.ayar("btime", "?"), "08:30");
+  EXPECT_EQ(desk.station.ayar("intapp", "?"), "");
+  EXPECT_EQ(desk.station.ayar("BDrem"), "1");
+  EXPECT_EQ(desk.station.ayar("remday"), "15");
+  EXPECT_EQ(desk.station.ayar("nopen"), "False");
+  EXPECT_TRUE(main.mnusigarabp.visible());  // internal medicine alone offers the smoking clinic
+  shell::FrmOption again(desk.station);
+  again.Load();
+  EXPECT_EQ(again.txtbtime.text(), "08:30");
+  EXPECT_TRUE(again.dghatirlat.value());
+  EXPECT_TRUE(again.optkısıtlıaç.value());
+}
+
+TEST_F(Options, TheLanguageSwitchReachesTheMainWindowAtOnce) {
+  EXPECT_EQ(main.mnukaydet.caption(), "&Kaydet");
+  options.OptGB.setValue(true);
+  options.AyarKaydet();
+  EXPECT_EQ(desk.station.ayar("Language"), "eng");
+  EXPECT_EQ(main.mnukaydet.caption(), "&Save");
+  EXPECT_EQ(main.caption(), "Internal Medicine");
+  EXPECT_EQ(options.caption(), "Options");
+  EXPECT_EQ(main.ComCinsiyet.items().front(), "F");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+}
+
+TEST_F(Options, AListIsEditedInItsTable) {
+  desk.host.inputs = {"Hemşire", "Başhemşire"};
+  options.ComMeslek.GotFocus();
+  options.mnuekle.press();
+  EXPECT_EQ(options.ComMeslek.text(), "Hemşire");
+  options.mnudüzen.press();
+  EXPECT_EQ(stores::values(desk.station.stores.personal, "Profession"), std::vector<std::string>{"Başhemşire"});
+  options.ListKaydet();
+  EXPECT_EQ(main.ComMeslek.items(), std::vector<std::string>{"Başhemşire"});
+  options.mnusil.press();
+  EXPECT_TRUE(stores::values(desk.station.stores.personal, "Profession").empty());
+  EXPECT_FALSE(options.mnusil.enabled());
+}
+
+TEST_F(Options, AValueThatIsTooLongIsRefusedWithAMessage) {
+  desk.host.inputs = {std::string(41, 'x')};
+  desk.host.expect("saklanamadı", host::Answer::Ok);
+  options.comdogumyeri.GotFocus();
+  options.mnuekle.press();
+  EXPECT_TRUE(stores::values(desk.station.stores.personal, "Place Of Birth").empty());
+}
+
+TEST_F(Options, TheLetterheadIsKeptAsRichText) {
+  options.rtfText.edit([](richtext::Editor& e) { e.insert("Dr. Şükrü Işık"); });
+  options.rtfText.select(4, 5);
+  options.tbToolBar.press("Bold");
+  options.tbToolBar.press("Center");
+  options.BaşlıkKaydet();
+  shell::FrmOption again(desk.station);
+  again.Load();
+  EXPECT_EQ(again.rtfText.editor().text(), "Dr. Şükrü Işık");
+  EXPECT_TRUE(again.rtfText.editor().document().formatAt(5).bold);
+  EXPECT_FALSE(again.rtfText.editor().document().formatAt(0).bold);
+}
+
+TEST_F(Options, AHostileLetterheadSaysSoAndIsLeftAlone) {
+  const std::string bytes = "{\\rtf1" + std::string(100000, '{');
+  std::ofstream(folder / "Data/Baslik.rtf") << bytes;
+  desk.host.expect("", host::Answer::Ok);
+  shell::FrmOption again(desk.station);
+  again.Load();
+  again.BaşlıkKaydet();
+  std::ifstream file(folder / "Data/Baslik.rtf");
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), bytes);
+}
+
+TEST_F(Options, AChosenPictureBecomesTheLetterheadsOwnCopy) {
+  std::ofstream(folder / "logo.bmp") << "BM";
+  desk.host.files = {folder / "logo.bmp"};
+  options.butresimseç.press();
+  options.BaşlıkKaydet();
+  EXPECT_TRUE(std::filesystem::exists(folder / "Data/Baslik.bmp"));
+  EXPECT_TRUE(desk.host.errors.empty());
+}
+
+TEST_F(Options, AnOpeningPasswordIsSetByTickingItsBox) {
+  bool eaten = false;
+  desk.host.modal["frmpass"] = [](forms::Form&) {};  // closed without an entry
+  options.acilistasifresor.MouseDown(eaten);
+  EXPECT_TRUE(eaten);
+  EXPECT_FALSE(options.acilistasifresor.value());
+}
+
+}  // namespace
