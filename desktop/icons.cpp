@@ -14,7 +14,7 @@ struct IconName {
 };
 
 // A filled sheet says that there are records of that kind, an empty one that there are none.
-constexpr std::array<IconName, 33> names{{
+constexpr std::array<IconName, 34> names{{
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
@@ -48,6 +48,7 @@ constexpr std::array<IconName, 33> names{{
     {"appointment", "view-calendar-day"},
     {"password", "dialog-password"},
     {"program", "user-identity"},
+    {"invoice", "view-financial-list"},
 }};
 
 QStringList themeFolders() {

@@ -49,6 +49,12 @@ void bind(QWidget& widget, forms::Panel& panel, Follow follow) {
   });
 }
 
+void bind(QGroupBox& box, forms::Panel& panel) {
+  attach(box, panel, Follow::All, [&](Aspect aspect) {
+    if (aspect == Aspect::Caption) box.setTitle(qs(panel.caption()));
+  });
+}
+
 void bind(QProgressBar& bar, forms::ProgressBar& control) {
   attach(bar, control, Follow::All, [&](Aspect aspect) {
     if (aspect != Aspect::Range) return;
@@ -64,7 +70,7 @@ void bind(QScrollBar& bar, forms::ScrollBar& control) {
   QObject::connect(&bar, &QScrollBar::valueChanged, &binding, [&](int value) { control.setValue(value); });
 }
 
-void bind(QWidget& bar, forms::StatusBar& control, const std::vector<QLabel*>& panels) {
+void bindStatus(QWidget& bar, forms::StatusBar& control, const std::vector<QLabel*>& panels) {
   attach(bar, control, Follow::All, [panels, &control](Aspect aspect) {
     if (aspect != Aspect::Text) return;
     for (std::size_t i = 0; i < std::min(panels.size(), control.panels().size()); ++i) {

@@ -1,7 +1,6 @@
 #include "desktop/bind/bind_toolbar.h"
 
 #include <QAction>
-#include <QSignalBlocker>
 #include <QToolButton>
 
 #include "desktop/icons.h"
@@ -65,7 +64,6 @@ void refreshBar(QToolBar& bar, const forms::Toolbar& control) {
 }
 
 void refreshTabs(QTabBar& bar, const forms::TabStrip& control) {
-  const QSignalBlocker quiet(bar);
   for (int i = 0; std::cmp_less(i, control.tabs().size()); ++i) {
     const forms::Tab& tab = control.tabs()[static_cast<std::size_t>(i)];
     if (i >= bar.count()) bar.addTab(QString());
