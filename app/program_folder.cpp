@@ -11,7 +11,8 @@ std::string programFolder(const FolderChoices& choices) {
   if (!choices.environment.empty()) return choices.environment;
   const std::filesystem::path own = std::filesystem::path(choices.programFile).parent_path();
   std::error_code error;
-  if (std::filesystem::is_directory(own / "Data", error) || files::isWritable(own)) return own.string();
+  if (std::filesystem::is_directory(own / "Data", error) || files::isWritable(own))
+    return own.string();
   return (std::filesystem::path(choices.userData) / "Sanavel").string();
 }
 

@@ -12,8 +12,8 @@ struct FolderChoices {
   std::string userData;     // the user's data folder
 };
 
-// What the user names comes first; then the program's own folder, when it holds `Data` or may create it; then a
-// folder in the user's data.
+// What the user names comes first; then the program's own folder, when it holds `Data` or may
+// create it; then a folder in the user's data.
 [[nodiscard]] std::string programFolder(const FolderChoices& choices);
 
 }  // namespace app

@@ -24,7 +24,9 @@ void sp4(registry::FrmMain& main) {
 
 shell::ScreenDirectory screens() {
   shell::ScreenDirectory directory;
-  directory.add("FrmOption", [](shell::Station& station) { return std::make_unique<shell::FrmOption>(station); });
+  directory.add("FrmOption", [](shell::Station& station) {
+    return std::make_unique<shell::FrmOption>(station);
+  });
   return directory;
 }
 
@@ -50,7 +52,8 @@ Session::Outcome Session::start() {
 
 bool Session::openingPassword() {
   if (text::Val(istasyon_.ayar("oppas", "0")) != 1) return true;
-  const bool accepted = shell::sifreSor(istasyon_, shell::password::opening, shell::PasswordChange::Withheld);
+  const bool accepted =
+      shell::sifreSor(istasyon_, shell::password::opening, shell::PasswordChange::Withheld);
   istasyon_.SifreSonucu = 0;
   if (accepted) return true;
   if (istasyon_.ayar("nopen", "1") == "True") return false;

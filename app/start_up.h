@@ -17,8 +17,8 @@ class Session {
   explicit Session(shell::Station& istasyon);
 
   enum class Outcome { Shown, Refused };
-  // Splash, stores, password, reminders, main window. Refused when the opening password was not given and the
-  // program is to stay closed; the main window is unloaded then.
+  // Splash, stores, password, reminders, main window. Refused when the opening password was not
+  // given and the program is to stay closed; the main window is unloaded then.
   Outcome start();
 
   [[nodiscard]] registry::FrmMain& main() { return main_; }

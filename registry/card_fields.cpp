@@ -13,16 +13,31 @@ using shell::Stored;
 
 constexpr std::array<shell::FieldRow, 30> fieldRows{{
     {.control = controlOf<&FrmMain::Txtİsim>, .column = "Name", .captionKey = "isim"},
-    {.control = controlOf<&FrmMain::TxtDTarihi>, .column = "Date of Birth", .captionKey = "dogumtarihi",
+    {.control = controlOf<&FrmMain::TxtDTarihi>,
+     .column = "Date of Birth",
+     .captionKey = "dogumtarihi",
      .stored = Stored::Screen},
-    {.control = controlOf<&FrmMain::ComCinsiyet>, .column = "Sex", .captionKey = "Cinsiyet",
+    {.control = controlOf<&FrmMain::ComCinsiyet>,
+     .column = "Sex",
+     .captionKey = "Cinsiyet",
      .stored = Stored::ListIndex},
-    {.control = controlOf<&FrmMain::ComKanGrubu>, .column = "Blood Group", .captionKey = "kangrubu", .cut = 10},
-    {.control = controlOf<&FrmMain::comdogumyeri>, .column = "Place of Birth", .captionKey = "dogumyeri", .cut = 40},
-    {.control = controlOf<&FrmMain::ComMeslek>, .column = "Profession", .captionKey = "Meslek", .cut = 30},
+    {.control = controlOf<&FrmMain::ComKanGrubu>,
+     .column = "Blood Group",
+     .captionKey = "kangrubu",
+     .cut = 10},
+    {.control = controlOf<&FrmMain::comdogumyeri>,
+     .column = "Place of Birth",
+     .captionKey = "dogumyeri",
+     .cut = 40},
+    {.control = controlOf<&FrmMain::ComMeslek>,
+     .column = "Profession",
+     .captionKey = "Meslek",
+     .cut = 30},
     {.control = controlOf<&FrmMain::TxtAnaAdı>, .column = "Mothers Name", .captionKey = "anneadi"},
     {.control = controlOf<&FrmMain::TxtBabaAdı>, .column = "Fathers Name", .captionKey = "babaadi"},
-    {.control = controlOf<&FrmMain::TxtKimlikNo>, .column = "ID Number", .captionKey = "kimliknumarasi"},
+    {.control = controlOf<&FrmMain::TxtKimlikNo>,
+     .column = "ID Number",
+     .captionKey = "kimliknumarasi"},
     {.control = controlOf<&FrmMain::TxtAdres1>, .column = "Address1", .captionKey = "Adres"},
     {.control = controlOf<&FrmMain::TxtAdres2>, .column = "Address2", .captionKey = "Adres"},
     {.control = controlOf<&FrmMain::TxtAdres3>, .column = "Address3", .captionKey = "Adres"},
@@ -32,14 +47,26 @@ constexpr std::array<shell::FieldRow, 30> fieldRows{{
     {.control = controlOf<&FrmMain::TxtTelefon2>, .column = "Telephone2", .captionKey = "Telefon"},
     {.control = controlOf<&FrmMain::TxtMobil>, .column = "Mobil", .captionKey = "Mobil"},
     {.control = controlOf<&FrmMain::TxtFax>, .column = "Fax", .captionKey = "Fax"},
-    {.control = controlOf<&FrmMain::ComKurum>, .column = "Company", .captionKey = "Kurum", .cut = 75},
+    {.control = controlOf<&FrmMain::ComKurum>,
+     .column = "Company",
+     .captionKey = "Kurum",
+     .cut = 75},
     {.control = controlOf<&FrmMain::TxtÇalışan>, .column = "Personnel", .captionKey = "calisan"},
     {.control = controlOf<&FrmMain::TxtSicil>, .column = "Personnel Number", .captionKey = "Sicil"},
     {.control = controlOf<&FrmMain::comgorev>, .column = "Job", .captionKey = "gorev", .cut = 30},
-    {.control = controlOf<&FrmMain::comyakinlik>, .column = "Relationship", .captionKey = "yakinlik", .cut = 20},
+    {.control = controlOf<&FrmMain::comyakinlik>,
+     .column = "Relationship",
+     .captionKey = "yakinlik",
+     .cut = 20},
     {.control = controlOf<&FrmMain::txtnot>, .column = "Notes", .captionKey = "Notlar"},
-    {.control = controlOf<&FrmMain::ComHitap>, .column = "Adressing", .captionKey = "Hitap", .cut = 20},
-    {.control = controlOf<&FrmMain::ComRefere>, .column = "Referance", .captionKey = "refereeden", .cut = 40},
+    {.control = controlOf<&FrmMain::ComHitap>,
+     .column = "Adressing",
+     .captionKey = "Hitap",
+     .cut = 20},
+    {.control = controlOf<&FrmMain::ComRefere>,
+     .column = "Referance",
+     .captionKey = "refereeden",
+     .cut = 40},
     {.control = controlOf<&FrmMain::txtfoto>, .column = "Photo", .captionKey = "fotograf"},
     {.control = controlOf<&FrmMain::txtkey>, .column = "Key", .captionKey = "isimgizle"},
     {.control = controlOf<&FrmMain::txtdosyano>, .column = "Option2", .captionKey = "dosyano"},
@@ -58,7 +85,11 @@ constexpr std::array<ListField, 7> listRows{{
 
 }  // namespace
 
-std::span<const shell::FieldRow> cardFields() { return fieldRows; }
-std::span<const ListField> listFields() { return listRows; }
+std::span<const shell::FieldRow> cardFields() {
+  return fieldRows;
+}
+std::span<const ListField> listFields() {
+  return listRows;
+}
 
 }  // namespace registry

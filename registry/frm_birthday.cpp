@@ -25,7 +25,8 @@ void FrmBirthday::listele(const text::DateTime& day) {
   if (cards.empty()) return;
   for (dao::Status moved = cards.MoveFirst(); moved && !cards.Eof(); moved = cards.MoveNext()) {
     const auto birth = text::parseIso(cards.Fields("Date of Birth").view());
-    if (!birth || birth->month() != day.month() || birth->dayOfMonth() != day.dayOfMonth()) continue;
+    if (!birth || birth->month() != day.month() || birth->dayOfMonth() != day.dayOfMonth())
+      continue;
     if (text::trimmed(cards.Fields("Key").view()) == hiddenMark) continue;
     Lvisim.addRow({.cells = {cards.Fields("Name").text(), text::shortDate(*birth)}});
   }

@@ -16,7 +16,8 @@ class FrmBirthday : public forms::Form {
   forms::ListView Lvisim{*this, "Lvisim"};
   forms::CommandButton butkapat{*this, "butkapat"};
 
-  // Fills the list with everybody whose birthday is `remday` days ahead; hidden patients are left out.
+  // Fills the list with everybody whose birthday is `remday` days ahead; hidden patients are left
+  // out.
   void Load() override;
 
  private:

@@ -22,7 +22,9 @@ constexpr int defaultWidth = 1240;
 constexpr int defaultHeight = 780;
 constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Netsıra", "Lresim"};
 
-bool isSet(const std::string& setting) { return setting == "True" || setting == "true" || text::Val(setting) != 0; }
+bool isSet(const std::string& setting) {
+  return setting == "True" || setting == "true" || text::Val(setting) != 0;
+}
 
 }  // namespace
 
@@ -49,13 +51,17 @@ FrmMain::~FrmMain() {
   istasyon.kart = nullptr;
 }
 
-std::span<const shell::FieldRow> FrmMain::alanlar() const { return cardFields(); }
+std::span<const shell::FieldRow> FrmMain::alanlar() const {
+  return cardFields();
+}
 
 void FrmMain::Load() {
   shell::bransmenusu(istasyon, *this);
   klasorleriAc();
   const dao::Status opened = stores::OpenStores(istasyon.stores);
-  if (!opened) istasyon.host.runtimeError({opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
+  if (!opened)
+    istasyon.host.runtimeError(
+        {opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
   alanGenislikleri(istasyon.stores.personal.database, "IDCard");
   basliklariYenile();
   Listeleriyaz();
@@ -69,7 +75,8 @@ void FrmMain::Load() {
   const bool anyone = !istasyon.stores.personal.IDCard.empty();
   yonEtkin(Direction::Back, anyone);
   yonEtkin(Direction::Forward, anyone);
-  istasyon.settings.set(shell::applicationName, istasyon.BransAdi, "Path", istasyon.UygYolu).ignore();
+  istasyon.settings.set(shell::applicationName, istasyon.BransAdi, "Path", istasyon.UygYolu)
+      .ignore();
   shell::menuikon(*this);
   sbDurum.setPanel(6, istasyon.UygYolu);
 }
@@ -87,7 +94,8 @@ void FrmMain::Unload() {
   shell::setkayityaz(istasyon, *this, shell::font_record::card).ignore();
 }
 
-// Folders that cannot be made are met again, with a message, by the first file that is wanted in them.
+// Folders that cannot be made are met again, with a message, by the first file that is wanted in
+// them.
 void FrmMain::klasorleriAc() {
   for (const char* folder : {"Data", "Image", "Documents", "Documents/Diseases"}) {
     files::createFolders(istasyon.dosya(folder)).ignore();
@@ -100,11 +108,13 @@ void FrmMain::basliklariYenile() {
   hakkindaYaz();
 }
 
-// The workspace is set up anew for its words; on a polyclinic copy the chosen speciality stays the working one.
+// The workspace is set up anew for its words; on a polyclinic copy the chosen speciality stays the
+// working one.
 void FrmMain::dilDegisti() {
   const int sex = ComCinsiyet.listIndex();
   shell::bransmenusu(istasyon, *this);
-  for (const forms::OptionButton* option : {&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum, &BGöz, &BKBB, &BGenel}) {
+  for (const forms::OptionButton* option :
+       {&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum, &BGöz, &BKBB, &BGenel}) {
     if (option->value()) shell::bransSec(istasyon, *this, option->name());
   }
   basliklariYenile();
@@ -123,9 +133,12 @@ void FrmMain::hakkindaYaz() {
 }
 
 void FrmMain::ayarlarioku() {
-  if (const auto w = text::wholeNumber(istasyon.ayar("Main Width")); w && *w > 0 && *w < 20000) width = static_cast<int>(*w);
-  if (const auto h = text::wholeNumber(istasyon.ayar("Main Height")); h && *h > 0 && *h < 20000) height = static_cast<int>(*h);
-  windowState = istasyon.ayar("Main WindowState", "2") == "2" ? forms::WindowState::Maximised : forms::WindowState::Normal;
+  if (const auto w = text::wholeNumber(istasyon.ayar("Main Width")); w && *w > 0 && *w < 20000)
+    width = static_cast<int>(*w);
+  if (const auto h = text::wholeNumber(istasyon.ayar("Main Height")); h && *h > 0 && *h < 20000)
+    height = static_cast<int>(*h);
+  windowState = istasyon.ayar("Main WindowState", "2") == "2" ? forms::WindowState::Maximised
+                                                              : forms::WindowState::Normal;
   Lresim.setCaption(istasyon.ayar("CurX", "1200"));
   PResim.setPath(istasyon.ayar("Picture"));
   sigaraGirisi();
@@ -141,7 +154,8 @@ void FrmMain::ayarlariyaz() {
 
 void FrmMain::sigaraGirisi() {
   const bool clinic = istasyon.BransNo == shell::brans::smoke;
-  const bool shown = clinic || (istasyon.BransKodu == shell::brans::koduDahiliye && isSet(istasyon.ayar("smok", "0")));
+  const bool shown = clinic || (istasyon.BransKodu == shell::brans::koduDahiliye &&
+                                isSet(istasyon.ayar("smok", "0")));
   mnusigara.setVisible(shown);
   mnusigarabp.setVisible(shown);
   tbToolBar.setButtonVisible("smok", shown);

@@ -24,7 +24,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   explicit FrmMain(Station& istasyon);
   ~FrmMain() override;
 
-  // --- Menus -------------------------------------------------------------------------------------------------
+  // --- Menus
+  // -------------------------------------------------------------------------------------------------
   forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
   forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
   forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
@@ -91,7 +92,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem MnuYardim{*this, "MnuYardim"};
   forms::MenuItem mnuhakkinda{MnuYardim, "mnuhakkinda"};
 
-  // --- The card, in the order in which one dictates it ------------------------------------------------------------
+  // --- The card, in the order in which one dictates it
+  // ------------------------------------------------------------
   forms::TextBox Txtİsim{*this, "Txtİsim"};
   forms::ListBox Lstdat{*this, "Lstdat"};
   forms::TextBox TxtDTarihi{*this, "TxtDTarihi"};
@@ -132,7 +134,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::Panel PNot{*this, "PNot"};
   forms::TextBox txtnot{*this, "txtnot", forms::TextLines::Multiple};
 
-  // --- Beside the card -----------------------------------------------------------------------------------------
+  // --- Beside the card
+  // -----------------------------------------------------------------------------------------
   forms::Panel Panofoto{*this, "Panofoto"};
   forms::Picture ImgFoto{*this, "ImgFoto"};
   forms::TextBox txtfoto{*this, "txtfoto"};
@@ -161,14 +164,16 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::StatusBar sbDurum{*this, "sbDurum", 6};
   forms::Timer Timer1{*this, "Timer1"};
 
-  // --- State that never shows ------------------------------------------------------------------------------------
+  // --- State that never shows
+  // ------------------------------------------------------------------------------------
   forms::TextBox TxtEskiİsim{*this, "TxtEskiİsim"};  // the old key
   forms::TextBox txtkey{*this, "txtkey"};            // "¬" hides the patient
   forms::Label idk{*this, "idk"};                    // the counter of the delayed search
   forms::Label Netsıra{*this, "Netsıra"};            // the number of this station
   forms::Label Lresim{*this, "Lresim"};              // the splitter's place, setting CurX
 
-  // --- The protocol ------------------------------------------------------------------------------------------------
+  // --- The protocol
+  // ------------------------------------------------------------------------------------------------
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.personal.IDCard; }
   [[nodiscard]] std::string eskiAnahtar() const override { return TxtEskiİsim.text(); }
@@ -229,7 +234,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   NameCheck adasSor();
   [[nodiscard]] bool baskaHasta(const std::string& name);
   void hastaSec(const std::string& name);
-  // A choice in the list replaces what is on the card; what was typed beside the name is not lost without a question.
+  // A choice in the list replaces what is on the card; what was typed beside the name is not lost
+  // without a question.
   void secimdenOnce();
   void saatVurusu();
   void listeyiBaslat(dao::Fold fold);

@@ -14,7 +14,8 @@ constexpr long oldestAge = 150;
 
 }  // namespace
 
-// Shows the age behind its word; without a valid birth value just the word, and the age can be typed instead.
+// Shows the age behind its word; without a valid birth value just the word, and the age can be
+// typed instead.
 void FrmMain::yasGoster() {
   const std::string word = metinbul(istasyon, "yasi");
   if (TxtDTarihi.text().empty()) return txtyaşı.setCaption("");
@@ -39,7 +40,8 @@ bool FrmMain::hatalitarih() {
   const std::string birth = text::trim(TxtDTarihi.text());
   const text::DateTime today = istasyon.clock.today();
   const auto date = text::parseDate(birth, today);
-  const bool tooLate = text::length(birth) < shortestFullDate ? text::Val(birth) > today.year() : date && *date > today;
+  const bool tooLate = text::length(birth) < shortestFullDate ? text::Val(birth) > today.year()
+                                                              : date && *date > today;
   if (!tooLate) return true;
   istasyon.bilgi(metinbul(istasyon, "msghatalitarih"));
   TxtDTarihi.setFocus();

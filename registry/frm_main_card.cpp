@@ -22,13 +22,15 @@ constexpr int male = 1;
 constexpr int unknownSex = 2;
 constexpr forms::Colour femaleColour = forms::fromBgr(0xC0C0FF);
 constexpr forms::Colour maleColour = forms::fromBgr(0xFFC0C0);
-constexpr std::array bloodGroups{"0 Rh(+)", "0 Rh(-)", "A Rh(+)", "A Rh(-)", "B Rh(+)", "B Rh(-)", "AB Rh(+)", "AB Rh(-)"};
+constexpr std::array bloodGroups{"0 Rh(+)", "0 Rh(-)", "A Rh(+)",  "A Rh(-)",
+                                 "B Rh(+)", "B Rh(-)", "AB Rh(+)", "AB Rh(-)"};
 
 }  // namespace
 
 void FrmMain::kartiBagla() {
   Txtİsim.LostFocus.connect([this] { isimBitti(); });
-  Txtİsim.KeyUp.connect([this](forms::Key) { Txtİsim.text().empty() ? listeyiKapat() : idk.setCaption("0"); });
+  Txtİsim.KeyUp.connect(
+      [this](forms::Key) { Txtİsim.text().empty() ? listeyiKapat() : idk.setCaption("0"); });
   Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
   TxtDTarihi.LostFocus.connect([this] { dogumBitti(); });
   Txtyaş.LostFocus.connect([this] { yasBitti(); });
@@ -51,7 +53,8 @@ void FrmMain::Listeleriyaz() {
   ComCinsiyet.setItems({metinbul(istasyon, "kadin"), metinbul(istasyon, "Erkek"), ""});
   ComKanGrubu.setItems({bloodGroups.begin(), bloodGroups.end()});
   for (const ListField& row : listFields()) {
-    static_cast<forms::ComboBox&>(row.control(*this)).setItems(stores::values(istasyon.stores.personal, row.table));
+    static_cast<forms::ComboBox&>(row.control(*this))
+        .setItems(stores::values(istasyon.stores.personal, row.table));
   }
 }
 
@@ -79,7 +82,8 @@ void FrmMain::hastaoku() {
 dao::Status FrmMain::kaydiBul() {
   const std::string old = TxtEskiİsim.text();
   if (!old.empty() && old != Txtİsim.text()) {
-    const bool rename = istasyon.evetMi(old + ", " + Txtİsim.text() + metinbul(istasyon, "msgisimdegisti"));
+    const bool rename =
+        istasyon.evetMi(old + ", " + Txtİsim.text() + metinbul(istasyon, "msgisimdegisti"));
     if (!rename) Txtİsim.setText(old);
   }
   const dao::Status sought = tablo().Seek("=", old.empty() ? Txtİsim.text() : old);
@@ -140,7 +144,8 @@ dao::Status FrmMain::Forumalanlaritasi() {
   const std::string birth = text::trim(TxtDTarihi.text());
   const bool isYear = text::isNumeric(birth) && text::length(birth) == 4;
   const auto date = isYear ? std::nullopt : text::parseDate(birth, istasyon.clock.today());
-  const dao::Status dateSet = cards.Fields("Date of Birth").Set(date ? dao::Value(*date) : dao::Value());
+  const dao::Status dateSet =
+      cards.Fields("Date of Birth").Set(date ? dao::Value(*date) : dao::Value());
   const dao::Status yearSet = cards.Fields("Year of Birth").Set(isYear ? birth : std::string());
   if (!moved) return moved;
   return dateSet ? yearSet : dateSet;
@@ -182,7 +187,8 @@ void FrmMain::Sil() {
 }
 
 bool FrmMain::kaydedilebilir() {
-  return !text::trimmed(Txtİsim.text()).empty() && shell::gecerliDogum(TxtDTarihi.text(), istasyon.clock.today());
+  return !text::trimmed(Txtİsim.text()).empty() &&
+         shell::gecerliDogum(TxtDTarihi.text(), istasyon.clock.today());
 }
 
 void FrmMain::Cinsiyetrengi() {
@@ -222,8 +228,9 @@ void FrmMain::sekmeSecildi() {
 }
 
 void FrmMain::fotoSec() {
-  const auto chosen = istasyon.host.openFile(
-      {.title = Butfoto.caption(), .filters = {"*.bmp", "*.jpg", "*.ico"}, .folder = istasyon.dosya("Image")});
+  const auto chosen = istasyon.host.openFile({.title = Butfoto.caption(),
+                                              .filters = {"*.bmp", "*.jpg", "*.ico"},
+                                              .folder = istasyon.dosya("Image")});
   if (chosen) txtfoto.setText(*chosen);
 }
 
@@ -234,7 +241,8 @@ void FrmMain::panofotoBoyutu(int panelWidth, int panelHeight) {
 
 // A file that is no picture leaves the frame empty; the field keeps its path.
 void FrmMain::ResimBoyutla() {
-  const auto size = txtfoto.text().empty() ? std::nullopt : istasyon.host.pictureSize(txtfoto.text());
+  const auto size =
+      txtfoto.text().empty() ? std::nullopt : istasyon.host.pictureSize(txtfoto.text());
   ImgFoto.setPath(size ? txtfoto.text() : std::string());
   ImgFoto.setFrame(size ? fitted({size->width, size->height}, panofoto_) : forms::Picture::Frame());
 }

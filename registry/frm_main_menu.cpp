@@ -58,12 +58,14 @@ constexpr std::array<EntryScreen, 35> entryScreens{{
 
 // Enabled only for a patient with a name and a valid birth field.
 constexpr std::array clinicalEntries{
-    &FrmMain::mnumuayene1,  &FrmMain::MnuMuayene2,     &FrmMain::MnuMuayene3,      &FrmMain::MnuMuayene4,
-    &FrmMain::MnuMuayene5,  &FrmMain::MnuMuayene6,     &FrmMain::MnuMuayene7,      &FrmMain::Mnumuayene9,
-    &FrmMain::MnuMuayene10, &FrmMain::mnumuayene13,    &FrmMain::mnumuayene14,     &FrmMain::MnuMuayene20,
-    &FrmMain::mnuasi,       &FrmMain::mnufizikgelişme, &FrmMain::mnumotmengelişme, &FrmMain::mnugebetakip,
-    &FrmMain::mnuameliyat,  &FrmMain::mnulens,         &FrmMain::mnueko,           &FrmMain::mnuefor,
-    &FrmMain::mnuanjiyo,    &FrmMain::mnutest,         &FrmMain::mnusigara,        &FrmMain::mnumuayenetarihleri};
+    &FrmMain::mnumuayene1,  &FrmMain::MnuMuayene2,     &FrmMain::MnuMuayene3,
+    &FrmMain::MnuMuayene4,  &FrmMain::MnuMuayene5,     &FrmMain::MnuMuayene6,
+    &FrmMain::MnuMuayene7,  &FrmMain::Mnumuayene9,     &FrmMain::MnuMuayene10,
+    &FrmMain::mnumuayene13, &FrmMain::mnumuayene14,    &FrmMain::MnuMuayene20,
+    &FrmMain::mnuasi,       &FrmMain::mnufizikgelişme, &FrmMain::mnumotmengelişme,
+    &FrmMain::mnugebetakip, &FrmMain::mnuameliyat,     &FrmMain::mnulens,
+    &FrmMain::mnueko,       &FrmMain::mnuefor,         &FrmMain::mnuanjiyo,
+    &FrmMain::mnutest,      &FrmMain::mnusigara,       &FrmMain::mnumuayenetarihleri};
 
 constexpr std::array<std::pair<std::string_view, forms::MenuItem FrmMain::*>, 3> ownButtons{{
     {"Geri", &FrmMain::mnugeri},
@@ -100,7 +102,8 @@ void FrmMain::menuleriBagla() {
   mnucik.Click.connect([this] { istasyon.host.close(*this); });
   mnubul.Click.connect([this] { Txtİsim.setFocus(); });
   mnuhakkinda.Click.connect([this] { istasyon.bilgi(Lhakkinda.caption()); });
-  // Undo, cut, copy and paste belong to the focused field: the window sends them the usual keystrokes.
+  // Undo, cut, copy and paste belong to the focused field: the window sends them the usual
+  // keystrokes.
   mnugerial.Click.connect([this] { istasyon.host.sendKeys("^z"); });
   mnukes.Click.connect([this] { istasyon.host.sendKeys("+{DELETE}"); });
   mnukopyala.Click.connect([this] { istasyon.host.sendKeys("^{INSERT}"); });
@@ -111,7 +114,8 @@ void FrmMain::menuleriBagla() {
   mnuhakkinda.setShortcut("F1");
   mnuonizleme.setVisible(istasyon.screens.has("frmprewive"));
   mnuyazdır.setVisible(istasyon.screens.has("frmprewive"));
-  for (forms::OptionButton* option : {&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum, &BGöz, &BKBB, &BGenel}) {
+  for (forms::OptionButton* option :
+       {&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum, &BGöz, &BKBB, &BGenel}) {
     option->Click.connect([this, option] {
       shell::bransSec(istasyon, *this, option->name());
       sbDurum.setPanel(5, caption());
@@ -143,15 +147,20 @@ void FrmMain::tusBas(std::string_view key) {
 }
 
 void FrmMain::muayenetus() {
-  auto* const entry = dynamic_cast<forms::MenuItem*>(find(shell::examinationEntry(istasyon.BransNo)));
-  // The entry itself may be hidden after a switch of the speciality; the button is the way to it then.
+  auto* const entry =
+      dynamic_cast<forms::MenuItem*>(find(shell::examinationEntry(istasyon.BransNo)));
+  // The entry itself may be hidden after a switch of the speciality; the button is the way to it
+  // then.
   if (entry != nullptr && entry->enabled()) entry->Click();
 }
 
 void FrmMain::muayenetusuboya() {
   dao::Recordset& visit = istasyon.stores.clinical.Visit;
-  const bool found = visit.isOpen() && visit.Seek("=", istasyon.BransAdi + "\\" + TxtEskiİsim.text()) && !visit.NoMatch();
-  const auto visits = found && !TxtEskiİsim.text().empty() ? shell::Visits::Some : shell::Visits::None;
+  const bool found = visit.isOpen() &&
+                     visit.Seek("=", istasyon.BransAdi + "\\" + TxtEskiİsim.text()) &&
+                     !visit.NoMatch();
+  const auto visits =
+      found && !TxtEskiİsim.text().empty() ? shell::Visits::Some : shell::Visits::None;
   tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, visits));
 }
 

@@ -42,13 +42,18 @@ void FrmMain::isimSifresi() {
   isimleriAc(true);
 }
 
-void FrmMain::datlistele() { listeyiBaslat(dao::Fold::General); }
-void FrmMain::datlisteleTUR() { listeyiBaslat(dao::Fold::Turkish); }
+void FrmMain::datlistele() {
+  listeyiBaslat(dao::Fold::General);
+}
+void FrmMain::datlisteleTUR() {
+  listeyiBaslat(dao::Fold::Turkish);
+}
 
 void FrmMain::listeyiBaslat(dao::Fold fold) {
   listeyiKapat();
   const auto hidden = gizliMi(hiddenMark) ? HiddenPatients::PassedOver : HiddenPatients::Shown;
-  const platform::Status started = isimler_.start(istasyon.stores.personal.database, Txtİsim.text(), fold, hidden);
+  const platform::Status started =
+      isimler_.start(istasyon.stores.personal.database, Txtİsim.text(), fold, hidden);
   if (!started) return durumYaz(started.text());
   listeyiSurdur();
 }
@@ -60,7 +65,8 @@ void FrmMain::listeyiSurdur() {
   Lstdat.appendItems(isimler_.take());
   Lstdat.setVisibleRows(std::min(static_cast<int>(Lstdat.count()), mostRowsShown));
   Lstdat.setVisible(Lstdat.count() > 0);
-  if (done) return durumYaz(phrase(istasyon, shell::Phrase::PatientCount) + std::to_string(Lstdat.count()));
+  if (done)
+    return durumYaz(phrase(istasyon, shell::Phrase::PatientCount) + std::to_string(Lstdat.count()));
   listeBekliyor_ = true;
   istasyon.host.later([this, alive = yasiyor_] {
     if (*alive && listeBekliyor_) listeyiSurdur();
@@ -85,7 +91,8 @@ void FrmMain::hastaSec(const std::string& name) {
 void FrmMain::secimdenOnce() {
   if (!mnukaydet.enabled()) return;
   if (TxtEskiİsim.text().empty()) return kayitkontrol();
-  // What stands in the name field was typed to find somebody; the other fields belong to the old name.
+  // What stands in the name field was typed to find somebody; the other fields belong to the old
+  // name.
   const std::string typed = Txtİsim.text();
   Txtİsim.setText(TxtEskiİsim.text());
   kayitkontrol();

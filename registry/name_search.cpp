@@ -6,8 +6,8 @@
 
 namespace registry {
 
-platform::Status NameSearch::start(const dao::Database& personal, std::string_view typed, dao::Fold fold,
-                                   HiddenPatients hidden) {
+platform::Status NameSearch::start(const dao::Database& personal, std::string_view typed,
+                                   dao::Fold fold, HiddenPatients hidden) {
   stop();
   found_.clear();
   taken_ = 0;
@@ -32,6 +32,8 @@ bool NameSearch::step() {
   return true;
 }
 
-std::vector<std::string> NameSearch::take() { return std::exchange(found_, {}); }
+std::vector<std::string> NameSearch::take() {
+  return std::exchange(found_, {});
+}
 
 }  // namespace registry

@@ -16,7 +16,8 @@ enum class HiddenPatients { PassedOver, Shown };
 class NameSearch {
  public:
   // Begins anew; what was found before is forgotten. An empty text finds nothing.
-  platform::Status start(const dao::Database& personal, std::string_view typed, dao::Fold fold, HiddenPatients hidden);
+  platform::Status start(const dao::Database& personal, std::string_view typed, dao::Fold fold,
+                         HiddenPatients hidden);
   void stop() { reader_.reset(); }
   [[nodiscard]] bool running() const { return reader_.has_value(); }
 

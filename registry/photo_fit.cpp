@@ -9,7 +9,8 @@ namespace {
 
 // Rounded, at least one pixel; 64 bits so that the size of no picture overflows.
 int scaled(int side, int by, int of) {
-  return static_cast<int>(std::max<std::int64_t>(1, (static_cast<std::int64_t>(side) * by + of / 2) / of));
+  return static_cast<int>(
+      std::max<std::int64_t>(1, (static_cast<std::int64_t>(side) * by + of / 2) / of));
 }
 
 }  // namespace

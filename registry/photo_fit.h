@@ -10,10 +10,12 @@ struct Extent {
   int height = 0;
 };
 
-// The picture as large as the panel takes it, its proportions kept, in the middle. Empty when either has no area.
+// The picture as large as the panel takes it, its proportions kept, in the middle. Empty when
+// either has no area.
 [[nodiscard]] forms::Picture::Frame fitted(Extent picture, Extent panel);
 
-// Range and steps of one scroll bar: the excess of the picture over the panel, a tenth and a half of it.
+// Range and steps of one scroll bar: the excess of the picture over the panel, a tenth and a half
+// of it.
 struct Pan {
   int maximum = 0;
   int smallChange = 0;

@@ -16,18 +16,19 @@ std::string monthsAndDays(Station& istasyon, int months, const text::DateTime& b
                           const text::DateTime& reference) {
   long days = text::daysBetween(text::addMonths(birth, months), reference);
   while (days < 0) days = text::daysBetween(text::addMonths(birth, --months), reference);
-  return std::to_string(months) + " " + metinbul(istasyon, "ay") + " " + std::to_string(days) + " " +
-         metinbul(istasyon, "gun");
+  return std::to_string(months) + " " + metinbul(istasyon, "ay") + " " + std::to_string(days) +
+         " " + metinbul(istasyon, "gun");
 }
 
 std::string yearsAndMonths(Station& istasyon, int months) {
-  return std::to_string(months / 12) + " " + metinbul(istasyon, "yas") + " " + std::to_string(months % 12) + " " +
-         metinbul(istasyon, "ay");
+  return std::to_string(months / 12) + " " + metinbul(istasyon, "yas") + " " +
+         std::to_string(months % 12) + " " + metinbul(istasyon, "ay");
 }
 
 }  // namespace
 
-std::optional<std::string> yasmetni(Station& istasyon, std::string_view birth, const text::DateTime& reference) {
+std::optional<std::string> yasmetni(Station& istasyon, std::string_view birth,
+                                    const text::DateTime& reference) {
   if (text::length(birth) < shortestDate) {
     const auto year = text::wholeNumber(birth);
     if (!year) return std::nullopt;

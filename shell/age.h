@@ -9,8 +9,8 @@
 
 namespace shell {
 
-// The age text at `reference`. A birth value shorter than 7 characters is a year; otherwise a date. None when the
-// value is neither.
+// The age text at `reference`. A birth value shorter than 7 characters is a year; otherwise a date.
+// None when the value is neither.
 [[nodiscard]] std::optional<std::string> yasmetni(Station& istasyon, std::string_view birth,
                                                   const text::DateTime& reference);
 

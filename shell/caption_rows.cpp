@@ -147,22 +147,33 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
 constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows);
 
 constexpr std::array toolTips{
-    KeyedCaption{"New", "Yeni"},          KeyedCaption{"Save", "Kaydet"},
-    KeyedCaption{"Delete", "Sil"},        KeyedCaption{"Geri", "Geri"},
-    KeyedCaption{"ileri", "ileri"},       KeyedCaption{"Find", "Bul"},
-    KeyedCaption{"smok", "sigarabrakmaprogramı"}, KeyedCaption{"keyclose", "isimgizle"},
-    KeyedCaption{"keyopen", "isimsifrele"}, KeyedCaption{"idpass", "listeduzenle"},
-    KeyedCaption{"Exit", "cik"},          KeyedCaption{"Undo", "gerial"},
-    KeyedCaption{"Cut", "Kes"},           KeyedCaption{"Copy", "Kopyala"},
-    KeyedCaption{"Paste", "yapistir"},    KeyedCaption{"Bold", "kalin"},
-    KeyedCaption{"Italic", "italik"},     KeyedCaption{"Underline", "alticizili"},
-    KeyedCaption{"Color", "Renk"},        KeyedCaption{"Align Left", "solayasla"},
-    KeyedCaption{"Center", "Ortala"},     KeyedCaption{"Align Right", "sagayasla"},
+    KeyedCaption{"New", "Yeni"},
+    KeyedCaption{"Save", "Kaydet"},
+    KeyedCaption{"Delete", "Sil"},
+    KeyedCaption{"Geri", "Geri"},
+    KeyedCaption{"ileri", "ileri"},
+    KeyedCaption{"Find", "Bul"},
+    KeyedCaption{"smok", "sigarabrakmaprogramı"},
+    KeyedCaption{"keyclose", "isimgizle"},
+    KeyedCaption{"keyopen", "isimsifrele"},
+    KeyedCaption{"idpass", "listeduzenle"},
+    KeyedCaption{"Exit", "cik"},
+    KeyedCaption{"Undo", "gerial"},
+    KeyedCaption{"Cut", "Kes"},
+    KeyedCaption{"Copy", "Kopyala"},
+    KeyedCaption{"Paste", "yapistir"},
+    KeyedCaption{"Bold", "kalin"},
+    KeyedCaption{"Italic", "italik"},
+    KeyedCaption{"Underline", "alticizili"},
+    KeyedCaption{"Color", "Renk"},
+    KeyedCaption{"Align Left", "solayasla"},
+    KeyedCaption{"Center", "Ortala"},
+    KeyedCaption{"Align Right", "sagayasla"},
 };
 
 constexpr std::array tabs{
-    KeyedCaption{"TSKişisel", "kisisel"}, KeyedCaption{"TSAdres", "Adres"},
-    KeyedCaption{"TSKurum", "Kurum"},     KeyedCaption{"TSNot", "Notlar"},
+    KeyedCaption{"TSKişisel", "kisisel"},      KeyedCaption{"TSAdres", "Adres"},
+    KeyedCaption{"TSKurum", "Kurum"},          KeyedCaption{"TSNot", "Notlar"},
     KeyedCaption{"TSAyarlar", "genelayarlar"}, KeyedCaption{"TSListeler", "Listeler"},
     KeyedCaption{"TSBaşlık", "baslik"},
 };
@@ -178,9 +189,17 @@ constexpr std::array phrases{
 
 }  // namespace
 
-std::span<const CaptionRow> captionRows() { return allRows; }
-std::span<const KeyedCaption> toolTipRows() { return toolTips; }
-std::span<const KeyedCaption> tabRows() { return tabs; }
-std::span<const PhraseRow> phraseCaptions() { return phrases; }
+std::span<const CaptionRow> captionRows() {
+  return allRows;
+}
+std::span<const KeyedCaption> toolTipRows() {
+  return toolTips;
+}
+std::span<const KeyedCaption> tabRows() {
+  return tabs;
+}
+std::span<const PhraseRow> phraseCaptions() {
+  return phrases;
+}
 
 }  // namespace shell

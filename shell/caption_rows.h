@@ -9,18 +9,19 @@
 namespace shell {
 
 enum class CaptionKind {
-  Plain,   // the text as it is
-  Menu,    // with the mark of the mnemonic in front
-  Colon,   // a label: with ":" behind
+  Plain,     // the text as it is
+  Menu,      // with the mark of the mnemonic in front
+  Colon,     // a label: with ":" behind
   Ellipsis,  // "..." in front
-  Window   // the caption of the form itself; `control` is the form's name
+  Window     // the caption of the form itself; `control` is the form's name
 };
 
 struct CaptionRow {
   std::string_view control;
   std::string_view key;
   CaptionKind kind = CaptionKind::Plain;
-  std::string_view form = {};  // only on this form, when the name occurs on several with different words
+  std::string_view form =
+      {};  // only on this form, when the name occurs on several with different words
 };
 [[nodiscard]] std::span<const CaptionRow> captionRows();
 

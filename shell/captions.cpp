@@ -12,11 +12,15 @@ namespace {
 std::string worded(Station& istasyon, const CaptionRow& row) {
   const std::string word = metinbul(istasyon, row.key);
   switch (row.kind) {
-    case CaptionKind::Menu: return "&" + word;
-    case CaptionKind::Colon: return word + ":";
-    case CaptionKind::Ellipsis: return "..." + word;
+    case CaptionKind::Menu:
+      return "&" + word;
+    case CaptionKind::Colon:
+      return word + ":";
+    case CaptionKind::Ellipsis:
+      return "..." + word;
     case CaptionKind::Plain:
-    case CaptionKind::Window: break;
+    case CaptionKind::Window:
+      break;
   }
   return word;
 }
@@ -31,7 +35,8 @@ void captionControls(Station& istasyon, forms::Form& form) {
     }
   }
   for (const PhraseRow& row : phraseCaptions()) {
-    if (forms::Control* control = form.find(row.control)) control->setCaption(phrase(istasyon, row.phrase));
+    if (forms::Control* control = form.find(row.control))
+      control->setCaption(phrase(istasyon, row.phrase));
   }
 }
 
@@ -41,16 +46,19 @@ void basliklariyaz(Station& istasyon, forms::Form& form) {
   captionControls(istasyon, form);
   for (forms::Control* control : form.controls()) {
     if (auto* toolbar = dynamic_cast<forms::Toolbar*>(control)) {
-      for (const KeyedCaption& row : toolTipRows()) toolbar->setButtonToolTip(row.key, metinbul(istasyon, row.textKey));
+      for (const KeyedCaption& row : toolTipRows())
+        toolbar->setButtonToolTip(row.key, metinbul(istasyon, row.textKey));
     }
     if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) {
-      for (const KeyedCaption& row : tabRows()) strip->setTabCaption(row.key, metinbul(istasyon, row.textKey));
+      for (const KeyedCaption& row : tabRows())
+        strip->setTabCaption(row.key, metinbul(istasyon, row.textKey));
     }
   }
 }
 
 void alanBasliklari(Station& istasyon, forms::Form& form, std::span<const FieldRow> fields) {
-  for (const FieldRow& row : fields) row.control(form).setCaption(metinbul(istasyon, row.captionKey));
+  for (const FieldRow& row : fields)
+    row.control(form).setCaption(metinbul(istasyon, row.captionKey));
 }
 
 }  // namespace shell

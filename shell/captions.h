@@ -9,8 +9,8 @@
 
 namespace shell {
 
-// Captions every control of the form that the list of captions names; a control that the form lacks is passed over.
-// Called first thing in a form's load, and again when the language changes.
+// Captions every control of the form that the list of captions names; a control that the form lacks
+// is passed over. Called first thing in a form's load, and again when the language changes.
 void basliklariyaz(Station& istasyon, forms::Form& form);
 
 // The captions of the fields of a record screen.

@@ -1,5 +1,5 @@
-// One typed row per field of a record screen. Load, store, clear, snapshot, captions, print and the search columns
-// are written once over these rows.
+// One typed row per field of a record screen. Load, store, clear, snapshot, captions, print and the
+// search columns are written once over these rows.
 #pragma once
 
 #include <string_view>

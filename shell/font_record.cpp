@@ -10,7 +10,9 @@ namespace {
 // A record may hold anything: what is no colour is black.
 forms::Colour colourOf(const std::string& decimal) {
   const auto number = text::wholeNumber(decimal);
-  return number && *number >= 0 && *number <= 0xFFFFFF ? forms::fromBgr(static_cast<std::uint32_t>(*number)) : 0;
+  return number && *number >= 0 && *number <= 0xFFFFFF
+             ? forms::fromBgr(static_cast<std::uint32_t>(*number))
+             : 0;
 }
 
 forms::Font fontOf(const files::SettingRecord& record) {

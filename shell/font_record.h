@@ -10,8 +10,8 @@ namespace font_record {
 inline constexpr int card = 1;
 }  // namespace font_record
 
-// Applies the record's font to the form. A record that another form wrote last, or that was never written, leaves
-// the form as it is.
+// Applies the record's font to the form. A record that another form wrote last, or that was never
+// written, leaves the form as it is.
 void Setkayitlarioku(Station& istasyon, forms::Form& form, int record);
 
 // Writes the form's name and font into the record; the rest of the record stays.

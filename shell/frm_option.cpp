@@ -14,7 +14,8 @@ namespace {
 
 constexpr std::array reminderDays{"0", "1", "3", "5", "10", "15", "20", "30"};
 
-// Which setting each box and field stands for, in the order of saving; the password boxes come between.
+// Which setting each box and field stands for, in the order of saving; the password boxes come
+// between.
 struct BoxSetting {
   std::string_view key;
   forms::CheckBox FrmOption::*box;
@@ -64,8 +65,10 @@ void FrmOption::ayarlariBagla() {
   LblDil.setVisible(false);
   OptTR.Click.connect([this] { LblDil.setCaption("tr"); });
   OptGB.Click.connect([this] { LblDil.setCaption("eng"); });
-  acilistasifresor.MouseDown.connect([this](bool& eaten) { sifreIle(acilistasifresor, password::opening, eaten); });
-  hesaplardasifre.MouseDown.connect([this](bool& eaten) { sifreIle(hesaplardasifre, password::accounts, eaten); });
+  acilistasifresor.MouseDown.connect(
+      [this](bool& eaten) { sifreIle(acilistasifresor, password::opening, eaten); });
+  hesaplardasifre.MouseDown.connect(
+      [this](bool& eaten) { sifreIle(hesaplardasifre, password::accounts, eaten); });
   chkçıkyedek.MouseDown.connect([this](bool& eaten) {
     if (!chkçıkyedek.value()) eaten = !yedekKlasoru();
   });
@@ -73,7 +76,8 @@ void FrmOption::ayarlariBagla() {
 
 void FrmOption::ayarlariOku() {
   (istasyon.ayar("Language") == "tr" ? OptTR : OptGB).setValue(true);
-  for (const BoxSetting& row : boxes) (this->*row.box).setValue(text::Val(istasyon.ayar(row.key, "0")) != 0);
+  for (const BoxSetting& row : boxes)
+    (this->*row.box).setValue(text::Val(istasyon.ayar(row.key, "0")) != 0);
   (istasyon.ayar("nopen", "1") == "False" ? optkısıtlıaç : optaçma).setValue(true);
   Comgönce.setText(istasyon.ayar("remday", "0"));
   txtbtime.setText(istasyon.ayar("btime", "12:00"));
@@ -86,7 +90,8 @@ void FrmOption::AyarKaydet() {
   istasyon.ayarYaz("intapp", txtintapp.text());
   istasyon.ayarYaz("nopen", optaçma.value() ? "True" : "False");
   istasyon.ayarYaz("remday", Comgönce.text());
-  for (const BoxSetting& row : boxes) istasyon.ayarYaz(row.key, (this->*row.box).value() ? "1" : "0");
+  for (const BoxSetting& row : boxes)
+    istasyon.ayarYaz(row.key, (this->*row.box).value() ? "1" : "0");
   if (istasyon.kart != nullptr) istasyon.kart->sigaraGirisi();
   if (LblDil.caption() != istasyon.ayar("Language")) dilDegistir();
 }
@@ -107,7 +112,8 @@ void FrmOption::sifreIle(forms::CheckBox& box, std::string_view key, bool& eaten
 
 // Backing up at exit wants a folder first.
 bool FrmOption::yedekKlasoru() {
-  const auto folder = istasyon.host.chooseFolder(metinbul(istasyon, "Yedekle"), istasyon.ayar("BackUp", istasyon.dosya("Backup")));
+  const auto folder = istasyon.host.chooseFolder(metinbul(istasyon, "Yedekle"),
+                                                 istasyon.ayar("BackUp", istasyon.dosya("Backup")));
   if (folder) istasyon.ayarYaz("BackUp", *folder);
   return folder.has_value();
 }

@@ -13,7 +13,8 @@ namespace shell {
 
 namespace {
 
-constexpr std::array fontSizes{"8", "9", "10", "11", "12", "14", "16", "18", "20", "24", "28", "36", "48", "72"};
+constexpr std::array fontSizes{"8",  "9",  "10", "11", "12", "14", "16",
+                               "18", "20", "24", "28", "36", "48", "72"};
 constexpr int halfPointsPerPoint = 2;
 
 using richtext::Alignment;
@@ -52,11 +53,14 @@ void FrmOption::basligiBagla() {
   tbToolBar.ButtonClick.connect([this](std::string_view key) { bicimle(key); });
   ComFontSize.setItems({fontSizes.begin(), fontSizes.end()});
   ComFontName.Click.connect([this] {
-    if (!ComFontName.text().empty()) rtfText.edit([this](Editor& e) { e.setSelFontName(ComFontName.text()); });
+    if (!ComFontName.text().empty())
+      rtfText.edit([this](Editor& e) { e.setSelFontName(ComFontName.text()); });
   });
   ComFontSize.Click.connect([this] {
     const auto points = text::wholeNumber(ComFontSize.text());
-    if (points) rtfText.edit([&](Editor& e) { e.setSelHalfPoints(static_cast<int>(*points) * halfPointsPerPoint); });
+    if (points)
+      rtfText.edit(
+          [&](Editor& e) { e.setSelHalfPoints(static_cast<int>(*points) * halfPointsPerPoint); });
   });
   rtfText.Change.connect([this] { baslikDegisti_ = true; });
   rtfText.SelChange.connect([this] { bicimiGoster(); });
@@ -80,7 +84,8 @@ void FrmOption::bicimle(std::string_view key) {
   if (key == "Cut") return istasyon.host.sendKeys("+{DELETE}");
   if (key == "Paste") return istasyon.host.sendKeys("+{INSERT}");
   if (key == "Color") {
-    const auto colour = istasyon.host.chooseColour(rtfText.editor().selColour().value_or(std::nullopt).value_or(0));
+    const auto colour =
+        istasyon.host.chooseColour(rtfText.editor().selColour().value_or(std::nullopt).value_or(0));
     if (colour) rtfText.edit([&](Editor& e) { e.setSelColour(*colour); });
     return;
   }
@@ -97,7 +102,8 @@ void FrmOption::bicimiGoster() {
 }
 
 void FrmOption::resimSec(std::string_view filter, forms::Picture& shown) {
-  const auto chosen = istasyon.host.openFile({.title = shown.caption(), .filters = {std::string(filter)}, .folder = {}});
+  const auto chosen = istasyon.host.openFile(
+      {.title = shown.caption(), .filters = {std::string(filter)}, .folder = {}});
   if (chosen) shown.setPath(*chosen);
 }
 

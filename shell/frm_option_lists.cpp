@@ -71,22 +71,27 @@ std::string_view FrmOption::secilenTablo() const {
 }
 
 void FrmOption::listeyiDoldur(forms::ComboBox& combo) {
-  const auto row = std::ranges::find_if(lists, [&](const ListRow& r) { return &(this->*r.combo) == &combo; });
+  const auto row =
+      std::ranges::find_if(lists, [&](const ListRow& r) { return &(this->*r.combo) == &combo; });
   combo.setItems(stores::values(istasyon.stores.personal, row->table));
 }
 
 void FrmOption::degerEkle() {
   if (secilen_ == nullptr) return;
-  const std::string value = istasyon.host.inputBox(metinbul(istasyon, "inpyenigir"), secilen_->caption(), "");
-  if (!value.empty()) degistir(stores::addValue(istasyon.stores.personal, secilenTablo(), text::trim(value)), value);
+  const std::string value =
+      istasyon.host.inputBox(metinbul(istasyon, "inpyenigir"), secilen_->caption(), "");
+  if (!value.empty())
+    degistir(stores::addValue(istasyon.stores.personal, secilenTablo(), text::trim(value)), value);
 }
 
 void FrmOption::degerDegistir() {
   if (secilen_ == nullptr || secilen_->listIndex() < 0) return;
   const std::string old = secilen_->text();
-  const std::string value = istasyon.host.inputBox(metinbul(istasyon, "inpduzeltmeler"), secilen_->caption(), old);
+  const std::string value =
+      istasyon.host.inputBox(metinbul(istasyon, "inpduzeltmeler"), secilen_->caption(), old);
   if (value.empty() || value == old) return;
-  degistir(stores::changeValue(istasyon.stores.personal, secilenTablo(), old, text::trim(value)), value);
+  degistir(stores::changeValue(istasyon.stores.personal, secilenTablo(), old, text::trim(value)),
+           value);
 }
 
 void FrmOption::degerSil() {

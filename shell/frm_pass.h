@@ -40,7 +40,9 @@ inline constexpr std::string_view names = "namepass";
 
 enum class PasswordChange { Offered, Withheld };
 
-// Asks for the password of that key, or for a new one when none is set. The answer is in SifreSonucu as well.
-[[nodiscard]] bool sifreSor(Station& istasyon, std::string_view key, PasswordChange change = PasswordChange::Offered);
+// Asks for the password of that key, or for a new one when none is set. The answer is in
+// SifreSonucu as well.
+[[nodiscard]] bool sifreSor(Station& istasyon, std::string_view key,
+                            PasswordChange change = PasswordChange::Offered);
 
 }  // namespace shell

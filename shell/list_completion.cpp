@@ -14,7 +14,9 @@ bool steers(int code) {
          (code >= forms::key_code::Left && code <= forms::key_code::Down);
 }
 
-std::string comparable(std::string_view text) { return text::trim(text::upper(text)); }
+std::string comparable(std::string_view text) {
+  return text::trim(text::upper(text));
+}
 
 }  // namespace
 
@@ -23,8 +25,9 @@ void completeFromList(forms::ComboBox& combo, const forms::Key& key) {
   const std::string typed = combo.text();
   const auto length = static_cast<std::ptrdiff_t>(text::length(typed));
   const std::string wanted = comparable(typed);
-  const auto row = std::ranges::find_if(
-      combo.items(), [&](const std::string& item) { return comparable(text::left(item, length)) == wanted; });
+  const auto row = std::ranges::find_if(combo.items(), [&](const std::string& item) {
+    return comparable(text::left(item, length)) == wanted;
+  });
   if (row == combo.items().end()) return;
   combo.setText(typed + text::mid(*row, length + 1));
   combo.select(static_cast<std::size_t>(length), text::length(combo.text()));

@@ -7,8 +7,8 @@
 
 namespace shell {
 
-// The first row whose beginning equals the typed text, without regard to case, completes it: the rest is appended
-// and selected, so that typing on replaces it. Steering keys complete nothing.
+// The first row whose beginning equals the typed text, without regard to case, completes it: the
+// rest is appended and selected, so that typing on replaces it. Steering keys complete nothing.
 void completeFromList(forms::ComboBox& combo, const forms::Key& key);
 
 // A text that no row equals letter for letter becomes a row, for this session.

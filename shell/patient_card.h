@@ -9,17 +9,18 @@ class PatientCard {
  public:
   virtual ~PatientCard() = default;
 
-  // Loads Station::SeciliHasta on the card; nothing happens when it is empty or has no card. The caller takes the
-  // snapshot with Eskialanmain afterwards.
+  // Loads Station::SeciliHasta on the card; nothing happens when it is empty or has no card. The
+  // caller takes the snapshot with Eskialanmain afterwards.
   virtual void hastaoku() = 0;
   virtual void Eskialanmain() = 0;
 
-  // What stands on the card: the birth field as typed (a date or a year) and the list index of the sex.
+  // What stands on the card: the birth field as typed (a date or a year) and the list index of the
+  // sex.
   [[nodiscard]] virtual std::string dogum() const = 0;
   [[nodiscard]] virtual int cinsiyet() const = 0;
 
-  // What the Options screen sets off on the main window: all words anew, lists filled anew, the smoking clinic's
-  // entry shown or hidden.
+  // What the Options screen sets off on the main window: all words anew, lists filled anew, the
+  // smoking clinic's entry shown or hidden.
   virtual void dilDegisti() = 0;
   virtual void Listeleriyaz() = 0;
   virtual void sigaraGirisi() = 0;

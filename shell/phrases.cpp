@@ -19,28 +19,33 @@ constexpr std::array<Row, 17> phraseRows{{
     {Phrase::StateNotSaved, "could not be saved: ", "kaydedilemedi: "},
     {Phrase::PatientCount, "patients: ", "hasta: "},
     {Phrase::NoNameFound, "no patient begins with this name", "bu isimle başlayan hasta yok"},
-    {Phrase::NobodyExamined, "Nobody has been examined today yet.", "Bugün henüz muayene yapılmadı."},
+    {Phrase::NobodyExamined, "Nobody has been examined today yet.",
+     "Bugün henüz muayene yapılmadı."},
     {Phrase::StationNumber, "station ", "istasyon "},
     {Phrase::AboutText, "Patient records of the practice", "Muayenehane hasta kayıtları"},
-    {Phrase::EmptyList, "The list is empty. Add the first value.", "Liste boş. İlk değeri ekleyin."},
+    {Phrase::EmptyList, "The list is empty. Add the first value.",
+     "Liste boş. İlk değeri ekleyin."},
     {Phrase::ChoosePhotograph, "Choose photograph", "Fotoğraf seç"},
     {Phrase::RemovePicture, "Remove", "Kaldır"},
     {Phrase::LetterheadPicture, "Letterhead picture", "Başlık resmi"},
     {Phrase::LetterheadIcon, "Letterhead icon", "Başlık ikonu"},
     {Phrase::Language, "Language", "Dil"},
-    {Phrase::OpeningFailed, "The practice could not be opened completely. ", "Kayıtlar tam olarak açılamadı. "},
+    {Phrase::OpeningFailed, "The practice could not be opened completely. ",
+     "Kayıtlar tam olarak açılamadı. "},
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
 }};
 
 }  // namespace
 
 std::string phrase(Station& istasyon, Phrase which) {
-  static_assert([] {
-    for (std::size_t i = 0; i < phraseRows.size(); ++i) {
-      if (static_cast<std::size_t>(phraseRows[i].which) != i) return false;
-    }
-    return true;
-  }(), "the rows stand in the order of the enumerators");
+  static_assert(
+      [] {
+        for (std::size_t i = 0; i < phraseRows.size(); ++i) {
+          if (static_cast<std::size_t>(phraseRows[i].which) != i) return false;
+        }
+        return true;
+      }(),
+      "the rows stand in the order of the enumerators");
   const Row& row = phraseRows.at(static_cast<std::size_t>(which));
   return istasyon.ayar("Language") == "tr" ? row.turkish : row.english;
 }

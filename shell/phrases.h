@@ -1,4 +1,5 @@
-// Words of the windows themselves, beside the vocabulary: hints and states that no key of it covers.
+// Words of the windows themselves, beside the vocabulary: hints and states that no key of it
+// covers.
 #pragma once
 
 #include <string>

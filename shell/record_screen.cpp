@@ -11,7 +11,8 @@
 
 namespace shell {
 
-RecordScreen::RecordScreen(Station& station, std::string_view name) : Form(name), istasyon(station) {
+RecordScreen::RecordScreen(Station& station, std::string_view name)
+    : Form(name), istasyon(station) {
   mnuyeni.setShortcut("Ctrl+N");
   mnukaydet.setShortcut("Ctrl+S");
   mnukaydet.Click.connect([this] { Kaydet(); });
@@ -28,8 +29,9 @@ void RecordScreen::alanGenislikleri(const dao::Database& database, std::string_v
     if (row.stored != Stored::Text) continue;
     if (row.cut > 0) kontrol(row).setMaxLength(static_cast<std::size_t>(row.cut));
     if (row.cut > 0 || !columns) continue;
-    const auto column = std::ranges::find_if(
-        *columns, [&](const dao::FieldInfo& info) { return text::equalsNoCase(info.name, row.column); });
+    const auto column = std::ranges::find_if(*columns, [&](const dao::FieldInfo& info) {
+      return text::equalsNoCase(info.name, row.column);
+    });
     if (column != columns->end()) kontrol(row).setMaxLength(static_cast<std::size_t>(column->size));
   }
 }
@@ -39,7 +41,8 @@ void RecordScreen::alanlariYukle() {
     const dao::Field stored = tablo().Fields(row.column);
     if (row.stored == Stored::Text) kontrol(row).setText(text::trimmed(stored.text()));
     if (row.stored == Stored::ListIndex) {
-      static_cast<forms::ComboBox&>(kontrol(row)).setListIndex(static_cast<int>(text::Val(stored.text())));
+      static_cast<forms::ComboBox&>(kontrol(row))
+          .setListIndex(static_cast<int>(text::Val(stored.text())));
     }
   }
 }
@@ -90,7 +93,9 @@ dao::Status RecordScreen::alaniTasi(const FieldRow& row) {
   forms::TextControl& field = kontrol(row);
   if (row.stored == Stored::Screen) return {};
   if (row.stored == Stored::ListIndex) {
-    return tablo().Fields(row.column).Set(std::to_string(static_cast<forms::ComboBox&>(field).listIndex()));
+    return tablo()
+        .Fields(row.column)
+        .Set(std::to_string(static_cast<forms::ComboBox&>(field).listIndex()));
   }
   const std::string trimmed = text::trim(field.text());
   return tablo().Fields(row.column).Set(row.cut > 0 ? text::left(trimmed, row.cut) : trimmed);

@@ -1,5 +1,6 @@
-// The protocol of every screen that shows one stored record at a time. A screen gives its field rows, its table and
-// what is peculiar to it; load, store, clear, snapshot, dirty test and the two questions are here.
+// The protocol of every screen that shows one stored record at a time. A screen gives its field
+// rows, its table and what is peculiar to it; load, store, clear, snapshot, dirty test and the two
+// questions are here.
 #pragma once
 
 #include <functional>
@@ -20,7 +21,8 @@ class RecordScreen : public forms::Form {
   RecordScreen(Station& istasyon, std::string_view name);
 
   [[nodiscard]] virtual std::span<const FieldRow> alanlar() const = 0;
-  // The open table that the records live in; its current record is never assumed, always sought again.
+  // The open table that the records live in; its current record is never assumed, always sought
+  // again.
   [[nodiscard]] virtual dao::Recordset& tablo() = 0;
   // The key of the stored record on the screen; empty for one that was never saved.
   [[nodiscard]] virtual std::string eskiAnahtar() const = 0;
@@ -31,7 +33,8 @@ class RecordScreen : public forms::Form {
   virtual void Sil() = 0;
   virtual void alanlaribosalt();
 
-  // The fields' texts in row order, with no separator: what the snapshot holds and is compared with.
+  // The fields' texts in row order, with no separator: what the snapshot holds and is compared
+  // with.
   [[nodiscard]] virtual std::string YeniAlanlar();
   // Takes the snapshot and disables Save.
   void Eskialan();
@@ -39,7 +42,8 @@ class RecordScreen : public forms::Form {
   virtual void tuskontrol();
   // Asks the save question when there is something to save; Yes saves, No lets the changes go.
   void kayitkontrol();
-  // Copies the fields into the record buffer; the caller has called AddNew or Edit and calls Update afterwards.
+  // Copies the fields into the record buffer; the caller has called AddNew or Edit and calls Update
+  // afterwards.
   virtual dao::Status Forumalanlaritasi();
 
   // Without the marks that tell namesakes apart.

@@ -17,7 +17,9 @@ class ScreenDirectory {
  public:
   using Maker = std::function<std::unique_ptr<forms::Form>(Station&)>;
 
-  void add(std::string_view name, Maker maker) { makers_.insert_or_assign(std::string(name), std::move(maker)); }
+  void add(std::string_view name, Maker maker) {
+    makers_.insert_or_assign(std::string(name), std::move(maker));
+  }
   [[nodiscard]] bool has(std::string_view name) const { return makers_.contains(name); }
   // A new, not yet loaded screen; null for a name that nobody registered.
   [[nodiscard]] std::unique_ptr<forms::Form> make(std::string_view name, Station& istasyon) const {

@@ -26,12 +26,15 @@ std::string alanMetinleri(const forms::Form& form) {
   return texts;
 }
 
-bool bosMu(const forms::Form& form) { return textsWithoutDate(form).empty(); }
+bool bosMu(const forms::Form& form) {
+  return textsWithoutDate(form).empty();
+}
 
 void alanyedekle(Station& istasyon, forms::Form& form) {
   istasyon.AlanYedegi = alanMetinleri(form);
   if (forms::Control* save = form.find("mnukaydet")) save->setEnabled(false);
-  if (auto* toolbar = dynamic_cast<forms::Toolbar*>(form.find("tbToolBar"))) toolbar->setButtonEnabled("Save", false);
+  if (auto* toolbar = dynamic_cast<forms::Toolbar*>(form.find("tbToolBar")))
+    toolbar->setButtonEnabled("Save", false);
 }
 
 void hepsinisec(const forms::Form& form) {

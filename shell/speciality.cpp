@@ -47,7 +47,9 @@ constexpr std::array<SwitchButton, 7> switchButtons{{
     {"BGenel", 20, "GenMed", "genelhastatakip"},
 }};
 
-bool reports(int bransNo) { return bransNo == brans::pathology || bransNo == brans::radiology; }
+bool reports(int bransNo) {
+  return bransNo == brans::pathology || bransNo == brans::radiology;
+}
 
 void setVisible(forms::Form& main, matrix::Names names, bool visible) {
   for (const std::string_view name : names) {
@@ -58,7 +60,8 @@ void setVisible(forms::Form& main, matrix::Names names, bool visible) {
 void setVisitButton(Station& istasyon, forms::Form& main) {
   auto* const toolbar = dynamic_cast<forms::Toolbar*>(main.find("tbToolBar"));
   if (toolbar == nullptr) return;
-  toolbar->setButtonVisible("muayene", istasyon.BransNo != brans::smoke);
+  // Never shown again here: restricted opening may have hidden it.
+  if (istasyon.BransNo == brans::smoke) toolbar->setButtonVisible("muayene", false);
   toolbar->setButtonImage("muayene", visitImage(istasyon.BransNo, Visits::None));
   std::string toolTip = metinbul(istasyon, "Muayene");
   if (istasyon.BransNo == brans::pathology) toolTip = metinbul(istasyon, "Patoloji Raporu");
@@ -83,12 +86,15 @@ void bransdegistir(Station& istasyon, forms::Form& main) {
 
 }  // namespace
 
-std::span<const Speciality> specialities() { return specialityRows; }
+std::span<const Speciality> specialities() {
+  return specialityRows;
+}
 
 std::string bransbul(Station& istasyon) {
   const std::string wanted = text::upper(istasyon.programName);
-  const auto found = std::ranges::find_if(
-      specialityRows, [&](const Speciality& row) { return text::upper(row.programName) == wanted; });
+  const auto found = std::ranges::find_if(specialityRows, [&](const Speciality& row) {
+    return text::upper(row.programName) == wanted;
+  });
   const Speciality& row = found == specialityRows.end() ? specialityRows.back() : *found;
   istasyon.BransNo = row.BransNo;
   istasyon.BransKodu = row.BransKodu;

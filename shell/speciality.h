@@ -31,20 +31,23 @@ inline constexpr int koduDahiliye = 215;
 inline constexpr int koduKadinDogum = 245;
 }  // namespace brans
 
-// Fills BransNo, BransKodu and BransAdi from the program's file name; returns the caption of the main window.
+// Fills BransNo, BransKodu and BransAdi from the program's file name; returns the caption of the
+// main window.
 std::string bransbul(Station& istasyon);
 
 // The workspace of the speciality on the main window: its entries shown, all others hidden.
 void bransmenusu(Station& istasyon, forms::Form& main);
 
-// The polyclinic's option buttons: the speciality of a button becomes the working one. Returns false for a button
-// that is none of them.
+// The polyclinic's option buttons: the speciality of a button becomes the working one. Returns
+// false for a button that is none of them.
 bool bransSec(Station& istasyon, forms::Form& main, std::string_view button);
 
-// The name of the main window's entry that opens the examination of the present speciality; empty when it has none.
+// The name of the main window's entry that opens the examination of the present speciality; empty
+// when it has none.
 [[nodiscard]] std::string_view examinationEntry(int bransNo);
 
-// The image of the toolbar button `muayene`, for a patient with or without a visit in the present speciality.
+// The image of the toolbar button `muayene`, for a patient with or without a visit in the present
+// speciality.
 enum class Visits { None, Some };
 [[nodiscard]] std::string_view visitImage(int bransNo, Visits visits);
 

@@ -55,7 +55,9 @@ bool Station::evetMi(std::string_view question) {
   return mesaj(question, host::Buttons::YesNo, host::Icon::Question) == host::Answer::Yes;
 }
 
-void Station::bilgi(std::string_view text) { mesaj(text, host::Buttons::Ok, host::Icon::Information); }
+void Station::bilgi(std::string_view text) {
+  mesaj(text, host::Buttons::Ok, host::Icon::Information);
+}
 
 void Station::ekranAc(std::string_view name) {
   const auto form = screens.make(name, *this);

@@ -1,5 +1,5 @@
-// The state that all screens share, under the system's own names, read and written directly. A test can hold two
-// stations on one folder in one process.
+// The state that all screens share, under the system's own names, read and written directly. A test
+// can hold two stations on one folder in one process.
 #pragma once
 
 #include <string>
@@ -15,7 +15,8 @@
 namespace shell {
 
 struct Station {
-  // The program's folder, the file name that selects the speciality, and the world outside; none is owned.
+  // The program's folder, the file name that selects the speciality, and the world outside; none is
+  // owned.
   struct World {
     host::Host& host;
     const host::Clock& clock;
@@ -52,13 +53,16 @@ struct Station {
   // Settings of the program, in its section `Main`.
   [[nodiscard]] std::string ayar(std::string_view key, std::string_view missing = {}) const;
   void ayarYaz(std::string_view key, std::string_view value);
-  [[nodiscard]] std::string dosya(std::string_view relative) const { return UygYolu + std::string(relative); }
+  [[nodiscard]] std::string dosya(std::string_view relative) const {
+    return UygYolu + std::string(relative);
+  }
 
   // A message box under the main window's caption.
   host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon);
   [[nodiscard]] bool evetMi(std::string_view question);
   void bilgi(std::string_view text);
-  // Opens a screen by its name and waits until it is closed; says so when this version has no such screen.
+  // Opens a screen by its name and waits until it is closed; says so when this version has no such
+  // screen.
   void ekranAc(std::string_view name);
 };
 

@@ -18,9 +18,15 @@ constexpr dao::FieldDef filledText(std::string_view name, int size) {
 constexpr dao::FieldDef memo(std::string_view name) {
   return {name, dao::FieldType::Memo, 0, dao::ZeroLength::Allowed};
 }
-constexpr dao::FieldDef date(std::string_view name) { return {name, dao::FieldType::Date}; }
-constexpr dao::FieldDef number(std::string_view name) { return {name, dao::FieldType::Long}; }
-constexpr dao::FieldDef byte(std::string_view name) { return {name, dao::FieldType::Byte}; }
+constexpr dao::FieldDef date(std::string_view name) {
+  return {name, dao::FieldType::Date};
+}
+constexpr dao::FieldDef number(std::string_view name) {
+  return {name, dao::FieldType::Long};
+}
+constexpr dao::FieldDef byte(std::string_view name) {
+  return {name, dao::FieldType::Byte};
+}
 constexpr dao::FieldDef autoNumber(std::string_view name) {
   return {name, dao::FieldType::Long, 0, dao::ZeroLength::Refused, dao::AutoIncrement::Yes};
 }
@@ -28,7 +34,9 @@ constexpr dao::FieldDef autoNumber(std::string_view name) {
 constexpr dao::IndexDef primaryKey(std::string_view field) {
   return {"PrimaryKey", field, dao::Primary::Yes, dao::Unique::Yes};
 }
-constexpr dao::IndexDef plainIndex(std::string_view name, std::string_view field) { return {name, field}; }
+constexpr dao::IndexDef plainIndex(std::string_view name, std::string_view field) {
+  return {name, field};
+}
 
 using Schema = std::span<const dao::TableDef>;
 

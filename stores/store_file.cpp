@@ -4,7 +4,8 @@ namespace stores {
 
 namespace {
 
-// Another station may append the same table at the same moment: then it is there, which is all that is wanted.
+// Another station may append the same table at the same moment: then it is there, which is all that
+// is wanted.
 dao::Status complete(dao::Database& database, Schema schema) {
   for (const dao::TableDef& table : schema) {
     const dao::Status appended = database.appendTable(table);

@@ -49,8 +49,8 @@ dao::Status openHandles(Store& store, const std::array<Handle<Store>, N>& handle
 }
 
 template <class Store, std::size_t N>
-dao::Status openStore(Store& store, const std::string& path, const std::array<Handle<Store>, N>& handles,
-                      Schema schema) {
+dao::Status openStore(Store& store, const std::string& path,
+                      const std::array<Handle<Store>, N>& handles, Schema schema) {
   store = {};
   auto database = dao::OpenDatabase(path);
   if (!database) return database.error();
@@ -77,7 +77,8 @@ dao::Status createInto(Store& store, const std::string& path, Schema schema) {
 }
 
 dao::Status openClinical(Stores& stores) {
-  return openStore(stores.clinical, stores.folder + clinicalFile, clinicalHandles, clinicalSchema());
+  return openStore(stores.clinical, stores.folder + clinicalFile, clinicalHandles,
+                   clinicalSchema());
 }
 
 dao::Status openSettings(Stores& stores) {
@@ -91,10 +92,11 @@ dao::Status openSettings(Stores& stores) {
 }  // namespace
 
 dao::Status OpenStores(Stores& stores) {
-  const std::array results{
-      openOrCreate([&] { return ReopenPersonalStore(stores); }, [&] { return CreatePersonalStore(stores); }),
-      openSettings(stores),
-      openOrCreate([&] { return openClinical(stores); }, [&] { return CreateClinicalStore(stores); })};
+  const std::array results{openOrCreate([&] { return ReopenPersonalStore(stores); },
+                                        [&] { return CreatePersonalStore(stores); }),
+                           openSettings(stores),
+                           openOrCreate([&] { return openClinical(stores); },
+                                        [&] { return CreateClinicalStore(stores); })};
   for (const dao::Status& result : results) {
     if (!result) return result;
   }
@@ -108,7 +110,8 @@ void CloseStores(Stores& stores) {
 }
 
 dao::Status ReopenPersonalStore(Stores& stores) {
-  return openStore(stores.personal, stores.folder + personalFile, personalHandles, personalSchema());
+  return openStore(stores.personal, stores.folder + personalFile, personalHandles,
+                   personalSchema());
 }
 
 dao::Status CreatePersonalStore(Stores& stores) {

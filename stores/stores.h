@@ -1,5 +1,5 @@
-// The open stores of a station: one database each and one long-lived recordset per table, and the file of font
-// records that opens between them.
+// The open stores of a station: one database each and one long-lived recordset per table, and the
+// file of font records that opens between them.
 #pragma once
 
 #include <optional>
@@ -38,8 +38,8 @@ struct Stores {
   ClinicalStore clinical;
 };
 
-// Opens everything in its order. A missing store is created, an incomplete one completed, both in silence. The
-// first failure that remains comes back, after everything that can be opened is open.
+// Opens everything in its order. A missing store is created, an incomplete one completed, both in
+// silence. The first failure that remains comes back, after everything that can be opened is open.
 dao::Status OpenStores(Stores& stores);
 void CloseStores(Stores& stores);
 

@@ -25,7 +25,8 @@ dao::Status noSuchList(std::string_view table) {
 }
 
 dao::Status noSuchValue(std::string_view table, std::string_view value) {
-  return {dao::Fault::Missing, std::string(table) + " does not hold \"" + std::string(value) + "\""};
+  return {dao::Fault::Missing,
+          std::string(table) + " does not hold \"" + std::string(value) + "\""};
 }
 
 // Seeks the value; a fault, or Missing when the list does not hold it.
@@ -45,7 +46,8 @@ dao::Status write(dao::Recordset& list, std::string_view table, std::string_view
 }  // namespace
 
 dao::Recordset* valueList(PersonalStore& personal, std::string_view table) {
-  const auto found = std::ranges::find_if(lists, [&](const auto& row) { return text::equalsNoCase(row.first, table); });
+  const auto found = std::ranges::find_if(
+      lists, [&](const auto& row) { return text::equalsNoCase(row.first, table); });
   return found == lists.end() ? nullptr : &(personal.*found->second);
 }
 
@@ -68,7 +70,8 @@ dao::Status addValue(PersonalStore& personal, std::string_view table, std::strin
   return added ? write(*list, table, value) : added;
 }
 
-dao::Status changeValue(PersonalStore& personal, std::string_view table, std::string_view old, std::string_view now) {
+dao::Status changeValue(PersonalStore& personal, std::string_view table, std::string_view old,
+                        std::string_view now) {
   dao::Recordset* const list = valueList(personal, table);
   if (list == nullptr) return noSuchList(table);
   const dao::Status there = seekValue(*list, table, old);

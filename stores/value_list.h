@@ -19,7 +19,8 @@ namespace stores {
 // Adds a value that the list does not hold yet; TooLong when it is wider than the column.
 dao::Status addValue(PersonalStore& personal, std::string_view table, std::string_view value);
 // Missing when the list does not hold the old value; Exists when it holds the new one already.
-dao::Status changeValue(PersonalStore& personal, std::string_view table, std::string_view old, std::string_view now);
+dao::Status changeValue(PersonalStore& personal, std::string_view table, std::string_view old,
+                        std::string_view now);
 dao::Status deleteValue(PersonalStore& personal, std::string_view table, std::string_view value);
 
 }  // namespace stores

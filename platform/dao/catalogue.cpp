@@ -4,15 +4,12 @@
 #include <array>
 
 #include "platform/dao/declaration.h"
+#include "platform/text/fold.h"
 
 namespace dao {
 namespace {
 
 constexpr std::string_view kPrimary = "PrimaryKey";
-
-char lower(char character) {
-  return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 32) : character;
-}
 
 using Row = std::vector<std::string>;
 
@@ -77,23 +74,19 @@ Status readIndexes(Engine& engine, TableShape& table) {
 
 }  // namespace
 
-bool sameName(std::string_view left, std::string_view right) {
-  return std::ranges::equal(left, right, {}, lower, lower);
-}
-
 std::string TableShape::identityColumn() const {
   return identity ? sqlName(fields[static_cast<std::size_t>(*identity)].name) : "rowid";
 }
 
 const IndexInfo* TableShape::index(std::string_view wanted) const {
   const auto found = std::ranges::find_if(
-      indexes, [&](const IndexInfo& each) { return sameName(each.name, wanted); });
+      indexes, [&](const IndexInfo& each) { return text::equalsNoCase(each.name, wanted); });
   return found == indexes.end() ? nullptr : &*found;
 }
 
 std::optional<int> TableShape::field(std::string_view wanted) const {
   const auto found = std::ranges::find_if(
-      fields, [&](const FieldInfo& each) { return sameName(each.name, wanted); });
+      fields, [&](const FieldInfo& each) { return text::equalsNoCase(each.name, wanted); });
   if (found == fields.end()) return std::nullopt;
   return static_cast<int>(found - fields.begin());
 }

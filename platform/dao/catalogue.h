@@ -25,8 +25,6 @@ struct TableShape {
   [[nodiscard]] std::optional<int> field(std::string_view wanted) const;
 };
 
-[[nodiscard]] bool sameName(std::string_view left, std::string_view right);
-
 [[nodiscard]] Result<std::vector<std::string>> tableNames(Engine& engine);
 [[nodiscard]] Result<TableShape> readTable(Engine& engine, std::string_view name);
 [[nodiscard]] std::string indexNameInFile(std::string_view table, std::string_view index);

@@ -1,11 +1,10 @@
 #include "platform/dao/collation.h"
 
 #include <unicode/ucol.h>
+#include <unicode/ustring.h>
 
 #include <algorithm>
 #include <array>
-
-#include "platform/dao/unicode.h"
 
 namespace dao {
 namespace {
@@ -16,6 +15,17 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
 
 int32_t sizeOf(std::string_view text) {
   return static_cast<int32_t>(text.size());
+}
+
+std::u16string toUtf16(std::string_view text) {
+  constexpr UChar32 kReplacement = 0xFFFD;
+  std::u16string wide(text.size(), u'\0');  // UTF-16 never needs more units than UTF-8 has bytes
+  UErrorCode error = U_ZERO_ERROR;
+  int32_t length = 0;
+  u_strFromUTF8WithSub(wide.data(), sizeOf(text), &length, text.data(), sizeOf(text), kReplacement,
+                       nullptr, &error);
+  wide.resize(static_cast<std::size_t>(length));
+  return wide;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "platform/dao/catalogue.h"
+#include "platform/text/fold.h"
 
 namespace dao {
 namespace {
@@ -47,7 +48,7 @@ std::string columnList(std::string_view fields) {
 
 const FieldDef* fieldOf(const TableDef& table, std::string_view name) {
   const auto found = std::ranges::find_if(
-      table.fields, [&](const FieldDef& field) { return sameName(field.name, name); });
+      table.fields, [&](const FieldDef& field) { return text::equalsNoCase(field.name, name); });
   return found == table.fields.end() ? nullptr : &*found;
 }
 
@@ -68,8 +69,9 @@ const FieldDef* numberingField(const TableDef& table) {
 
 bool isKeyField(const TableDef& table, const FieldDef& field) {
   const IndexDef* primary = primaryOf(table);
-  return primary && std::ranges::any_of(split(primary->fields),
-                                        [&](auto name) { return sameName(name, field.name); });
+  return primary && std::ranges::any_of(split(primary->fields), [&](auto name) {
+           return text::equalsNoCase(name, field.name);
+         });
 }
 
 std::string column(const TableDef& table, const FieldDef& field, Order order) {
@@ -152,7 +154,7 @@ Result<std::vector<std::string>> creation(const TableDef& table, Order order) {
   statements.push_back("CREATE TABLE " + sqlName(table.name) + "(" + columns +
                        (clustered ? ") WITHOUT ROWID" : ")"));
   for (const IndexDef& index : table.indexes) {
-    const bool numbered = numbering && sameName(index.fields, numbering->name);
+    const bool numbered = numbering && text::equalsNoCase(index.fields, numbering->name);
     const bool inTable = index.primary == Primary::Yes && (clustered || numbered);
     if (!inTable) statements.push_back(indexCreation(table.name, index));
   }

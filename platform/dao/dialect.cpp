@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/dao/catalogue.h"
+#include "platform/text/fold.h"
 
 namespace dao {
 namespace {
@@ -60,15 +61,17 @@ class Reader {
  public:
   bool expectsName() const {
     if (inList_) return false;
-    return std::ranges::any_of(kBeforeNames, [&](auto word) { return sameName(word, previous_); });
+    return std::ranges::any_of(kBeforeNames,
+                               [&](auto word) { return text::equalsNoCase(word, previous_); });
   }
 
   void pass(std::string_view token) {
-    if (token == "(") inList_ = sameName(previous_, "in") || sameName(previous_, "values");
+    if (token == "(")
+      inList_ = text::equalsNoCase(previous_, "in") || text::equalsNoCase(previous_, "values");
     if (token == ")") inList_ = false;
-    if (sameName(token, "between")) between_ = true;
+    if (text::equalsNoCase(token, "between")) between_ = true;
     // The "and" of a "between" is followed by a value.
-    const bool bound = between_ && sameName(token, "and");
+    const bool bound = between_ && text::equalsNoCase(token, "and");
     if (bound) between_ = false;
     previous_ = bound ? "between" : token;
   }
@@ -85,7 +88,7 @@ bool isSelect(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   constexpr std::string_view kSelect = "select";
   const bool ends = text.size() > kSelect.size() && !isWordPart(text[kSelect.size()]);
-  return ends && sameName(text.substr(0, kSelect.size()), kSelect);
+  return ends && text::equalsNoCase(text.substr(0, kSelect.size()), kSelect);
 }
 
 std::string translated(std::string_view text) {
@@ -97,7 +100,7 @@ std::string translated(std::string_view text) {
     const std::size_t next = std::min(text.find_first_not_of(kBlanks, end), text.size());
     if (hasClosingQuote(token) && token.front() == '"' && !reader.expectsName()) {
       result += literal(token);
-    } else if (sameName(token, "left") && text.substr(next, 1) == "(") {
+    } else if (text::equalsNoCase(token, "left") && text.substr(next, 1) == "(") {
       result += "\"left\"";
     } else {
       result += token;

@@ -5,8 +5,8 @@
 
 #include "platform/dao/pattern.h"
 #include "platform/dao/prefix_search.h"
-#include "platform/dao/unicode.h"
 #include "platform/text/date.h"
+#include "platform/text/utf8.h"
 
 namespace dao {
 namespace {
@@ -51,11 +51,12 @@ void left(sqlite3_context* context, int, Arguments arguments) {
   if (isNull(arguments[0]) || isNull(arguments[1])) return;
   const std::int64_t length = sqlite3_value_int64(arguments[1]);
   if (length < 0) return sqlite3_result_error(context, "left: the length is negative", -1);
-  answer(context, leftCharacters(textOf(arguments[0]), length));
+  answer(context, text::left(textOf(arguments[0]), length));
 }
 
 void len(sqlite3_context* context, int, Arguments arguments) {
-  if (!isNull(arguments[0])) sqlite3_result_int(context, characterCount(textOf(arguments[0])));
+  if (!isNull(arguments[0]))
+    sqlite3_result_int64(context, static_cast<sqlite3_int64>(text::length(textOf(arguments[0]))));
 }
 
 void dateValue(sqlite3_context* context, int, Arguments arguments) {

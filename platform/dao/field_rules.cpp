@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <limits>
+#include <utility>
 
-#include "platform/dao/unicode.h"
+#include "platform/text/utf8.h"
 
 namespace dao {
 namespace {
@@ -48,15 +48,10 @@ std::optional<double> numberIn(const Value& value) {
   return whole ? std::optional(number) : std::nullopt;
 }
 
-bool isAscii(std::string_view text) {
-  return std::ranges::all_of(
-      text, [](char character) { return static_cast<unsigned char>(character) < 0x80; });
-}
-
 Result<Value> fittingText(const Value& value, const FieldInfo& field, std::string_view table) {
   std::string text = value.text();
-  if (!isAscii(text)) text = repairedUtf8(text);
-  if (field.size > 0 && characterCount(text) > field.size) {
+  if (!text::isAscii(text)) text = text::sanitize(text);
+  if (field.size > 0 && std::cmp_greater(text::length(text), field.size)) {
     return refused(Fault::TooLong, field, table,
                    "holds at most " + std::to_string(field.size) + " characters.");
   }

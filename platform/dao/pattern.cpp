@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/dao/unicode.h"
+#include "platform/text/utf8.h"
 
 namespace dao {
 namespace {
@@ -13,9 +13,10 @@ namespace {
 std::u32string foldedCharacters(std::string_view text, Order order) {
   const uint32_t rule =
       order == Order::Turkish ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT;
-  std::u32string result = characters(text);
-  for (char32_t& character : result) {
-    character = static_cast<char32_t>(u_foldCase(static_cast<UChar32>(character), rule));
+  std::u32string result;
+  for (std::size_t position = 0; position < text.size();) {
+    const auto character = static_cast<UChar32>(text::nextCharacter(text, position));
+    result += static_cast<char32_t>(u_foldCase(character, rule));
   }
   return result;
 }

@@ -36,7 +36,7 @@ class PrefixReader {
   ~PrefixReader();
 
   // Works for about that long. True when the list is complete.
-  [[nodiscard]] Result<bool> step(std::chrono::microseconds budget = std::chrono::milliseconds(5));
+  [[nodiscard]] Result<bool> step(std::chrono::microseconds budget = std::chrono::milliseconds(4));
 
   // The rows in table order as far as they are known: once all are found, this grows with each
   // step. The texts live as long as the reader; the span until the next step.

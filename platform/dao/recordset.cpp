@@ -1,6 +1,7 @@
 #include "platform/dao/recordset.h"
 
 #include "platform/dao/cursor.h"
+#include "platform/text/fold.h"
 
 namespace dao {
 namespace {
@@ -14,7 +15,7 @@ Status closed() {
 int FieldNames::find(std::string_view name) const {
   if (expected_ < names_.size() && names_[expected_] == name) return static_cast<int>(expected_++);
   for (std::size_t position = 0; position < names_.size(); ++position) {
-    if (!sameName(names_[position], name)) continue;
+    if (!text::equalsNoCase(names_[position], name)) continue;
     expected_ = position + 1;
     return static_cast<int>(position);
   }

@@ -16,29 +16,33 @@ void RowPage::append(const Statement& row) {
   sqlite3_stmt* statement = row.handle();
   const std::size_t first = cells_.size();
   cells_.resize(first + static_cast<std::size_t>(columns_));
-  Cell* cell = cells_.data() + first;
-  for (int column = 0; column < columns_; ++column, ++cell) {
-    switch (sqlite3_column_type(statement, column)) {
-      case SQLITE_NULL:
-        break;
-      case SQLITE_INTEGER:
-        cell->kind = Cell::Kind::Integer;
-        cell->integer = sqlite3_column_int64(statement, column);
-        break;
-      case SQLITE_FLOAT:
-        cell->kind = Cell::Kind::Real;
-        cell->real = sqlite3_column_double(statement, column);
-        break;
-      default:
-        cell->kind = Cell::Kind::Text;
-        cell->offset = texts_.size();
-        if (const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column))) {
-          cell->size = static_cast<std::uint32_t>(sqlite3_column_bytes(statement, column));
-          texts_.append(bytes, cell->size);
-        }
-    }
+  for (int column = 0; column < columns_; ++column) {
+    append(sqlite3_column_value(statement, column),
+           cells_[first + static_cast<std::size_t>(column)]);
   }
   ++rows_;
+}
+
+// The connection has no mutex, so its values can be read directly.
+void RowPage::append(sqlite3_value* value, Cell& cell) {
+  switch (sqlite3_value_type(value)) {
+    case SQLITE_NULL:
+      return;
+    case SQLITE_INTEGER:
+      cell.kind = Cell::Kind::Integer;
+      cell.integer = sqlite3_value_int64(value);
+      return;
+    case SQLITE_FLOAT:
+      cell.kind = Cell::Kind::Real;
+      cell.real = sqlite3_value_double(value);
+      return;
+    default:
+      cell.kind = Cell::Kind::Text;
+      cell.offset = texts_.size();
+      cell.size = static_cast<std::uint32_t>(sqlite3_value_bytes(value));
+      if (cell.size > 0)
+        texts_.append(static_cast<const char*>(sqlite3_value_blob(value)), cell.size);
+  }
 }
 
 Value RowPage::raw(int row, int column) const {

@@ -8,6 +8,8 @@
 
 #include "platform/dao/engine.h"
 
+struct sqlite3_value;
+
 namespace dao {
 
 struct Cell {
@@ -42,6 +44,8 @@ class RowPage {
   [[nodiscard]] Value raw(int row, int column) const;
 
  private:
+  void append(sqlite3_value* value, Cell& cell);
+
   int columns_ = 0;
   int rows_ = 0;
   bool reversed_ = false;

@@ -12,6 +12,11 @@ bool isEmptyText(const std::optional<Value>& value) {
   return text && text->empty();
 }
 
+bool isKey(const TableShape& table, const FieldInfo& field) {
+  const IndexInfo* primary = table.index("PrimaryKey");
+  return primary && std::ranges::find(primary->fields, field.name) != primary->fields.end();
+}
+
 }  // namespace
 
 RowWriter::RowWriter(Engine& engine, const TableShape& table)
@@ -24,6 +29,7 @@ RowWriter::RowWriter(Engine& engine, const TableShape& table)
   for (const FieldInfo& field : table_.fields) {
     columns += (columns.empty() ? "" : ", ") + sqlName(field.name);
     marks += marks.empty() ? "?" : ", ?";
+    needed_.push_back(isKey(table, field) && field.autoIncrement == AutoIncrement::No);
   }
   insert_ = "INSERT INTO " + name_ + "(" + columns + ") VALUES(" + marks + ")";
 }
@@ -70,7 +76,7 @@ Status RowWriter::validate(const Assigned& values, Missing missing) const {
     const FieldInfo& field = table_.fields[position];
     const auto& value = values[position];
     const bool null = value ? value->isNull() : missing == Missing::IsNull;
-    if (null && isKey(field) && field.autoIncrement == AutoIncrement::No) {
+    if (null && needed_[position]) {
       return {Fault::NullKey, table_.name + "." + field.name + " is a key and needs a value."};
     }
     if (field.zeroLength == ZeroLength::Refused && isEmptyText(value)) {
@@ -78,11 +84,6 @@ Status RowWriter::validate(const Assigned& values, Missing missing) const {
     }
   }
   return {};
-}
-
-bool RowWriter::isKey(const FieldInfo& field) const {
-  const IndexInfo* primary = table_.index("PrimaryKey");
-  return primary && std::ranges::find(primary->fields, field.name) != primary->fields.end();
 }
 
 Result<Statement*> RowWriter::statement(const std::string& sql) {

@@ -26,7 +26,6 @@ class RowWriter {
  private:
   enum class Missing { IsNull, IsKept };
   [[nodiscard]] Status validate(const Assigned& values, Missing missing) const;
-  [[nodiscard]] bool isKey(const FieldInfo& field) const;
   Result<Statement*> statement(const std::string& sql);
   // The number of rows that the statement wrote.
   Result<std::int64_t> write(const std::string& sql, const std::vector<Value>& values);
@@ -38,6 +37,7 @@ class RowWriter {
   std::string subject_;
   std::string name_;  // quoted
   std::string insert_;
+  std::vector<bool> needed_;  // the fields of the primary key, but the counting one
   std::map<std::string, Statement> statements_;
 };
 

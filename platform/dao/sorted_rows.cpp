@@ -10,13 +10,6 @@ namespace {
 constexpr std::size_t kBlock = 256 * 1024;
 constexpr int kRowsBetweenLooks = 64;
 
-std::uint64_t headOf(std::string_view key) {
-  std::uint64_t head = 0;
-  std::memcpy(&head, key.data(), std::min(key.size(), sizeof head));
-  if constexpr (std::endian::native == std::endian::little) head = __builtin_bswap64(head);
-  return head;
-}
-
 char* put(char* to, std::string_view bytes) {
   return std::ranges::copy(bytes, to).out;
 }
@@ -27,9 +20,18 @@ std::uint32_t sizeOf(std::string_view bytes) {
 
 }  // namespace
 
-bool SortedRows::before(const Entry& left, const Entry& right) {
+inline bool SortedRows::before(const Entry& left, const Entry& right) {
   if (left.head != right.head) return left.head < right.head;
   return std::string_view(left.bytes, left.keySize) < std::string_view(right.bytes, right.keySize);
+}
+
+std::uint64_t SortedRows::headOf(std::string_view key) const {
+  if (!key.starts_with(expected_)) return key < expected_ ? 0 : ~std::uint64_t{0};
+  key.remove_prefix(expected_.size());
+  std::uint64_t head = 0;
+  std::memcpy(&head, key.data(), std::min(key.size(), sizeof head));
+  if constexpr (std::endian::native == std::endian::little) head = __builtin_bswap64(head);
+  return head;
 }
 
 char* SortedRows::room(std::size_t size) {
@@ -51,7 +53,8 @@ void SortedRows::add(std::string_view key, std::string_view name, std::string_vi
 
 void SortedRows::closeRun() {
   if (open_.empty()) return;
-  std::ranges::sort(open_, before);
+  std::ranges::sort(open_,
+                    [](const Entry& left, const Entry& right) { return before(left, right); });
   total_ += open_.size();
   runs_.push_back(std::move(open_));
   open_ = {};

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,9 @@ using Deadline = std::chrono::steady_clock::time_point;
 // at a time.
 class SortedRows {
  public:
+  // Most keys begin with `expected`: what follows it is compared first.
+  explicit SortedRows(std::string expected) : expected_(std::move(expected)) {}
+
   void add(std::string_view key, std::string_view name, std::string_view extra);
   // Ends a slice: what was added since the last one becomes a run.
   void closeRun();
@@ -28,7 +32,7 @@ class SortedRows {
 
  private:
   struct Entry {
-    std::uint64_t head;  // the first bytes of the key, as a number that sorts like them
+    std::uint64_t head;  // sorts like the key, as far as it tells keys apart
     const char* bytes;   // key, name and extra, one behind the other
     std::uint32_t keySize;
     std::uint32_t nameSize;
@@ -41,11 +45,13 @@ class SortedRows {
   };
 
   [[nodiscard]] static bool before(const Entry& left, const Entry& right);
+  [[nodiscard]] std::uint64_t headOf(std::string_view key) const;
   [[nodiscard]] char* room(std::size_t size);
   void beginMerge();
   void sink(std::size_t parent);
   void take();
 
+  std::string expected_;
   std::vector<std::unique_ptr<char[]>> blocks_;
   std::size_t blockSize_ = 0;  // of the last block
   std::size_t left_ = 0;       // its free bytes

@@ -23,7 +23,8 @@ void OptionButton::setValue(bool value) {
 void OptionButton::turnOffSiblings() {
   for (Control* control : form().controls()) {
     auto* const option = dynamic_cast<OptionButton*>(control);
-    if (option == nullptr || option == this || option->group_ != group_ || !option->value_) continue;
+    if (option == nullptr || option == this || option->group_ != group_ || !option->value_)
+      continue;
     option->value_ = false;
     option->notify(Aspect::Selection);
   }

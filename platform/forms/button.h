@@ -24,7 +24,8 @@ class CheckBox : public Control {
   using Control::Control;
   [[nodiscard]] bool value() const { return value_; }
   void setValue(bool value);
-  // Runs before the user's press changes the value; a handler that sets `eaten` leaves the box as it is.
+  // Runs before the user's press changes the value; a handler that sets `eaten` leaves the box as
+  // it is.
   Event<bool&> MouseDown;
   Event<> Click;
 
@@ -32,11 +33,12 @@ class CheckBox : public Control {
   bool value_ = false;
 };
 
-// Of the option buttons with one group name on a form at most one is on. Turning one on turns the others off in
-// silence and fires Click of the one.
+// Of the option buttons with one group name on a form at most one is on. Turning one on turns the
+// others off in silence and fires Click of the one.
 class OptionButton : public Control {
  public:
-  OptionButton(Form& form, std::string_view name, std::string_view group) : Control(form, name), group_(group) {}
+  OptionButton(Form& form, std::string_view name, std::string_view group)
+      : Control(form, name), group_(group) {}
   [[nodiscard]] const std::string& group() const { return group_; }
   [[nodiscard]] bool value() const { return value_; }
   void setValue(bool value);

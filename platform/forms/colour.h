@@ -13,6 +13,8 @@ using OptionalColour = std::optional<Colour>;
 [[nodiscard]] constexpr Colour fromBgr(std::uint32_t bgr) {
   return ((bgr & 0xFFU) << 16U) | (bgr & 0xFF00U) | ((bgr >> 16U) & 0xFFU);
 }
-[[nodiscard]] constexpr std::uint32_t toBgr(Colour rgb) { return fromBgr(rgb); }
+[[nodiscard]] constexpr std::uint32_t toBgr(Colour rgb) {
+  return fromBgr(rgb);
+}
 
 }  // namespace forms

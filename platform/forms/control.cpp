@@ -6,7 +6,9 @@
 
 namespace forms {
 
-Control::Control(Form& form, std::string_view name) : form_(form), name_(name) { form.add(*this); }
+Control::Control(Form& form, std::string_view name) : form_(form), name_(name) {
+  form.add(*this);
+}
 
 void Control::setCaption(std::string caption) {
   if (caption == caption_) return;
@@ -33,6 +35,8 @@ void Control::setVisible(bool visible) {
   notify(Aspect::Visible);
 }
 
-void Control::setFocus() { form_.setActiveControl(*this); }
+void Control::setFocus() {
+  form_.setActiveControl(*this);
+}
 
 }  // namespace forms

@@ -12,10 +12,21 @@ namespace forms {
 class Form;
 
 // What changed on a control, for the widget that shows it.
-enum class Aspect { Text, Caption, ToolTip, Enabled, Visible, Items, Selection, Image, Paint, Range };
+enum class Aspect {
+  Text,
+  Caption,
+  ToolTip,
+  Enabled,
+  Visible,
+  Items,
+  Selection,
+  Image,
+  Paint,
+  Range
+};
 
-// A control registers with its form at construction; the order of declaration is the tab order and the order of
-// the generic snapshot. Controls live as members of their form and are never moved.
+// A control registers with its form at construction; the order of declaration is the tab order and
+// the order of the generic snapshot. Controls live as members of their form and are never moved.
 class Control {
  public:
   Control(Form& form, std::string_view name);

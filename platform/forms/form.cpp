@@ -6,7 +6,8 @@
 namespace forms {
 
 Control* Form::find(std::string_view controlName) const {
-  const auto found = std::ranges::find_if(controls_, [&](const Control* c) { return c->name() == controlName; });
+  const auto found =
+      std::ranges::find_if(controls_, [&](const Control* c) { return c->name() == controlName; });
   return found == controls_.end() ? nullptr : *found;
 }
 

@@ -1,4 +1,5 @@
-// A headless window: its controls in order of declaration, its caption and font, and the events of its life.
+// A headless window: its controls in order of declaration, its caption and font, and the events of
+// its life.
 #pragma once
 
 #include <functional>
@@ -32,11 +33,12 @@ class Form {
 
   [[nodiscard]] Control* activeControl() const { return activeControl_; }
   void setActiveControl(Control& control);
-  // The window reports that the user moved the focus: LostFocus of the old control, then GotFocus of the new.
+  // The window reports that the user moved the focus: LostFocus of the old control, then GotFocus
+  // of the new.
   void focusMoved(Control* control);
 
-  // Called by the host around showing: Load before the window exists, Activate each time it comes to the front.
-  // QueryUnload may veto closing with false; Unload stores what is to be kept.
+  // Called by the host around showing: Load before the window exists, Activate each time it comes
+  // to the front. QueryUnload may veto closing with false; Unload stores what is to be kept.
   virtual void Load() {}
   virtual void Activate() {}
   [[nodiscard]] virtual bool QueryUnload() { return true; }

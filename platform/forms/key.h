@@ -19,7 +19,8 @@ inline constexpr int Delete = 46;
 inline constexpr int F1 = 112;
 }  // namespace key_code
 
-// Letters and digits carry the code of their capital ('A' is 65); a character beyond ASCII carries 255.
+// Letters and digits carry the code of their capital ('A' is 65); a character beyond ASCII carries
+// 255.
 struct Key {
   int code = 0;
   bool shift = false;

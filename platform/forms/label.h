@@ -41,7 +41,8 @@ class Panel : public Control {
   OptionalColour backColour_;
 };
 
-// A picture by its path, stretched to fit; an empty path or a file that is no picture shows an empty frame.
+// A picture by its path, stretched to fit; an empty path or a file that is no picture shows an
+// empty frame.
 class Picture : public Control {
  public:
   using Control::Control;
@@ -85,7 +86,8 @@ class ProgressBar : public Control {
 // Panels are numbered from 1.
 class StatusBar : public Control {
  public:
-  StatusBar(Form& form, std::string_view name, std::size_t panels) : Control(form, name), panels_(panels) {}
+  StatusBar(Form& form, std::string_view name, std::size_t panels)
+      : Control(form, name), panels_(panels) {}
 
   [[nodiscard]] const std::vector<std::string>& panels() const { return panels_; }
   void setPanel(std::size_t number, std::string text);

@@ -8,7 +8,8 @@ namespace forms {
 std::size_t ListBox::addItem(std::string_view text, long data) {
   auto at = items_.end();
   if (order_ == ListOrder::Sorted) {
-    at = std::ranges::upper_bound(items_, text, {}, [](const ListItem& i) { return std::string_view(i.text); });
+    at = std::ranges::upper_bound(items_, text, {},
+                                  [](const ListItem& i) { return std::string_view(i.text); });
   }
   const auto row = static_cast<std::size_t>(at - items_.begin());
   items_.insert(at, ListItem{std::string(text), data, false});

@@ -22,7 +22,8 @@ enum class ListChoice { One, Several };
 // A new list index fires Click. A sorted list keeps its rows in the byte order of their texts.
 class ListBox : public Control {
  public:
-  ListBox(Form& form, std::string_view name, ListOrder order = ListOrder::AsAdded, ListChoice choice = ListChoice::One)
+  ListBox(Form& form, std::string_view name, ListOrder order = ListOrder::AsAdded,
+          ListChoice choice = ListChoice::One)
       : Control(form, name), order_(order), choice_(choice) {}
 
   [[nodiscard]] ListChoice choice() const { return choice_; }

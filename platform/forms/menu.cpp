@@ -63,7 +63,8 @@ void Toolbar::press(std::string_view key) const {
   if (pressed != nullptr && pressed->enabled && pressed->visible) ButtonClick(key);
 }
 
-TabStrip::TabStrip(Form& form, std::string_view name, std::vector<std::string> keys) : Control(form, name) {
+TabStrip::TabStrip(Form& form, std::string_view name, std::vector<std::string> keys)
+    : Control(form, name) {
   for (std::string& key : keys) tabs_.push_back({std::move(key), {}});
   if (!tabs_.empty()) selected_ = tabs_.front().key;
 }

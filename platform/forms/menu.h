@@ -13,10 +13,12 @@ namespace forms {
 
 enum class MenuKind { Item, Separator };
 
-// An entry of the menu bar (no parent) or of its parent's menu. The icon is a name of the image list.
+// An entry of the menu bar (no parent) or of its parent's menu. The icon is a name of the image
+// list.
 class MenuItem : public Control {
  public:
-  MenuItem(Form& form, std::string_view name, MenuKind kind = MenuKind::Item) : Control(form, name), kind_(kind) {}
+  MenuItem(Form& form, std::string_view name, MenuKind kind = MenuKind::Item)
+      : Control(form, name), kind_(kind) {}
   MenuItem(MenuItem& parent, std::string_view name, MenuKind kind = MenuKind::Item);
 
   [[nodiscard]] MenuKind kind() const { return kind_; }
@@ -105,7 +107,8 @@ class TabStrip : public Control {
   std::string selected_;
 };
 
-// Fires Tick every `interval` milliseconds while enabled; the window's event loop drives it, tests call Tick.
+// Fires Tick every `interval` milliseconds while enabled; the window's event loop drives it, tests
+// call Tick.
 class Timer : public Control {
  public:
   using Control::Control;

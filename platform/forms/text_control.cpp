@@ -12,9 +12,9 @@ void TextControl::setText(std::string_view text) {
 }
 
 bool TextControl::replaceText(std::string_view text) {
-  const std::string_view cut = maxLength_ == 0 ? text : text::left(text, maxLength_);
+  std::string cut = maxLength_ == 0 ? std::string(text) : text::cut(std::string(text), maxLength_);
   if (cut == text_) return false;
-  text_ = std::string(cut);
+  text_ = std::move(cut);
   const std::size_t characters = text::length(text_);
   selStart_ = std::min(selStart_, characters);
   selLength_ = std::min(selLength_, characters - selStart_);
@@ -33,7 +33,9 @@ void TextControl::select(std::size_t start, std::size_t length) {
   notify(Aspect::Selection);
 }
 
-void TextControl::selectAll() { select(0, text::length(text_)); }
+void TextControl::selectAll() {
+  select(0, text::length(text_));
+}
 
 void TextControl::selectionMoved(std::size_t start, std::size_t length) {
   const std::size_t characters = text::length(text_);
@@ -72,7 +74,8 @@ void ComboBox::clear() {
 void ComboBox::setListIndex(int row) {
   const bool inList = row >= 0 && std::cmp_less(row, items_.size());
   const int index = inList ? row : -1;
-  const bool textChanged = replaceText(inList ? items_[static_cast<std::size_t>(row)] : std::string());
+  const bool textChanged =
+      replaceText(inList ? items_[static_cast<std::size_t>(row)] : std::string());
   if (std::exchange(listIndex_, index) == index && !textChanged) return;
   notify(Aspect::Selection);
   Click();

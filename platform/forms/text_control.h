@@ -57,7 +57,8 @@ enum class TextEcho { Plain, Password };
 
 class TextBox : public TextControl {
  public:
-  TextBox(Form& form, std::string_view name, TextLines lines = TextLines::Single, TextEcho echo = TextEcho::Plain)
+  TextBox(Form& form, std::string_view name, TextLines lines = TextLines::Single,
+          TextEcho echo = TextEcho::Plain)
       : TextControl(form, name), lines_(lines), echo_(echo) {}
 
   [[nodiscard]] TextLines lines() const { return lines_; }
@@ -70,8 +71,8 @@ class TextBox : public TextControl {
 
 enum class ComboStyle { Editable, ListOnly };
 
-// A new list index sets the text to that row and fires Click, never Change; a new text fires Change and makes the
-// row that equals it the chosen one.
+// A new list index sets the text to that row and fires Click, never Change; a new text fires Change
+// and makes the row that equals it the chosen one.
 class ComboBox : public TextControl {
  public:
   ComboBox(Form& form, std::string_view name, ComboStyle style = ComboStyle::Editable)

@@ -37,14 +37,17 @@ class Host {
 
   virtual Answer messageBox(const Message& message) = 0;
   // Empty when the user cancels.
-  virtual std::string inputBox(std::string_view prompt, std::string_view title, std::string_view value) = 0;
+  virtual std::string inputBox(std::string_view prompt, std::string_view title,
+                               std::string_view value) = 0;
   // None of these when the user cancels.
   virtual std::optional<std::string> openFile(const FileRequest& request) = 0;
-  virtual std::optional<std::string> chooseFolder(std::string_view title, std::string_view folder) = 0;
+  virtual std::optional<std::string> chooseFolder(std::string_view title,
+                                                  std::string_view folder) = 0;
   virtual std::optional<forms::Font> chooseFont(const forms::Font& current) = 0;
   virtual std::optional<forms::Colour> chooseColour(forms::Colour current) = 0;
 
-  // The form is loaded by its owner before it is shown; showModal returns when the window was closed.
+  // The form is loaded by its owner before it is shown; showModal returns when the window was
+  // closed.
   virtual void show(forms::Form& form) = 0;
   virtual void showModal(forms::Form& form) = 0;
   // Closes the window of a form as its user would: QueryUnload, then Unload.
@@ -56,7 +59,8 @@ class Host {
   virtual void pause(int milliseconds) = 0;
   virtual void shellOpen(std::string_view target) = 0;
   virtual void beep() = 0;
-  // Sends keystrokes to the focused control, in the notation "^z" for Ctrl+Z, "+{INSERT}" for Shift+Insert.
+  // Sends keystrokes to the focused control, in the notation "^z" for Ctrl+Z, "+{INSERT}" for
+  // Shift+Insert.
   virtual void sendKeys(std::string_view keys) = 0;
   // A failure that the rules do not pass over: a box with its text.
   virtual void runtimeError(const platform::Status& status) = 0;

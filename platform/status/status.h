@@ -27,7 +27,8 @@ enum class Fault {
 };
 
 // Success, or a fault with a text that a user can read. The text names what failed (table, field,
-// file). Discarding a Status is a warning; a routine whose rule is to pass over errors says ignore().
+// file). Discarding a Status is a warning; a routine whose rule is to pass over errors says
+// ignore().
 class [[nodiscard]] Status {
  public:
   Status() = default;

@@ -18,17 +18,17 @@ TEST(Age, IsWrittenByTheRuleOfItsMonths) {
   const support::TemporaryFolder folder;
   support::Desk desk(folder.path());
   const AgeCase cases[] = {
-      {"1990", DateTime::of(2026, 11, 22), "36"},              // a year: the difference of years
+      {"1990", DateTime::of(2026, 11, 22), "36"},  // a year: the difference of years
       {"2026", DateTime::of(2026, 1, 1), "0"},
-      {"22.11.2014", DateTime::of(2026, 11, 22), "12"},        // 144 months exactly: years alone
+      {"22.11.2014", DateTime::of(2026, 11, 22), "12"},  // 144 months exactly: years alone
       {"22.12.2014", DateTime::of(2026, 11, 22), "11 Yaş 11 ay"},  // 143 months
       {"22.10.2024", DateTime::of(2026, 11, 22), "2 Yaş 1 ay"},    // 25 months
       {"22.11.2024", DateTime::of(2026, 11, 22), "24 ay 0 Gün"},   // 24 months
-      {"31.01.2026", DateTime::of(2026, 3, 1), "1 ay 1 Gün"},      // boundaries say 2, days say less
+      {"31.01.2026", DateTime::of(2026, 3, 1), "1 ay 1 Gün"},  // boundaries say 2, days say less
       {"30.10.2026", DateTime::of(2026, 11, 22), "0 ay 23 Gün"},
-      {"29.02.2024", DateTime::of(2025, 2, 28), "12 ay 0 Gün"},    // month ends are clamped
+      {"29.02.2024", DateTime::of(2025, 2, 28), "12 ay 0 Gün"},  // month ends are clamped
       {"22.11.2026", DateTime::of(2026, 11, 22), "0 ay 0 Gün"},
-      {"21.12.2014", DateTime::of(2026, 12, 1), "12"},             // months count boundaries, not days
+      {"21.12.2014", DateTime::of(2026, 12, 1), "12"},  // months count boundaries, not days
   };
   for (const AgeCase& c : cases) {
     EXPECT_EQ(shell::yasmetni(desk.station, c.birth, c.reference), c.turkish) << c.birth;
@@ -41,7 +41,8 @@ TEST(Age, OfWhatIsNoBirthIsNone) {
   const support::TemporaryFolder folder;
   support::Desk desk(folder.path());
   for (const char* birth : {"", "abc", "1.1.90", "99.99.9999", "yesterday", "0000-00-00"}) {
-    EXPECT_EQ(shell::yasmetni(desk.station, birth, DateTime::of(2026, 11, 22)), std::nullopt) << birth;
+    EXPECT_EQ(shell::yasmetni(desk.station, birth, DateTime::of(2026, 11, 22)), std::nullopt)
+        << birth;
   }
 }
 

@@ -4,6 +4,8 @@
 
 #include <set>
 
+#include "platform/forms/label.h"
+#include "platform/forms/menu.h"
 #include "shell/caption_rows.h"
 #include "shell/text_lookup.h"
 #include "shell/vocabulary/vocabulary.h"
@@ -16,8 +18,10 @@ TEST(Captions, UseKeysThatTheVocabularyHas) {
     return shell::turkcemetin(key).has_value() || shell::ingilizcemetin(key).has_value();
   };
   for (const shell::CaptionRow& row : shell::captionRows()) EXPECT_TRUE(known(row.key)) << row.key;
-  for (const shell::KeyedCaption& row : shell::toolTipRows()) EXPECT_TRUE(known(row.textKey)) << row.textKey;
-  for (const shell::KeyedCaption& row : shell::tabRows()) EXPECT_TRUE(known(row.textKey)) << row.textKey;
+  for (const shell::KeyedCaption& row : shell::toolTipRows())
+    EXPECT_TRUE(known(row.textKey)) << row.textKey;
+  for (const shell::KeyedCaption& row : shell::tabRows())
+    EXPECT_TRUE(known(row.textKey)) << row.textKey;
 }
 
 TEST(Captions, NameEveryControlOnce) {

@@ -8,8 +8,13 @@
 
 namespace {
 
-const forms::Font arial{.name = "Arial", .size = 14, .bold = true, .italic = false, .underline = true,
-                        .strikethrough = false, .colour = 0x102030};
+const forms::Font arial{.name = "Arial",
+                        .size = 14,
+                        .bold = true,
+                        .italic = false,
+                        .underline = true,
+                        .strikethrough = false,
+                        .colour = 0x102030};
 
 struct OpenDesk : support::Desk {
   explicit OpenDesk(const std::string& folder) : Desk(folder) {

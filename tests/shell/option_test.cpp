@@ -62,7 +62,8 @@ TEST_F(Options, AListIsEditedInItsTable) {
   options.mnuekle.press();
   EXPECT_EQ(options.ComMeslek.text(), "Hemşire");
   options.mnudüzen.press();
-  EXPECT_EQ(stores::values(desk.station.stores.personal, "Profession"), std::vector<std::string>{"Başhemşire"});
+  EXPECT_EQ(stores::values(desk.station.stores.personal, "Profession"),
+            std::vector<std::string>{"Başhemşire"});
   options.ListKaydet();
   EXPECT_EQ(main.ComMeslek.items(), std::vector<std::string>{"Başhemşire"});
   options.mnusil.press();

@@ -24,8 +24,13 @@ class FrmSmall : public shell::RecordScreen {
 
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override {
     static constexpr std::array<shell::FieldRow, 2> rows{{
-        {.control = shell::controlOf<&FrmSmall::txtad>, .column = "financier", .captionKey = "isim"},
-        {.control = shell::controlOf<&FrmSmall::txtadres>, .column = "address", .captionKey = "Adres", .cut = 5},
+        {.control = shell::controlOf<&FrmSmall::txtad>,
+         .column = "financier",
+         .captionKey = "isim"},
+        {.control = shell::controlOf<&FrmSmall::txtadres>,
+         .column = "address",
+         .captionKey = "Adres",
+         .cut = 5},
     }};
     return rows;
   }
@@ -132,9 +137,9 @@ struct CompletionCase {
 
 TEST(Completion, AppendsAndSelectsTheRestOfTheFirstRow) {
   const CompletionCase cases[] = {
-      {"ank", 'K', "ankara", 3},  {"ANKA", 'A', "ANKAra", 2}, {"İz", 'Z', "İzmir", 3},
-      {"bolu", 'U', "bolu", 0},   {"ank", 46, "ank", 0},      {"ank", 8, "ank", 0},
-      {"ank", 37, "ank", 0},      {"x", 'X', "x", 0},
+      {"ank", 'K', "ankara", 3}, {"ANKA", 'A', "ANKAra", 2}, {"İz", 'Z', "İzmir", 3},
+      {"bolu", 'U', "bolu", 0},  {"ank", 46, "ank", 0},      {"ank", 8, "ank", 0},
+      {"ank", 37, "ank", 0},     {"x", 'X', "x", 0},
   };
   for (const CompletionCase& c : cases) {
     forms::Form form("f");

@@ -14,15 +14,43 @@ using Names = std::set<std::string>;
 
 // The entries of the matrix that show on the main window.
 Names shownEntries(const forms::Form& main) {
-  const Names watched = {"mnumuayene1",       "MnuMuayene2",  "MnuMuayene3",  "MnuMuayene4",
-                         "MnuMuayene5",       "MnuMuayene6",  "MnuMuayene7",  "Mnumuayene9",
-                         "MnuMuayene10",      "mnumuayene13", "mnumuayene14", "MnuMuayene20",
-                         "mnuasi",            "mnuameliyat",  "mnulens",      "mnulensstok",
-                         "mnueko",            "mnuefor",      "mnuanjiyo",    "mnugebetakip",
-                         "mnufizikgelişme",   "mnuekoara",    "mnueforara",   "mnuanjiyoara",
-                         "mnumotmengelişme",  "mnulensara",   "mnubekdoğum",  "mnumuayenetarihleri",
-                         "Picbranslar",       "panoresim",    "mnuraporara",  "mnuameliyatara",
-                         "mnugünlükmuayeneler", "mnumuayeneara", "mnutestara", "mnutest", "cizgi7"};
+  const Names watched = {"mnumuayene1",
+                         "MnuMuayene2",
+                         "MnuMuayene3",
+                         "MnuMuayene4",
+                         "MnuMuayene5",
+                         "MnuMuayene6",
+                         "MnuMuayene7",
+                         "Mnumuayene9",
+                         "MnuMuayene10",
+                         "mnumuayene13",
+                         "mnumuayene14",
+                         "MnuMuayene20",
+                         "mnuasi",
+                         "mnuameliyat",
+                         "mnulens",
+                         "mnulensstok",
+                         "mnueko",
+                         "mnuefor",
+                         "mnuanjiyo",
+                         "mnugebetakip",
+                         "mnufizikgelişme",
+                         "mnuekoara",
+                         "mnueforara",
+                         "mnuanjiyoara",
+                         "mnumotmengelişme",
+                         "mnulensara",
+                         "mnubekdoğum",
+                         "mnumuayenetarihleri",
+                         "Picbranslar",
+                         "panoresim",
+                         "mnuraporara",
+                         "mnuameliyatara",
+                         "mnugünlükmuayeneler",
+                         "mnumuayeneara",
+                         "mnutestara",
+                         "mnutest",
+                         "cizgi7"};
   Names shown;
   for (const std::string& name : watched) {
     if (main.find(name)->visible()) shown.insert(name);
@@ -30,7 +58,8 @@ Names shownEntries(const forms::Form& main) {
   return shown;
 }
 
-const Names searches = {"mnugünlükmuayeneler", "mnumuayeneara", "mnutestara", "mnutest", "cizgi7", "panoresim"};
+const Names searches = {
+    "mnugünlükmuayeneler", "mnumuayeneara", "mnutestara", "mnutest", "cizgi7", "panoresim"};
 
 Names with(Names base, const Names& more, const Names& less = {}) {
   base.insert(more.begin(), more.end());
@@ -55,7 +84,8 @@ TEST(Workspace, ShowsWhatTheSpecialityHas) {
       {"IntMed", 1, 215, "Internal Medicine", "ichastaliklari", medicine},
       {"SURGERY", 2, 225, "Surgery", "Cerrahi", with(surgery, {"MnuMuayene2"})},
       {"Pediatrics", 3, 235, "Pediatrics", "Çocuk",
-       with(searches, {"MnuMuayene3", "mnuraporara", "mnuasi", "mnumotmengelişme", "mnufizikgelişme"})},
+       with(searches,
+            {"MnuMuayene3", "mnuraporara", "mnuasi", "mnumotmengelişme", "mnufizikgelişme"})},
       {"gynecology", 4, 245, "Gynecology", "Kadın Doğum",
        with(surgery, {"MnuMuayene4", "mnugebetakip", "mnubekdoğum"})},
       {"Ophthalmology", 5, 255, "Ophthalmology", "goz",
@@ -66,8 +96,8 @@ TEST(Workspace, ShowsWhatTheSpecialityHas) {
        with(medicine, {"Picbranslar", "mnumuayenetarihleri"}, {"panoresim"})},
       {"Pathology", 9, 295, "Pathology", "Patoloji", with(report, {"Mnumuayene9"})},
       {"Cardiology", 10, 305, "Cardiology", "Kardiyoloji",
-       with(searches, {"MnuMuayene10", "mnuraporara", "mnueko", "mnuefor", "mnuanjiyo", "mnuekoara", "mnueforara",
-                       "mnuanjiyoara"})},
+       with(searches, {"MnuMuayene10", "mnuraporara", "mnueko", "mnuefor", "mnuanjiyo", "mnuekoara",
+                       "mnueforara", "mnuanjiyoara"})},
       {"Neurology", 11, 315, "Neurology", "noroloji", medicine},
       {"Urology", 12, 325, "Urology", "uroloji", with(surgery, {"MnuMuayene2"})},
       {"Smoke.exe", 13, 345, "Smoke", "sigarapoliklinigi", with(searches, {}, {"cizgi7"})},

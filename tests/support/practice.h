@@ -1,4 +1,5 @@
-// A station on a folder of its own, with a scripted host, a clock that stands still and settings in memory.
+// A station on a folder of its own, with a scripted host, a clock that stands still and settings in
+// memory.
 #pragma once
 
 #include <memory>
@@ -21,7 +22,8 @@ class FixedClock : public host::Clock {
 struct Desk {
   explicit Desk(const std::string& folder, std::string_view program = "General Medicine",
                 std::string_view language = "tr")
-      : settings(std::make_unique<settings::MemoryBackend>()), station({host, clock, settings, screens}, folder, program) {
+      : settings(std::make_unique<settings::MemoryBackend>()),
+        station({host, clock, settings, screens}, folder, program) {
     station.ayarYaz("Language", language);
   }
   ScriptedHost host;

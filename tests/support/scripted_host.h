@@ -24,7 +24,9 @@ class ScriptedHost : public host::Host {
     bool operator==(const Asked&) const = default;
   };
   // Answers to the message boxes to come, each for a text that it must contain.
-  void expect(std::string part, host::Answer answer) { answers_.emplace_back(std::move(part), answer); }
+  void expect(std::string part, host::Answer answer) {
+    answers_.emplace_back(std::move(part), answer);
+  }
   [[nodiscard]] bool allAsked() const { return answers_.empty(); }
   std::vector<Asked> asked;
 
@@ -63,7 +65,9 @@ class ScriptedHost : public host::Host {
   std::string inputBox(std::string_view prompt, std::string_view, std::string_view) override {
     return take(inputs, prompt);
   }
-  std::optional<std::string> openFile(const host::FileRequest& request) override { return take(files, request.title); }
+  std::optional<std::string> openFile(const host::FileRequest& request) override {
+    return take(files, request.title);
+  }
   std::optional<std::string> chooseFolder(std::string_view title, std::string_view) override {
     return take(folders, title);
   }

@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+
+#include "registry/card_fields.h"
+#include "stores/value_list.h"
+#include "tests/registry/card_fixture.h"
+
+namespace {
+
+using support::Card;
+using support::CardDesk;
+using support::TemporaryFolder;
+
+using NewPatient = Card;
+
+TEST_F(NewPatient, IsTypedSavedAndReadBack) {
+  main.mnuyeni.Click();
+  desk.typeName("  Ayşe Yıldız ");
+  main.TxtDTarihi.setText("12.3.1991");
+  main.ComCinsiyet.setText("k");
+  main.ComKanGrubu.setText("A Rh(+)");
+  main.comdogumyeri.setText("İzmir");
+  main.txtnot.setText("Not'lar \"iki\"\nsatır\t\x01 ¬");
+  main.txtdosyano.setText("2026/17");
+  ASSERT_TRUE(main.mnukaydet.enabled());
+  main.mnukaydet.press();
+  EXPECT_FALSE(main.mnukaydet.enabled());
+  EXPECT_TRUE(main.mnusil.enabled());
+  EXPECT_EQ(desk.station.SeciliHasta, "Ayşe Yıldız");
+  EXPECT_EQ(desk.column("Ayşe Yıldız", "Date of Birth"), "1991-03-12");
+  EXPECT_EQ(desk.column("Ayşe Yıldız", "Year of Birth"), "");
+  EXPECT_EQ(desk.column("Ayşe Yıldız", "Sex"), "0");
+  EXPECT_EQ(stores::values(desk.station.stores.personal, "Place Of Birth"),
+            std::vector<std::string>{"İzmir"});
+
+  main.mnuyeni.Click();
+  EXPECT_EQ(main.txtnot.text(), "");
+  EXPECT_EQ(desk.station.SeciliHasta, "");
+  desk.load("AYŞE yıldız");  // the store's order knows no case
+  EXPECT_EQ(main.Txtİsim.text(), "Ayşe Yıldız");
+  EXPECT_EQ(main.TxtDTarihi.text(), "12.03.1991");
+  EXPECT_EQ(main.ComCinsiyet.listIndex(), 0);
+  EXPECT_EQ(main.txtnot.text(), "Not'lar \"iki\"\nsatır\t\x01 ¬");
+  EXPECT_EQ(main.txtdosyano.text(), "2026/17");
+  EXPECT_EQ(main.txtyaşı.caption(), "Yaşı :  35");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+}
+
+TEST_F(NewPatient, CannotBeSavedWithoutNameAndBirth) {
+  main.TxtDTarihi.setText("1990");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+  main.Txtİsim.setText("   ");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+  main.Txtİsim.setText("Ali");
+  EXPECT_TRUE(main.mnukaydet.enabled());
+  EXPECT_TRUE(main.mnumuayene1.enabled());
+  EXPECT_TRUE(main.tbToolBar.button("muayene")->enabled);
+  main.TxtDTarihi.setText("bilinmiyor");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+  EXPECT_FALSE(main.mnumuayene1.enabled());
+  EXPECT_TRUE(main.mnuyeni.enabled());
+}
+
+TEST_F(NewPatient, FillsEveryFieldOfTheCard) {
+  main.mnuyeni.Click();
+  desk.typeName("Tüm Alanlar");
+  int number = 0;
+  for (const shell::FieldRow& row : registry::cardFields()) {
+    forms::TextControl& field = row.control(main);
+    const bool special = &field == &main.Txtİsim || &field == &main.TxtDTarihi ||
+                         &field == &main.ComCinsiyet || &field == &main.txtkey;
+    if (!special) field.setText("d" + std::to_string(++number));
+  }
+  main.TxtDTarihi.setText("1955");
+  main.mnukaydet.press();
+  const std::string saved = main.YeniAlanlar();
+  main.mnuyeni.Click();
+  desk.load("Tüm Alanlar");
+  EXPECT_EQ(number, 26);
+  EXPECT_EQ(main.YeniAlanlar(), saved);
+}
+
+TEST_F(NewPatient, LeavesNothingOfTheOneBefore) {
+  desk.newPatient("Ali Can", "1980");
+  main.txtdosyano.setText("77");
+  main.mnukaydet.press();
+  desk.newPatient("Veli Can", "1981");
+  EXPECT_EQ(main.txtdosyano.text(), "");
+  desk.load("Ali Can");
+  EXPECT_EQ(main.txtdosyano.text(), "77");
+  desk.load("Veli Can");
+  EXPECT_EQ(main.txtdosyano.text(), "");
+}
+
+using StoredPatient = Card;
+
+TEST_F(StoredPatient, AsksBeforeNewLosesAChange) {
+  desk.newPatient("Ali Can", "1980");
+  main.txtnot.setText("yeni not");
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::No);
+  main.mnuyeni.press();
+  EXPECT_EQ(desk.column("Ali Can", "Notes"), "");
+  desk.load("Ali Can");
+  main.txtnot.setText("yeni not");
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::Yes);
+  main.mnuyeni.press();
+  EXPECT_EQ(desk.column("Ali Can", "Notes"), "yeni not");
+  EXPECT_EQ(desk.host.asked.back().title, main.caption());
+}
+
+TEST_F(StoredPatient, IsRenamedOnlyWithConsent) {
+  desk.newPatient("Ali Can", "1980");
+  desk.typeName("Ali Canan");
+  main.txtnot.setText("x");
+  desk.host.expect("Ali Can, Ali Canan olarak değiştirilsin mi?", host::Answer::No);
+  main.mnukaydet.press();
+  EXPECT_EQ(main.Txtİsim.text(), "Ali Can");
+  EXPECT_EQ(desk.column("Ali Can", "Notes"), "x");
+  desk.typeName("Ali Canan");
+  desk.host.expect("olarak değiştirilsin mi?", host::Answer::Yes);
+  main.mnukaydet.press();
+  EXPECT_EQ(desk.stored(), std::vector<std::string>{"Ali Canan"});
+  EXPECT_EQ(desk.station.SeciliHasta, "Ali Canan");
+  // Another case of the letters is the same patient, in the case that is stored.
+  desk.typeName("ali canan");
+  EXPECT_EQ(main.Txtİsim.text(), "Ali Canan");
+}
+
+TEST_F(StoredPatient, IsDeletedAfterTheQuestion) {
+  desk.newPatient("Ali Can", "1980");
+  desk.newPatient("Veli Can", "1980");
+  main.Txtİsim.setText(
+      "Veli");  // another text in the name field: nothing is deleted, nothing is asked
+  main.mnusil.press();
+  desk.load("Veli Can");
+  desk.host.expect("Veli CanKaydı silmek istiyor musunuz?.", host::Answer::No);
+  main.mnusil.press();
+  EXPECT_EQ(desk.stored().size(), 2U);
+  desk.host.expect("Veli Can", host::Answer::Yes);
+  main.mnusil.press();
+  EXPECT_EQ(desk.stored(), std::vector<std::string>{"Ali Can"});
+  EXPECT_EQ(main.Txtİsim.text(), "");
+  EXPECT_FALSE(main.mnusil.enabled());
+}
+
+TEST_F(StoredPatient, BackAndForwardStepInTheOrderOfNames) {
+  for (const char* name : {"Çeşme Ak", "Ali Can", "Ceyda Al"}) desk.newPatient(name, "1980");
+  main.mnuyeni.Click();
+  main.mnugeri.press();
+  EXPECT_EQ(main.Txtİsim.text(), "Ceyda Al");
+  main.mnugeri.press();
+  EXPECT_EQ(main.Txtİsim.text(), "Çeşme Ak");
+  main.txtnot.setText("adım");  // stepping away stores without a question
+  main.mnugeri.press();
+  EXPECT_EQ(main.Txtİsim.text(), "Ali Can");
+  EXPECT_EQ(desk.column("Çeşme Ak", "Notes"), "adım");
+  main.mnugeri.press();
+  EXPECT_EQ(main.Txtİsim.text(), "Ali Can");
+  EXPECT_FALSE(main.mnugeri.enabled());
+  main.mnuileri.press();
+  EXPECT_TRUE(main.mnugeri.enabled());
+  main.mnuyeni.Click();
+  main.mnuileri.press();
+  EXPECT_EQ(main.Txtİsim.text(), "Ali Can");
+}
+
+TEST_F(StoredPatient, ShowsItsVisitsOnTheToolbar) {
+  desk.newPatient("Ali Can", "1980");
+  dao::Recordset& visit = desk.station.stores.clinical.Visit;
+  ASSERT_TRUE(visit.AddNew().ok());
+  ASSERT_TRUE(visit.Fields("Spname").Set("GenMed\\Ali Can").ok());
+  ASSERT_TRUE(visit.Update().ok());
+  desk.load("Ali Can");
+  EXPECT_EQ(main.tbToolBar.button("muayene")->image, "muayenev");
+  main.mnuyeni.Click();
+  EXPECT_EQ(main.tbToolBar.button("muayene")->image, "muayene");
+}
+
+TEST_F(StoredPatient, TabsShowOnePanelAndItsFirstField) {
+  main.TabStrip1.select("TSAdres");
+  EXPECT_TRUE(main.PAdres.visible());
+  EXPECT_FALSE(main.PKişisel.visible());
+  EXPECT_EQ(main.activeControl(), &main.ComHitap);
+}
+
+TEST(CardColours, FollowTheSex) {
+  const TemporaryFolder folder;
+  CardDesk desk(folder.path(), "Polyclinic", "eng");
+  desk.main.ComCinsiyet.setText("f");
+  EXPECT_EQ(desk.main.Panofoto.backColour(), 0xFFC0C0U);
+  EXPECT_TRUE(desk.main.BKadınDoğum.enabled());
+  desk.main.ComCinsiyet.setText("Man");
+  EXPECT_EQ(desk.main.Panofoto.backColour(), 0xC0C0FFU);
+  EXPECT_FALSE(desk.main.BKadınDoğum.enabled());
+  desk.main.ComCinsiyet.setText("x");  // neither initial: nothing is chosen
+  EXPECT_EQ(desk.main.ComCinsiyet.listIndex(), -1);
+}
+
+TEST_F(Card, ShutDownAsksSavesAndKeepsTheWindow) {
+  main.Txtİsim.setText("Son Hasta");
+  main.TxtDTarihi.setText("1970");
+  main.width = 900;
+  main.windowState = forms::WindowState::Normal;
+  desk.host.expect("Kayıt yapılsın mı?", host::Answer::Yes);
+  main.mnucik.press();
+  EXPECT_EQ(desk.column("Son Hasta", "Year of Birth"), "1970");
+  EXPECT_EQ(desk.station.ayar("Main Width"), "900");
+  EXPECT_EQ(desk.station.ayar("Main WindowState"), "0");
+}
+
+}  // namespace

@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include "app/program_folder.h"
+#include "app/start_up.h"
+#include "tests/registry/card_fixture.h"
+
+namespace {
+
+using support::CardDesk;
+using support::TemporaryFolder;
+
+TEST(Stations, SeeEachOthersPatientsAtOnce) {
+  const TemporaryFolder folder;
+  CardDesk one(folder.path());
+  CardDesk two(folder.path(), "Surgery", "eng");
+  one.newPatient("Ayşe Yıldız", "1991");
+  two.main.Txtİsim.setText("Ayş");
+  two.main.Txtİsim.KeyUp(forms::Key{.code = 'S'});
+  two.tick();
+  EXPECT_EQ(two.listed(), std::vector<std::string>{"Ayşe Yıldız"});
+  two.load("Ayşe Yıldız");
+  two.main.txtnot.setText("from two");
+  two.main.mnukaydet.press();
+  one.load("Ayşe Yıldız");
+  EXPECT_EQ(one.main.txtnot.text(), "from two");
+}
+
+TEST(Stations, ACardDeletedByAnotherIsStoredAnewWhenItIsSaved) {
+  const TemporaryFolder folder;
+  CardDesk one(folder.path());
+  CardDesk two(folder.path());
+  one.newPatient("Ayşe Yıldız", "1991");
+  two.load("Ayşe Yıldız");
+  one.host.expect("Ayşe Yıldız", host::Answer::Yes);
+  one.main.mnusil.press();
+  two.main.txtnot.setText("typed meanwhile");
+  two.main.mnukaydet.press();
+  EXPECT_EQ(one.column("Ayşe Yıldız", "Notes"), "typed meanwhile");
+}
+
+struct StartUp : testing::Test {
+  StartUp() { desk.station.ayarYaz("oppas", "1"); }
+  TemporaryFolder folder;
+  support::Desk desk{folder.path(), "Polyclinic"};
+};
+
+TEST_F(StartUp, ShowsSplashThenMainWindowWithGeneralMedicineChosen) {
+  desk.station.ayarYaz("oppas", "0");
+  app::Session session(desk.station);
+  EXPECT_EQ(session.start(), app::Session::Outcome::Shown);
+  EXPECT_EQ(desk.host.shown, (std::vector<std::string>{"Logo", "FrmMain"}));
+  EXPECT_EQ(desk.host.closed, std::vector<std::string>{"Logo"});
+  EXPECT_TRUE(session.main().BGenel.value());
+  EXPECT_EQ(desk.station.BransNo, 20);
+  EXPECT_EQ(desk.station.BransKodu, 285);
+  EXPECT_TRUE(std::filesystem::is_directory(folder / "Documents/Diseases"));
+  EXPECT_TRUE(std::filesystem::exists(folder / "Data/setting.dat"));
+  EXPECT_EQ(desk.settings.get("Sanavel", "Polyclinic", "Path"), desk.station.UygYolu);
+  EXPECT_FALSE(session.main().mnugeri.enabled());
+}
+
+TEST_F(StartUp, StaysClosedWithoutThePasswordWhenToldSo) {
+  desk.station.ayarYaz("openpass", "1234");
+  desk.station.ayarYaz("nopen", "True");
+  desk.host.modal["frmpass"] = [](forms::Form&) {};
+  app::Session session(desk.station);
+  EXPECT_EQ(session.start(), app::Session::Outcome::Refused);
+  EXPECT_EQ(desk.host.shown, (std::vector<std::string>{"Logo", "frmpass"}));
+}
+
+TEST_F(StartUp, OpensRestrictedOtherwise) {
+  desk.station.ayarYaz("openpass", "1234");
+  desk.host.modal["frmpass"] = [](forms::Form& form) {
+    EXPECT_FALSE(form.find("ButŞifreDeğiştir")->visible());
+  };
+  app::Session session(desk.station);
+  EXPECT_EQ(session.start(), app::Session::Outcome::Shown);
+  EXPECT_FALSE(session.main().MnuSecenek.visible());
+  EXPECT_FALSE(session.main().tbToolBar.button("muayene")->visible);
+}
+
+TEST(ProgramFolder, IsTheNamedOneThenTheProgramsOwnThenTheUsers) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directories(folder / "program/Data");
+  const std::string program = folder / "program/Surgery";
+  EXPECT_EQ(app::programFolder({program, "/named", "/env", "/user"}), "/named");
+  EXPECT_EQ(app::programFolder({program, "", "/env", "/user"}), "/env");
+  EXPECT_EQ(app::programFolder({program, "", "", "/user"}), folder / "program");
+  EXPECT_EQ(app::programFolder({"/proc/nowhere/Surgery", "", "", "/user"}), "/user/Sanavel");
+}
+
+}  // namespace
