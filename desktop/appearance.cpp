@@ -1,0 +1,92 @@
+#include "desktop/appearance.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QPalette>
+#include <QStyleFactory>
+
+#include "desktop/icons.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr QRgb accent = 0xFF2F73B8;
+constexpr int darkBelow = 128;
+constexpr double smallestPoints = 10.0;
+
+QPalette lightPalette() {
+  QPalette palette(QColor(0xF3, 0xF4, 0xF6));
+  palette.setColor(QPalette::Window, QColor(0xF3, 0xF4, 0xF6));
+  palette.setColor(QPalette::WindowText, QColor(0x1F, 0x23, 0x28));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::AlternateBase, QColor(0xF6, 0xF8, 0xFA));
+  palette.setColor(QPalette::Text, QColor(0x1F, 0x23, 0x28));
+  palette.setColor(QPalette::Button, QColor(0xEE, 0xF0, 0xF2));
+  palette.setColor(QPalette::ButtonText, QColor(0x1F, 0x23, 0x28));
+  palette.setColor(QPalette::PlaceholderText, QColor(0x5F, 0x67, 0x70));
+  return palette;
+}
+
+QPalette darkPalette() {
+  QPalette palette(QColor(0x2B, 0x2E, 0x33));
+  palette.setColor(QPalette::Window, QColor(0x2B, 0x2E, 0x33));
+  palette.setColor(QPalette::WindowText, QColor(0xE8, 0xEA, 0xED));
+  palette.setColor(QPalette::Base, QColor(0x20, 0x22, 0x26));
+  palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x29, 0x2E));
+  palette.setColor(QPalette::Text, QColor(0xE8, 0xEA, 0xED));
+  palette.setColor(QPalette::Button, QColor(0x38, 0x3C, 0x42));
+  palette.setColor(QPalette::ButtonText, QColor(0xE8, 0xEA, 0xED));
+  palette.setColor(QPalette::BrightText, Qt::white);
+  palette.setColor(QPalette::Link, QColor(0x7F, 0xB8, 0xF0));
+  palette.setColor(QPalette::PlaceholderText, QColor(0xA0, 0xA6, 0xAE));
+  palette.setColor(QPalette::ToolTipBase, QColor(0x38, 0x3C, 0x42));
+  palette.setColor(QPalette::ToolTipText, QColor(0xE8, 0xEA, 0xED));
+  return palette;
+}
+
+void setDisabled(QPalette& palette, const QColor& ink) {
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, ink);
+  }
+}
+
+// Offscreen and bare desks come with a font that is too small to read all day.
+void setReadableFont() {
+  QFont font = QApplication::font();
+  if (font.pointSizeF() < smallestPoints) font.setPointSizeF(smallestPoints);
+  QApplication::setFont(font);
+}
+
+}  // namespace
+
+Shade wantedShade() {
+  const QByteArray wanted = qgetenv("SANAVEL_PALETTE");
+  if (wanted == "dark") return Shade::Dark;
+  if (wanted == "light") return Shade::Light;
+  const int brightness = qGray(QGuiApplication::palette().color(QPalette::Window).rgb());
+  return brightness < darkBelow ? Shade::Dark : Shade::Light;
+}
+
+void applyAppearance(Shade shade) {
+  const bool dark = shade == Shade::Dark;
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QPalette palette = dark ? darkPalette() : lightPalette();
+  palette.setColor(QPalette::Highlight, QColor::fromRgb(accent));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  setDisabled(palette, dark ? QColor(0x86, 0x8C, 0x94) : QColor(0x8A, 0x91, 0x99));
+  QApplication::setPalette(palette);
+  setReadableFont();
+  useIconTheme(dark);
+}
+
+QString fontProblem() {
+  const QFontMetrics metrics{QApplication::font()};
+  for (const QChar letter : QStringLiteral("AaĞğİıŞşÇçÖöÜü")) {
+    if (!metrics.inFont(letter)) return QStringLiteral("No installed font has the letter ") + letter;
+  }
+  return QFontDatabase::families().isEmpty() ? QStringLiteral("No font is installed") : QString();
+}
+
+}  // namespace desktop

@@ -1,0 +1,15 @@
+// List boxes and list views, over models that hold no rows of their own.
+#pragma once
+
+#include <QListView>
+#include <QTreeView>
+
+#include "desktop/bind/binding.h"
+#include "platform/forms/list_control.h"
+
+namespace desktop {
+
+void bind(QListView& view, forms::ListBox& list);
+void bind(QTreeView& view, forms::ListView& list);
+
+}  // namespace desktop

@@ -1,0 +1,45 @@
+// Models over the rows of list controls: nothing is copied, so a hundred thousand rows cost nothing to show.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QAbstractTableModel>
+
+#include "platform/forms/list_control.h"
+
+namespace desktop {
+
+class ListBoxModel : public QAbstractListModel {
+  Q_OBJECT
+ public:
+  ListBoxModel(const forms::ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  // The rows of the control changed. Rows that were added leave the view where it is.
+  void refresh();
+
+ private:
+  const forms::ListBox& list_;
+  int rows_ = 0;  // as the view knows it
+};
+
+class ListViewModel : public QAbstractTableModel {
+  Q_OBJECT
+ public:
+  ListViewModel(const forms::ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : columns_;
+  }
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  void refresh();
+
+ private:
+  const forms::ListView& list_;
+  int rows_ = 0;
+  int columns_ = 0;
+};
+
+}  // namespace desktop

@@ -1,0 +1,207 @@
+#include "desktop/bind/rich_text_edit.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <algorithm>
+
+#include "desktop/bind/rich_text_format.h"
+#include "desktop/text.h"
+
+namespace desktop {
+
+namespace {
+
+const QString richTextType = QStringLiteral("text/rtf");
+
+struct EditKey {
+  QKeySequence::StandardKey key;
+  void (*apply)(richtext::Editor& editor);
+};
+constexpr EditKey editKeys[] = {
+    {QKeySequence::Undo, [](richtext::Editor& e) { e.undo(); }},
+    {QKeySequence::Redo, [](richtext::Editor& e) { e.redo(); }},
+    {QKeySequence::Bold, [](richtext::Editor& e) { e.setSelBold(!e.selBold().value_or(false)); }},
+    {QKeySequence::Italic, [](richtext::Editor& e) { e.setSelItalic(!e.selItalic().value_or(false)); }},
+    {QKeySequence::Underline, [](richtext::Editor& e) { e.setSelUnderline(!e.selUnderline().value_or(false)); }},
+    {QKeySequence::Backspace, [](richtext::Editor& e) { e.backspace(); }},
+    {QKeySequence::Delete, [](richtext::Editor& e) { e.deleteForward(); }},
+    {QKeySequence::InsertParagraphSeparator, [](richtext::Editor& e) { e.insert("\n"); }},
+    {QKeySequence::InsertLineSeparator, [](richtext::Editor& e) { e.insert("\n"); }},
+};
+
+bool isTyped(const QKeyEvent& event) {
+  const bool command = event.modifiers().testFlag(Qt::ControlModifier) != event.modifiers().testFlag(Qt::AltModifier);
+  return !event.text().isEmpty() && !command && (event.text()[0].isPrint() || event.text()[0] == QLatin1Char('\t'));
+}
+
+void writeParagraph(QTextCursor& cursor, const richtext::Paragraph& paragraph) {
+  cursor.setBlockFormat(blockFormat(paragraph.format));
+  for (const richtext::Run& run : paragraph.runs) {
+    cursor.setBlockCharFormat(charFormat(run.format));
+    cursor.insertText(qs(run.text), charFormat(run.format));
+  }
+}
+
+}  // namespace
+
+RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
+  setUndoRedoEnabled(false);
+  setTabChangesFocus(true);
+  connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextEdit::reportSelection);
+  connect(this, &QTextEdit::selectionChanged, this, &RichTextEdit::reportSelection);
+}
+
+void RichTextEdit::setBox(forms::RichTextBox& box, QObject& tie) {
+  box_ = &box;
+  tie_ = &tie;
+  shown_.clear();
+  refresh();
+}
+
+void RichTextEdit::edit(const std::function<void(richtext::Editor&)>& action) {
+  if (box() != nullptr) box_->edit(action);
+}
+
+// Only the paragraphs between the common beginning and the common end are written anew.
+void RichTextEdit::refresh() {
+  if (box() == nullptr) return;
+  const std::vector<richtext::Paragraph>& now = box_->editor().document().paragraphs();
+  const std::size_t shorter = std::min(now.size(), shown_.size());
+  std::size_t head = 0;
+  while (head < shorter && now[head] == shown_[head]) ++head;
+  std::size_t tail = 0;
+  while (tail < shorter - head && now[now.size() - 1 - tail] == shown_[shown_.size() - 1 - tail]) ++tail;
+  if (head != now.size() || head != shown_.size()) replaceBlocks(head, shown_.size() - head - tail, now.size() - head - tail);
+  shown_ = now;
+  refreshSelection();
+}
+
+void RichTextEdit::replaceBlocks(std::size_t first, std::size_t oldCount, std::size_t newCount) {
+  const QScopedValueRollback quiet(refreshing_, true);
+  const auto& now = box_->editor().document().paragraphs();
+  // A document of the toolkit always has a block; the first content goes into it.
+  const std::size_t blocks = std::max<std::size_t>(shown_.size(), 1);
+  if (shown_.empty()) oldCount = 1;
+  QTextCursor cursor(document());
+  cursor.beginEditBlock();
+  const bool atEnd = first >= blocks;
+  const QTextBlock start = document()->findBlockByNumber(static_cast<int>(atEnd ? blocks - 1 : first));
+  cursor.setPosition(atEnd ? start.position() + start.length() - 1 : start.position());
+  if (oldCount > 0) {
+    const QTextBlock last = document()->findBlockByNumber(static_cast<int>(first + oldCount - 1));
+    cursor.setPosition(last.position() + last.length() - 1, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    // Without anything in its place the emptied block goes as well.
+    if (newCount == 0) {
+      first > 0 ? cursor.deletePreviousChar() : cursor.deleteChar();
+      cursor.setBlockFormat(blockFormat(now[first > 0 ? first - 1 : 0].format));
+    }
+  } else if (newCount > 0) {
+    cursor.insertBlock();
+    if (!atEnd) cursor.movePosition(QTextCursor::PreviousBlock);
+  }
+  for (std::size_t i = 0; i < newCount; ++i) {
+    if (i > 0) cursor.insertBlock();
+    writeParagraph(cursor, now[first + i]);
+  }
+  cursor.endEditBlock();
+}
+
+void RichTextEdit::refreshSelection() {
+  if (box() == nullptr) return;
+  const QScopedValueRollback quiet(refreshing_, true);
+  const richtext::Editor& editor = box_->editor();
+  QTextCursor cursor = textCursor();
+  const int begin = positionAt(editor.selStart());
+  const int end = positionAt(editor.selStart() + editor.selLength());
+  if (cursor.selectionStart() == begin && cursor.selectionEnd() == end) return;
+  cursor.setPosition(begin);
+  cursor.setPosition(end, QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+}
+
+void RichTextEdit::reportSelection() {
+  if (refreshing_ || box() == nullptr) return;
+  const std::size_t begin = characterAt(textCursor().selectionStart());
+  const std::size_t length = characterAt(textCursor().selectionEnd()) - begin;
+  if (begin == box_->editor().selStart() && length == box_->editor().selLength()) return;
+  box_->select(begin, length);
+}
+
+std::size_t RichTextEdit::characterAt(int position) const {
+  std::size_t characters = 0;
+  const QTextBlock end = document()->findBlock(position);
+  for (QTextBlock block = document()->begin(); block.isValid() && block != end; block = block.next()) {
+    characters += charactersBefore(block.text(), block.text().size()) + 1;
+  }
+  return characters + charactersBefore(end.text(), position - end.position());
+}
+
+int RichTextEdit::positionAt(std::size_t character) const {
+  QTextBlock block = document()->begin();
+  for (; block.next().isValid(); block = block.next()) {
+    const std::size_t length = charactersBefore(block.text(), block.text().size());
+    if (character <= length) break;
+    character -= length + 1;
+  }
+  return block.position() + static_cast<int>(unitsBefore(block.text(), character));
+}
+
+void RichTextEdit::keyPressEvent(QKeyEvent* event) {
+  if (!editByKey(*event)) return QTextEdit::keyPressEvent(event);
+  event->accept();
+  ensureCursorVisible();
+}
+
+bool RichTextEdit::editByKey(const QKeyEvent& event) {
+  if (isReadOnly()) return false;
+  if (event.matches(QKeySequence::Cut)) return cutSelection(), true;
+  for (const EditKey& row : editKeys) {
+    if (event.matches(row.key)) return edit(row.apply), true;
+  }
+  if (!isTyped(event) || (tabChangesFocus() && event.key() == Qt::Key_Tab)) {
+    // What would change the text without the editor knowing it is no key of this widget.
+    return event.matches(QKeySequence::DeleteStartOfWord) || event.matches(QKeySequence::DeleteEndOfWord) ||
+           event.matches(QKeySequence::DeleteEndOfLine);
+  }
+  edit([&](richtext::Editor& editor) { editor.insert(utf8(event.text())); });
+  return true;
+}
+
+void RichTextEdit::inputMethodEvent(QInputMethodEvent* event) {
+  const std::string committed = utf8(event->commitString());
+  if (!committed.empty()) edit([&](richtext::Editor& editor) { editor.insert(committed); });
+  event->accept();
+}
+
+void RichTextEdit::cutSelection() {
+  if (box() == nullptr || box_->editor().selLength() == 0) return;
+  QApplication::clipboard()->setMimeData(createMimeDataFromSelection());
+  edit([](richtext::Editor& editor) { editor.cut(); });
+}
+
+QMimeData* RichTextEdit::createMimeDataFromSelection() const {
+  auto* const mime = new QMimeData;
+  if (box() == nullptr) return mime;
+  mime->setText(qs(box_->editor().selText()));
+  mime->setData(richTextType, QByteArray::fromStdString(richtext::Editor(box_->editor().copy()).textRTF()));
+  return mime;
+}
+
+void RichTextEdit::insertFromMimeData(const QMimeData* source) {
+  richtext::Editor foreign;
+  const bool rich = source->hasFormat(richTextType) && foreign.setTextRTF(source->data(richTextType).toStdString());
+  if (rich) return edit([&](richtext::Editor& editor) { editor.paste(foreign.document()); });
+  if (source->hasText()) edit([&](richtext::Editor& editor) { editor.insert(utf8(source->text())); });
+}
+
+// The toolkit's menu edits the shown text behind the editor's back.
+void RichTextEdit::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
+
+}  // namespace desktop

@@ -1,0 +1,155 @@
+#include "desktop/layout.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QFontMetrics>
+#include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTreeView>
+
+#include "desktop/bind/bind_button.h"
+#include "desktop/bind/bind_combo.h"
+#include "desktop/bind/bind_label.h"
+#include "desktop/bind/bind_list.h"
+#include "desktop/bind/bind_picture.h"
+#include "desktop/bind/bind_rich_text.h"
+#include "desktop/bind/bind_text.h"
+#include "desktop/hint_list.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int charactersForTwoColumns = 78;
+constexpr int gridColumnsPerField = 2;
+
+template <class Widget, class Control>
+QWidget* made(forms::Control& control, QWidget& parent) {
+  auto* const typed = dynamic_cast<Control*>(&control);
+  if (typed == nullptr) return nullptr;
+  auto* const widget = new Widget(&parent);
+  bind(*widget, *typed);
+  return widget;
+}
+
+QWidget* madeText(forms::Control& control, QWidget& parent) {
+  const auto* const box = dynamic_cast<forms::TextBox*>(&control);
+  if (box == nullptr) return nullptr;
+  if (box->lines() == forms::TextLines::Multiple) return made<QPlainTextEdit, forms::TextBox>(control, parent);
+  return made<QLineEdit, forms::TextBox>(control, parent);
+}
+
+QWidget* madeScrollBar(forms::Control& control, QWidget& parent) {
+  auto* const widget = made<QScrollBar, forms::ScrollBar>(control, parent);
+  if (widget != nullptr) static_cast<QScrollBar*>(widget)->setOrientation(Qt::Horizontal);
+  return widget;
+}
+
+}  // namespace
+
+int characters(const QWidget& widget, int count) { return widget.fontMetrics().averageCharWidth() * count; }
+
+QLabel* captionFor(QWidget& field) {
+  auto* const label = new QLabel(field.parentWidget());
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  showCaption(*label, field);
+  return label;
+}
+
+QWidget* makeWidget(forms::Control& control, QWidget& parent) {
+  using Maker = QWidget* (*)(forms::Control&, QWidget&);
+  constexpr Maker makers[] = {madeText,
+                              made<QComboBox, forms::ComboBox>,
+                              made<QCheckBox, forms::CheckBox>,
+                              made<QRadioButton, forms::OptionButton>,
+                              made<QPushButton, forms::CommandButton>,
+                              made<QLabel, forms::Label>,
+                              made<HintList, forms::ListBox>,
+                              made<QTreeView, forms::ListView>,
+                              made<PictureFrame, forms::Picture>,
+                              made<QProgressBar, forms::ProgressBar>,
+                              made<RichTextEdit, forms::RichTextBox>,
+                              madeScrollBar};
+  for (const Maker maker : makers) {
+    if (QWidget* const widget = maker(control, parent)) return widget;
+  }
+  return nullptr;
+}
+
+FieldColumns::FieldColumns(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
+  grid_->setHorizontalSpacing(gap::normal);
+  grid_->setVerticalSpacing(gap::small);
+}
+
+void FieldColumns::add(QWidget* field, Width width) {
+  rows_.push_back({captionFor(*field), field, width, false});
+  columns_ = 0;
+}
+
+void FieldColumns::addGrowing(QWidget* field) {
+  rows_.push_back({captionFor(*field), field, Width::Full, true});
+  columns_ = 0;
+}
+
+int FieldColumns::columnsForWidth() const { return width() >= characters(*this, charactersForTwoColumns) ? 2 : 1; }
+
+QSize FieldColumns::minimumSizeHint() const {
+  int caption = 0;
+  int field = 0;
+  for (const Row& row : rows_) {
+    caption = std::max(caption, row.caption->sizeHint().width());
+    field = std::max(field, row.field->minimumSizeHint().width());
+  }
+  const QMargins margins = grid_->contentsMargins();
+  return {caption + grid_->horizontalSpacing() + field + margins.left() + margins.right(),
+          QWidget::minimumSizeHint().height()};
+}
+
+void FieldColumns::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (const int wanted = columnsForWidth(); wanted != columns_) arrange(wanted);
+}
+
+void FieldColumns::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) arrange(columnsForWidth());
+}
+
+// Fields go down the first column, then down the second, so that the tab order reads like a page.
+void FieldColumns::arrange(int columns) {
+  columns_ = columns;
+  while (grid_->count() > 0) delete grid_->takeAt(0);
+  for (int line = 0; line < grid_->rowCount(); ++line) grid_->setRowStretch(line, 0);
+  const auto narrow = static_cast<int>(std::ranges::count(rows_, Width::Column, &Row::width));
+  const int lines = (narrow + columns - 1) / columns;
+  int placed = 0;
+  int below = lines;
+  for (const Row& row : rows_) {
+    if (row.width == Width::Full) {
+      placeRow(row, below++, 0, columns);
+    } else {
+      placeRow(row, placed % lines, placed / lines, columns);
+      ++placed;
+    }
+  }
+  const bool anyGrows = std::ranges::any_of(rows_, &Row::grows);
+  if (!anyGrows) grid_->setRowStretch(below, 1);
+  for (int c = 0; c < 2; ++c) grid_->setColumnStretch(c * gridColumnsPerField + 1, c < columns ? 1 : 0);
+}
+
+void FieldColumns::placeRow(const Row& row, int line, int column, int columns) {
+  const int at = column * gridColumnsPerField;
+  const int span = row.width == Width::Full ? gridColumnsPerField * columns - 1 : 1;
+  const Qt::Alignment top = row.grows ? Qt::AlignTop : Qt::Alignment();
+  grid_->addWidget(row.caption, line, at, top);
+  grid_->addWidget(row.field, line, at + 1, 1, span);
+  if (row.grows) grid_->setRowStretch(line, 1);
+}
+
+}  // namespace desktop

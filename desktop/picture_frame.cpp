@@ -1,0 +1,87 @@
+#include "desktop/picture_frame.h"
+
+#include <QImageReader>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace desktop {
+
+namespace {
+
+constexpr qint64 mostPixels = 150'000'000;
+
+// The size as it stands after the camera's rotation.
+QSize uprightSize(const QImageReader& reader) {
+  const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+  return turned ? reader.size().transposed() : reader.size();
+}
+
+QSize scaledSize(const QImageReader& reader, const QSize& limit) {
+  const QSize upright = uprightSize(reader);
+  const QSize fitted = upright.scaled(limit.boundedTo(upright), Qt::KeepAspectRatio).expandedTo({1, 1});
+  return uprightSize(reader) == reader.size() ? fitted : fitted.transposed();
+}
+
+}  // namespace
+
+QImage loadPicture(const QString& path, const QSize& limit, QSize* natural) {
+  QImageReader reader(path);
+  reader.setAutoTransform(true);
+  reader.setDecideFormatFromContent(true);
+  const QSize size = reader.size();
+  if (size.isEmpty() || qint64{size.width()} * size.height() > mostPixels) return {};
+  if (natural != nullptr) *natural = uprightSize(reader);
+  if (!limit.isEmpty()) reader.setScaledSize(scaledSize(reader, limit));
+  return reader.read();
+}
+
+PictureFrame::PictureFrame(QWidget* parent) : QFrame(parent) { setFrameShape(QFrame::NoFrame); }
+
+void PictureFrame::setPath(const QString& path) {
+  if (path == path_ && showsPicture()) return;
+  path_ = path;
+  reload();
+}
+
+void PictureFrame::setPlace(const QRect& place) {
+  if (place == place_) return;
+  place_ = place;
+  reload();
+}
+
+void PictureFrame::reload() {
+  image_ = {};
+  natural_ = {};
+  const QSize room = (place_.isEmpty() ? size() : place_.size()) * devicePixelRatioF();
+  if (!path_.isEmpty() && !room.isEmpty()) image_ = loadPicture(path_, room, &natural_);
+  update();
+}
+
+QRect PictureFrame::placeFor(const QSize& picture) const {
+  if (!place_.isEmpty()) return place_;
+  const QSize fitted = picture.scaled(size().boundedTo(natural_), Qt::KeepAspectRatio);
+  return {QPoint((width() - fitted.width()) / 2, (height() - fitted.height()) / 2), fitted};
+}
+
+void PictureFrame::paintEvent(QPaintEvent* event) {
+  QFrame::paintEvent(event);
+  if (image_.isNull()) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(placeFor(image_.size()), image_);
+}
+
+void PictureFrame::resizeEvent(QResizeEvent* event) {
+  QFrame::resizeEvent(event);
+  if (place_.isEmpty()) reload();
+}
+
+void PictureFrame::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit clicked();
+}
+
+void PictureFrame::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit doubleClicked();
+}
+
+}  // namespace desktop

@@ -1,0 +1,179 @@
+#include "desktop/tour.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+#include <QTextStream>
+#include <QWindow>
+
+#include "desktop/appearance.h"
+#include "desktop/form_frame.h"
+#include "desktop/text.h"
+#include "platform/forms/menu.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr const char* languages[] = {"tr", "eng"};
+constexpr QSize usualSize{1240, 780};
+constexpr QSize smallestSize{1024, 700};
+constexpr double enlarged = 1.5;
+
+void complain(const QString& why) { QTextStream(stderr) << why << Qt::endl; }
+
+// Windows and their events come to rest: a layout may ask for another pass.
+void settle() {
+  for (int pass = 0; pass < 5; ++pass) {
+    QApplication::sendPostedEvents();
+    QApplication::processEvents();
+  }
+}
+
+class Album {
+ public:
+  explicit Album(const std::string& folder) : folder_(qs(folder)) { good_ = QDir().mkpath(folder_.path()); }
+
+  void take(QWidget& window, const QString& name) {
+    settle();
+    const QString file = folder_.filePath(name + QStringLiteral(".png"));
+    if (window.grab().save(file)) return;
+    complain(QStringLiteral("Cannot write ") + file);
+    good_ = false;
+  }
+  [[nodiscard]] bool good() const { return good_; }
+
+ private:
+  QDir folder_;
+  bool good_ = false;
+};
+
+forms::TabStrip* tabsOf(const forms::Form& form) {
+  for (forms::Control* control : form.controls()) {
+    if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) return strip;
+  }
+  return nullptr;
+}
+
+// One picture per tab; a form without tabs has one.
+void takeTabs(Album& album, QtHost& host, forms::Form& form, const QString& suffix) {
+  QWidget* const window = host.windowOf(form);
+  if (window == nullptr) return complain(qs(form.name()) + QStringLiteral(" has no window"));
+  forms::TabStrip* const strip = tabsOf(form);
+  if (strip == nullptr) return album.take(*window, qs(form.name()) + suffix);
+  const std::string first = strip->selected();
+  for (const forms::Tab& tab : strip->tabs()) {
+    strip->select(tab.key);
+    album.take(*window, qs(form.name()) + QLatin1Char('-') + qs(tab.key) + suffix);
+  }
+  strip->select(first);
+}
+
+class Tour {
+ public:
+  Tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main, const std::string& folder)
+      : host_(host), istasyon_(istasyon), main_(main), album_(folder) {}
+
+  bool run() {
+    main_.windowState = forms::WindowState::Normal;
+    main_.width = usualSize.width();
+    main_.height = usualSize.height();
+    host_.show(main_);
+    for (const char* language : languages) inLanguage(language);
+    host_.close(main_);
+    return album_.good();
+  }
+
+ private:
+  void inLanguage(const char* language) {
+    istasyon_.ayarYaz("Language", language);
+    main_.dilDegisti();
+    const QString suffix = QLatin1Char('-') + QLatin1String(language);
+    fillCard();
+    takeTabs(album_, host_, main_, suffix);
+    nameList(suffix);
+    takeVariants(suffix);
+    for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
+    main_.alanlaribosalt();
+    main_.Eskialanmain();
+  }
+
+  void fillCard() {
+    main_.Txtİsim.setText("Ayşe Yıldırım");
+    main_.TxtDTarihi.setText("12.03.1991");
+    main_.ComCinsiyet.setListIndex(0);
+    main_.txtyaşı.setCaption(main_.Txtyaş.caption() + " :  35");
+    main_.ComKanGrubu.setText("A Rh(+)");
+    main_.ComMeslek.setText("Öğretmen");
+    main_.comdogumyeri.setText("Eskişehir");
+    main_.TxtAnaAdı.setText("Gülümser");
+    main_.TxtBabaAdı.setText("İbrahim");
+    main_.TxtKimlikNo.setText("12345678901");
+    main_.TxtAdres1.setText("Atatürk Bulvarı No: 117/8");
+    main_.TxtAdres2.setText("Çankaya, Ankara");
+    main_.TxtTelefon1.setText("0312 417 00 00");
+    main_.txtdosyano.setText("2026/114");
+    main_.txtnot.setText("Penisilin alerjisi var.\nKontrole üç ay sonra gelecek.");
+  }
+
+  void nameList(const QString& suffix) {
+    main_.Lstdat.clear();
+    main_.Lstdat.appendItems({"Ayşe Yıldırım", "Ayşe Yıldırım*", "Ayşe Yıldız"});
+    main_.Lstdat.setVisibleRows(3);
+    main_.Lstdat.setVisible(true);
+    album_.take(*host_.windowOf(main_), QStringLiteral("FrmMain-names") + suffix);
+    main_.Lstdat.setVisible(false);
+    main_.Lstdat.clear();
+  }
+
+  void takeVariants(const QString& suffix) {
+    QWidget& window = *host_.windowOf(main_);
+    window.resize(smallestSize);
+    takeTabs(album_, host_, main_, QStringLiteral("-1024x700") + suffix);
+    window.resize(usualSize);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    takeTabs(album_, host_, main_, QStringLiteral("-dark") + suffix);
+    takeScreen("FrmOption", QStringLiteral("-dark") + suffix);
+    applyAppearance(shade);
+    takeEnlarged(window, suffix);
+  }
+
+  void takeEnlarged(QWidget& window, const QString& suffix) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * enlarged);
+    QApplication::setFont(large);
+    window.resize(usualSize * enlarged);
+    takeTabs(album_, host_, main_, QStringLiteral("-150") + suffix);
+    QApplication::setFont(usual);
+    window.resize(usualSize);
+  }
+
+  void takeScreen(const std::string& name, const QString& suffix) {
+    const auto form = istasyon_.screens.make(name, istasyon_);
+    if (form == nullptr) return;
+    form->Load();
+    host_.show(*form);
+    takeTabs(album_, host_, *form, suffix);
+    host_.close(*form);
+    settle();
+  }
+
+  QtHost& host_;
+  shell::Station& istasyon_;
+  registry::FrmMain& main_;
+  Album album_;
+};
+
+}  // namespace
+
+bool tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main, const std::string& folder) {
+  if (const QString problem = fontProblem(); !problem.isEmpty()) {
+    complain(problem);
+    return false;
+  }
+  return Tour(host, istasyon, main, folder).run();
+}
+
+}  // namespace desktop

@@ -1,0 +1,90 @@
+// The Options screen's settings, grouped in boxes.
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+#include "desktop/bind/bind_label.h"
+#include "desktop/layout.h"
+#include "desktop/text.h"
+#include "desktop/views/option_view.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int shortField = 10;
+
+// A box around what belongs together; its first control says by itself what the box is about.
+QVBoxLayout* box(QWidget& page) {
+  auto* const group = new QFrame(&page);
+  group->setFrameShape(QFrame::StyledPanel);
+  auto* const column = new QVBoxLayout(group);
+  column->setContentsMargins(gap::large, gap::normal, gap::large, gap::normal);
+  column->setSpacing(gap::small);
+  page.layout()->addWidget(group);
+  return column;
+}
+
+void addTo(QVBoxLayout& column, forms::Control& control, int indent = 0) {
+  auto* const row = new QHBoxLayout;
+  row->addSpacing(indent);
+  row->addWidget(makeWidget(control, *column.parentWidget()));
+  row->addStretch(1);
+  column.addLayout(row);
+}
+
+void addShortFields(QVBoxLayout& column, std::initializer_list<forms::TextControl*> fields) {
+  auto* const grid = new QGridLayout;
+  grid->setHorizontalSpacing(gap::normal);
+  grid->setVerticalSpacing(gap::small);
+  int line = 0;
+  for (forms::TextControl* field : fields) {
+    QWidget* const widget = makeWidget(*field, *column.parentWidget());
+    widget->setFixedWidth(characters(*widget, shortField));
+    grid->addWidget(captionFor(*widget), line, 0);
+    grid->addWidget(widget, line++, 1);
+  }
+  grid->setColumnStretch(2, 1);
+  column.addLayout(grid);
+}
+
+QWidget* languages(shell::FrmOption& form, QWidget& page) {
+  auto* const line = new QWidget(&page);
+  auto* const row = new QHBoxLayout(line);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(gap::large);
+  row->addWidget(makeWidget(form.OptTR, *line));
+  row->addWidget(makeWidget(form.OptGB, *line));
+  row->addStretch(1);
+  return line;
+}
+
+}  // namespace
+
+QWidget* settingsPage(shell::FrmOption& form, QWidget& parent) {
+  auto* const page = new QWidget(&parent);
+  bind(*page, form.PAyarlar, Follow::AllButVisible);
+  auto* const column = new QVBoxLayout(page);
+  column->setContentsMargins(gap::large, gap::large, gap::large, gap::large);
+  column->setSpacing(gap::normal);
+  box(*page)->addWidget(languages(form, *page));
+  QVBoxLayout* const birthdays = box(*page);
+  addTo(*birthdays, form.dghatirlat);
+  addShortFields(*birthdays, {&form.Comgönce});
+  QVBoxLayout* const appointments = box(*page);
+  addShortFields(*appointments, {&form.txtbtime, &form.txtintapp});
+  addTo(*appointments, form.chkrandevuaçılış);
+  addTo(*appointments, form.chkrandevukapanış);
+  QVBoxLayout* const passwords = box(*page);
+  addTo(*passwords, form.acilistasifresor);
+  addTo(*passwords, form.optaçma, gap::large);
+  addTo(*passwords, form.optkısıtlıaç, gap::large);
+  addTo(*passwords, form.hesaplardasifre);
+  QVBoxLayout* const others = box(*page);
+  addTo(*others, form.chkçıkyedek);
+  addTo(*others, form.chsigarabrakma);
+  column->addStretch(1);
+  return page;
+}
+
+}  // namespace desktop
