@@ -75,6 +75,7 @@ class Tour {
       : host_(host), istasyon_(istasyon), main_(main), album_(folder) {}
 
   bool run() {
+    if (!album_.good()) return complain(QStringLiteral("Cannot make the folder of the tour")), false;
     main_.windowState = forms::WindowState::Normal;
     main_.width = usualSize.width();
     main_.height = usualSize.height();

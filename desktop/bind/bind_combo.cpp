@@ -24,9 +24,13 @@ void showItems(QComboBox& combo, const forms::ComboBox& control) {
 
 void showRow(QComboBox& combo, const forms::ComboBox& control) {
   const QSignalBlocker quiet(combo);
-  // Setting the same row again would move the cursor of the text.
+  QLineEdit* const line = combo.lineEdit();
+  const int cursor = line == nullptr ? 0 : line->cursorPosition();
   if (combo.currentIndex() != control.listIndex()) combo.setCurrentIndex(control.listIndex());
-  if (combo.isEditable()) refreshLine(*combo.lineEdit(), control, Aspect::Text);
+  if (line == nullptr) return;
+  refreshLine(*line, control, Aspect::Text);
+  // The row put its own text into the line, and the cursor behind it.
+  if (line->hasFocus()) line->setCursorPosition(cursor);
 }
 
 void refresh(QComboBox& combo, const forms::ComboBox& control, Aspect aspect) {

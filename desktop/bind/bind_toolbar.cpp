@@ -16,7 +16,7 @@ using forms::ToolButton;
 bool isSeparator(const ToolButton& button) { return button.kind == forms::ButtonKind::Separator; }
 
 void addActions(QToolBar& bar, const forms::Toolbar& control) {
-  bar.clear();
+  qDeleteAll(bar.actions());
   for (const ToolButton& button : control.buttons()) {
     QAction* const action = isSeparator(button) ? bar.addSeparator() : bar.addAction(QString());
     action->setObjectName(qs(button.key));
@@ -78,11 +78,9 @@ void refreshTabs(QTabBar& bar, const forms::TabStrip& control) {
 
 void bind(QToolBar& bar, forms::Toolbar& control) {
   attach(bar, control, Follow::All, [&](Aspect aspect) {
-    if (aspect == Aspect::Items && bindingOf(bar) != nullptr) addActions(bar, control);
+    if (aspect == Aspect::Items) addActions(bar, control);
     refreshBar(bar, control);
   });
-  addActions(bar, control);
-  refreshBar(bar, control);
 }
 
 void bind(QTabBar& bar, forms::TabStrip& control) {

@@ -19,25 +19,44 @@ namespace {
 
 const QString richTextType = QStringLiteral("text/rtf");
 
-struct EditKey {
+using Edit = void (*)(richtext::Editor& editor);
+
+struct EditCommand {
   QKeySequence::StandardKey key;
-  void (*apply)(richtext::Editor& editor);
+  Edit apply;
 };
-constexpr EditKey editKeys[] = {
+constexpr EditCommand editCommands[] = {
     {QKeySequence::Undo, [](richtext::Editor& e) { e.undo(); }},
     {QKeySequence::Redo, [](richtext::Editor& e) { e.redo(); }},
     {QKeySequence::Bold, [](richtext::Editor& e) { e.setSelBold(!e.selBold().value_or(false)); }},
     {QKeySequence::Italic, [](richtext::Editor& e) { e.setSelItalic(!e.selItalic().value_or(false)); }},
     {QKeySequence::Underline, [](richtext::Editor& e) { e.setSelUnderline(!e.selUnderline().value_or(false)); }},
-    {QKeySequence::Backspace, [](richtext::Editor& e) { e.backspace(); }},
-    {QKeySequence::Delete, [](richtext::Editor& e) { e.deleteForward(); }},
-    {QKeySequence::InsertParagraphSeparator, [](richtext::Editor& e) { e.insert("\n"); }},
-    {QKeySequence::InsertLineSeparator, [](richtext::Editor& e) { e.insert("\n"); }},
 };
+
+struct EditKey {
+  int key;
+  Edit apply;
+};
+constexpr EditKey editKeys[] = {
+    {Qt::Key_Backspace, [](richtext::Editor& e) { e.backspace(); }},
+    {Qt::Key_Delete, [](richtext::Editor& e) { e.deleteForward(); }},
+    {Qt::Key_Return, [](richtext::Editor& e) { e.insert("\n"); }},
+    {Qt::Key_Enter, [](richtext::Editor& e) { e.insert("\n"); }},
+};
+
+Edit editOf(const QKeyEvent& event) {
+  for (const EditCommand& row : editCommands) {
+    if (event.matches(row.key)) return row.apply;
+  }
+  for (const EditKey& row : editKeys) {
+    if (event.key() == row.key && !event.modifiers().testFlag(Qt::ControlModifier)) return row.apply;
+  }
+  return nullptr;
+}
 
 bool isTyped(const QKeyEvent& event) {
   const bool command = event.modifiers().testFlag(Qt::ControlModifier) != event.modifiers().testFlag(Qt::AltModifier);
-  return !event.text().isEmpty() && !command && (event.text()[0].isPrint() || event.text()[0] == QLatin1Char('\t'));
+  return !event.text().isEmpty() && !command && event.text()[0].isPrint();
 }
 
 // A text that is printed shows as on paper, on a dark desk too.
@@ -59,7 +78,11 @@ void writeParagraph(QTextCursor& cursor, const richtext::Paragraph& paragraph) {
 }  // namespace
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
+  // The toolkit moves the cursor and selects; it never edits by itself.
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setAttribute(Qt::WA_InputMethodEnabled);
   setUndoRedoEnabled(false);
+  setAcceptDrops(false);
   setPalette(paper());
   setTabChangesFocus(true);
   connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextEdit::reportSelection);
@@ -169,17 +192,17 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
 }
 
 bool RichTextEdit::editByKey(const QKeyEvent& event) {
-  if (isReadOnly()) return false;
-  if (event.matches(QKeySequence::Cut)) return cutSelection(), true;
-  for (const EditKey& row : editKeys) {
-    if (event.matches(row.key)) return edit(row.apply), true;
+  if (event.matches(QKeySequence::Cut)) {
+    cutSelection();
+  } else if (event.matches(QKeySequence::Paste)) {
+    paste();
+  } else if (const Edit apply = editOf(event)) {
+    edit(apply);
+  } else if (isTyped(event) && event.key() != Qt::Key_Tab) {
+    edit([&](richtext::Editor& editor) { editor.insert(utf8(event.text())); });
+  } else {
+    return false;
   }
-  if (!isTyped(event) || (tabChangesFocus() && event.key() == Qt::Key_Tab)) {
-    // What would change the text without the editor knowing it is no key of this widget.
-    return event.matches(QKeySequence::DeleteStartOfWord) || event.matches(QKeySequence::DeleteEndOfWord) ||
-           event.matches(QKeySequence::DeleteEndOfLine);
-  }
-  edit([&](richtext::Editor& editor) { editor.insert(utf8(event.text())); });
   return true;
 }
 

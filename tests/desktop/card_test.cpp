@@ -48,7 +48,6 @@ TEST_F(Card, APatientIsRegisteredFromTheKeyboard) {
 
 TEST_F(Card, ANameIsFoundByItsFirstLetters) {
   registerPatient("Ayşe Yıldız", "12.03.1991", "k");
-  registerPatient("", "", "");
   search("ay");
   auto& list = desk.find<desktop::NameList>("Lstdat");
   ASSERT_TRUE(list.isVisible());
