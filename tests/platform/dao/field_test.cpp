@@ -34,7 +34,8 @@ TEST_F(FieldTest, TypesAreTestedOnAssignment) {
   const std::array cases{
       Assignment{"Date", day, Fault::None, "2026-11-22"},
       Assignment{"Date", "2026-11-22", Fault::None, "2026-11-22"},
-      Assignment{"Date", text::DateTime::of(2026, 11, 22, 50700), Fault::None, "2026-11-22 14:05:00"},
+      Assignment{"Date", text::DateTime::of(2026, 11, 22, 50700), Fault::None,
+                 "2026-11-22 14:05:00"},
       Assignment{"Date", "soon", Fault::WrongType, ""},
       Assignment{"Date", Value(), Fault::None, ""},
       Assignment{"Speciality", 32767, Fault::None, "32767"},
@@ -79,8 +80,13 @@ TEST_F(FieldTest, ADateComesBackAsADate) {
 
 TEST_F(FieldTest, EveryCharacterIsStoredWhole) {
   using namespace std::string_literals;
-  const std::array texts{"a\0b"s, "\x01\x1F"s, "it's \"quoted\""s, "; DROP TABLE IDCard --"s, "\xF0\x9F\x98\x80"s,
-                         "line\r\nline"s, "\0"s};
+  const std::array texts{"a\0b"s,
+                         "\x01\x1F"s,
+                         "it's \"quoted\""s,
+                         "; DROP TABLE IDCard --"s,
+                         "\xF0\x9F\x98\x80"s,
+                         "line\r\nline"s,
+                         "\0"s};
   Recordset cards = table("IDCard");
   for (const std::string& text : texts) {
     ASSERT_TRUE(cards.AddNew());

@@ -22,10 +22,12 @@ struct Pair {
 };
 
 constexpr std::array kPairs{
-    Pair{"i", "I", true, false},         Pair{"i", "İ", false, true},  Pair{"ı", "I", false, true},
-    Pair{"ı", "i", false, false},        Pair{"ş", "s", false, false}, Pair{"ş", "Ş", true, true},
-    Pair{"Ayşe", "AYŞE", true, true},    Pair{"a", "a   ", true, true}, Pair{"a", " a", false, false},
-    Pair{"çilek", "ÇİLEK", false, true}, Pair{"ö", "Ö", true, true},   Pair{"e", "é", false, false},
+    Pair{"i", "I", true, false},      Pair{"i", "İ", false, true},
+    Pair{"ı", "I", false, true},      Pair{"ı", "i", false, false},
+    Pair{"ş", "s", false, false},     Pair{"ş", "Ş", true, true},
+    Pair{"Ayşe", "AYŞE", true, true}, Pair{"a", "a   ", true, true},
+    Pair{"a", " a", false, false},    Pair{"çilek", "ÇİLEK", false, true},
+    Pair{"ö", "Ö", true, true},       Pair{"e", "é", false, false},
 };
 
 void expectMatches(Recordset cards, bool Pair::*expected) {
@@ -40,8 +42,12 @@ void expectMatches(Recordset cards, bool Pair::*expected) {
   }
 }
 
-TEST_F(GeneralStoreTest, MatchesTexts) { expectMatches(table("IDCard"), &Pair::general); }
-TEST_F(TurkishStoreTest, MatchesTexts) { expectMatches(table("IDCard"), &Pair::turkish); }
+TEST_F(GeneralStoreTest, MatchesTexts) {
+  expectMatches(table("IDCard"), &Pair::general);
+}
+TEST_F(TurkishStoreTest, MatchesTexts) {
+  expectMatches(table("IDCard"), &Pair::turkish);
+}
 
 TEST_F(TurkishStoreTest, SortsTheTurkishAlphabetAndRemembersIt) {
   addCards({"z", "ş", "s", "i", "ı", "h", "ğ", "g", "ç", "c", "ü", "u", "ö", "o"});
@@ -88,7 +94,8 @@ Texts plainWalk(Database& store, Fold fold, std::string_view typed) {
 }
 
 std::vector<std::string> randomNames(int count) {
-  constexpr std::array kLetters{"a", "A", "i", "I", "ı", "İ", "s", "ş", "Ş", "ß", "e", " ", "ﬁ", "y"};
+  constexpr std::array kLetters{"a", "A", "i", "I", "ı", "İ", "s",
+                                "ş", "Ş", "ß", "e", " ", "ﬁ", "y"};
   std::mt19937 random(11);
   std::vector<std::string> names;
   for (int each = 0; each < count; ++each) {
@@ -99,7 +106,8 @@ std::vector<std::string> randomNames(int count) {
   return names;
 }
 
-constexpr std::array kTyped{"a", "i", "ı", "İ", "I", "ş", "S", "ß", "ss", "SS", "is", "ış", "İŞ", "ﬁ", "fi", "ay i", "zz", ""};
+constexpr std::array kTyped{"a",  "i",  "ı",  "İ",  "I", "ş",  "S",    "ß",  "ss",
+                            "SS", "is", "ış", "İŞ", "ﬁ", "fi", "ay i", "zz", ""};
 
 template <class Store>
 void expectSameAsWalk(Store& store) {
@@ -131,8 +139,10 @@ TEST_F(GeneralStoreTest, TheSearchListCarriesTheKeyAndNeedsItsIndex) {
   }
   ASSERT_EQ(reader.rows().size(), 1U);
   EXPECT_EQ(reader.rows()[0].extra, "¬");
-  EXPECT_EQ(PrefixReader::open(store_, "Drug", "drug", Fold::Turkish, "a").error().fault(), Fault::Missing);
-  EXPECT_EQ(PrefixReader::open(Database(), "IDCard", "Name", Fold::Turkish, "a").error().fault(), Fault::NoCurrent);
+  EXPECT_EQ(PrefixReader::open(store_, "Drug", "drug", Fold::Turkish, "a").error().fault(),
+            Fault::Missing);
+  EXPECT_EQ(PrefixReader::open(Database(), "IDCard", "Name", Fold::Turkish, "a").error().fault(),
+            Fault::NoCurrent);
 }
 
 TEST_F(GeneralStoreTest, ASearchNoticesThatTheStoreWasClosed) {

@@ -17,7 +17,9 @@ class SelectTest : public StoreTest {
     EXPECT_TRUE(exams.Fields("Date").Set(text::DateTime::of(2026, 11, 22, 60)));
     EXPECT_TRUE(exams.Update());
   }
-  Texts drugs(const std::string& condition) { return all("SELECT *FROM Drug WHERE " + condition, "drug"); }
+  Texts drugs(const std::string& condition) {
+    return all("SELECT *FROM Drug WHERE " + condition, "drug");
+  }
 };
 
 struct SelectCase {
@@ -46,13 +48,15 @@ TEST_F(SelectTest, UnderstandsTheStatementsOfTheScreens) {
       SelectCase{R"(left(drug,len(drug)-(1)) = "a")", {"a5"}},
       SelectCase{R"(drug_num = 3)", {"Zyban"}},
   };
-  for (const SelectCase& each : cases) EXPECT_EQ(drugs(each.condition), each.found) << each.condition;
+  for (const SelectCase& each : cases)
+    EXPECT_EQ(drugs(each.condition), each.found) << each.condition;
 }
 
 TEST_F(SelectTest, BindsParametersAndKnowsTypes) {
   Recordset rows =
-      store_.OpenRecordset("SELECT* FROM [Physical Exam] WHERE Name = ? and DateValue(Date) = ?",
-                           {"AYŞE", text::DateTime::of(2026, 11, 22)})
+      store_
+          .OpenRecordset("SELECT* FROM [Physical Exam] WHERE Name = ? and DateValue(Date) = ?",
+                         {"AYŞE", text::DateTime::of(2026, 11, 22)})
           .value();
   ASSERT_EQ(rows.RecordCount(), 1);
   EXPECT_EQ(rows.Fields("date").Value(), Value(text::DateTime::of(2026, 11, 22, 60)));
@@ -72,7 +76,8 @@ TEST_F(SelectTest, ABadStatementIsAFaultAndSelectedRowsAreReadOnly) {
   EXPECT_FALSE(store_.OpenRecordset("SELECT * FROM Physical Exam WHERE;"));
   EXPECT_FALSE(store_.OpenRecordset("SELECT * FROM Drug WHERE drug = \"open"));
   EXPECT_FALSE(store_.OpenRecordset("SELECT * FROM Drug WHERE left(drug, -1) = 'a'"));
-  EXPECT_EQ(store_.Execute("DELETE FROM Drug; DELETE FROM IDCard").error().fault(), Fault::Unsupported);
+  EXPECT_EQ(store_.Execute("DELETE FROM Drug; DELETE FROM IDCard").error().fault(),
+            Fault::Unsupported);
   Recordset rows = store_.OpenRecordset("SELECT * FROM Drug").value();
   EXPECT_EQ(rows.Edit().fault(), Fault::Unsupported);
   EXPECT_EQ(rows.Seek("=", 1).fault(), Fault::Unsupported);
@@ -86,9 +91,12 @@ TEST_F(SelectTest, AnEmptySelectionHasBothEnds) {
 }
 
 TEST_F(SelectTest, ExecuteChangesRowsAndCountsThem) {
-  EXPECT_EQ(store_.Execute("UPDATE Drug SET drug = ? WHERE drug = \"zyban\"", {"Zyban\" 150"}).value(), 1);
+  EXPECT_EQ(
+      store_.Execute("UPDATE Drug SET drug = ? WHERE drug = \"zyban\"", {"Zyban\" 150"}).value(),
+      1);
   EXPECT_EQ(drugs("drug_num = 3"), Texts{"Zyban\" 150"});
-  EXPECT_EQ(store_.Execute("UPDATE Drug SET drug = 'a5' WHERE drug_num = 3").error().fault(), Fault::Exists);
+  EXPECT_EQ(store_.Execute("UPDATE Drug SET drug = 'a5' WHERE drug_num = 3").error().fault(),
+            Fault::Exists);
   EXPECT_EQ(store_.Execute("DELETE FROM Drug WHERE drug_num > 3").value(), 5);
 }
 
