@@ -56,7 +56,12 @@ Engine::Engine(const std::filesystem::path& path, Order order) : path_(path), or
 Result<std::shared_ptr<Engine>> Engine::open(const std::filesystem::path& path,
                                              const OpenOptions& options) {
   if (Status fault = fileFault(path); !fault) return std::unexpected(fault);
-  auto engine = std::make_shared<Engine>(std::filesystem::absolute(path), options.emptyFileOrder);
+  std::error_code error;
+  const auto whole = std::filesystem::absolute(path, error);
+  if (error)
+    return std::unexpected(
+        Status(Fault::Missing, path.filename().string() + ": there is no such file."));
+  auto engine = std::make_shared<Engine>(whole, options.emptyFileOrder);
   Status status = engine->connect(options);
   if (status) status = engine->configure(options);
   if (status) status = engine->readMarks(options);

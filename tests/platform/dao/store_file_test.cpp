@@ -246,5 +246,20 @@ TEST_F(StoreFileTest, RepairingMakesIndexesAnew) {
   EXPECT_TRUE(OpenDatabase(path_).value().integrityCheck());
 }
 
+TEST_F(StoreFileTest, RepairingSortsATableThatIsOutOfOrder) {
+  addCards({"alpha", "bravo", "delta"});
+  store_.Close();
+  std::string content = contentOf(path_);
+  for (std::size_t at = content.find("bravo"); at != content.npos;
+       at = content.find("bravo", at + 1)) {
+    content.replace(at, 5, "zulus");
+  }
+  write(path_, content);
+  EXPECT_EQ(OpenDatabase(path_).value().integrityCheck().fault(), Fault::Damaged);
+  EXPECT_TRUE(RepairDatabase(path_).value().wasDamaged);
+  store_ = OpenDatabase(path_).value();
+  EXPECT_EQ(all("IDCard", "Name"), (Texts{"alpha", "delta", "zulus"}));
+}
+
 }  // namespace
 }  // namespace dao
