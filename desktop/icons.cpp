@@ -1,6 +1,9 @@
 #include "desktop/icons.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
 #include <QStandardPaths>
 #include <array>
 
@@ -13,8 +16,7 @@ struct IconName {
   const char* theme;
 };
 
-// A filled sheet says that there are records of that kind, an empty one that there are none.
-constexpr std::array<IconName, 34> names{{
+constexpr std::array<IconName, 32> names{{
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
@@ -29,10 +31,8 @@ constexpr std::array<IconName, 34> names{{
     {"ileri", "go-next"},
     {"Find", "edit-find"},
     {"option", "configure"},
-    {"muayene", "view-list-text"},
-    {"muayenev", "view-pim-notes"},
-    {"rapor", "document-edit"},
-    {"raporv", "office-report"},
+    {"muayene", "view-pim-notes"},
+    {"rapor", "document-edit-sign"},
     {"smok", "view-pim-journal"},
     {"keyclose", "object-locked"},
     {"keyopen", "object-unlocked"},
@@ -50,6 +50,40 @@ constexpr std::array<IconName, 34> names{{
     {"program", "user-identity"},
     {"invoice", "view-financial-list"},
 }};
+
+// The image that says that there are records of that kind is the other one, filled.
+struct FilledName {
+  std::string_view image;
+  std::string_view outline;
+};
+constexpr std::array<FilledName, 2> filledNames{{{"muayenev", "muayene"}, {"raporv", "rapor"}}};
+
+constexpr int filledSizes[] = {22, 33, 44, 66};
+constexpr double corner = 0.16;
+
+// The drawing in white on a ground of the accent's colour.
+QPixmap filled(const QIcon& outline, int size) {
+  QPixmap drawing = outline.pixmap(QSize(size, size), 1.0);
+  QPainter ink(&drawing);
+  ink.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  ink.fillRect(drawing.rect(), Qt::white);
+  ink.end();
+  QPixmap ground(drawing.size());
+  ground.fill(Qt::transparent);
+  QPainter painter(&ground);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QGuiApplication::palette().color(QPalette::Highlight));
+  painter.drawRoundedRect(ground.rect(), size * corner, size * corner);
+  painter.drawPixmap(0, 0, drawing);
+  return ground;
+}
+
+QIcon filled(const QIcon& outline) {
+  QIcon icon;
+  for (const int size : filledSizes) icon.addPixmap(filled(outline, size));
+  return icon;
+}
 
 QStringList themeFolders() {
   QStringList folders = QIcon::themeSearchPaths();
@@ -71,6 +105,9 @@ void useIconTheme(bool dark) {
 }
 
 QIcon icon(std::string_view image) {
+  for (const FilledName& row : filledNames) {
+    if (row.image == image) return filled(icon(row.outline));
+  }
   for (const IconName& row : names) {
     if (row.image == image) return QIcon::fromTheme(QLatin1String(row.theme));
   }

@@ -10,6 +10,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTreeView>
 
@@ -26,7 +27,7 @@ namespace desktop {
 
 namespace {
 
-constexpr int charactersForTwoColumns = 78;
+constexpr int charactersForTwoColumns = 86;
 constexpr int gridColumnsPerField = 2;
 
 template <class Widget, class Control>
@@ -52,6 +53,18 @@ QWidget* madeScrollBar(forms::Control& control, QWidget& parent) {
 }
 
 }  // namespace
+
+QScrollArea* scrolled(QWidget* page, QWidget& parent) {
+  auto* const scroller = new QScrollArea(&parent);
+  scroller->setFrameShape(QFrame::NoFrame);
+  scroller->setWidgetResizable(true);
+  scroller->setFocusPolicy(Qt::NoFocus);
+  scroller->setWidget(page);
+  // The ground below shows through.
+  scroller->viewport()->setAutoFillBackground(false);
+  page->setAutoFillBackground(false);
+  return scroller;
+}
 
 int characters(const QWidget& widget, int count) { return widget.fontMetrics().averageCharWidth() * count; }
 
@@ -83,6 +96,7 @@ QWidget* makeWidget(forms::Control& control, QWidget& parent) {
 }
 
 FieldColumns::FieldColumns(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
+  grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(gap::normal);
   grid_->setVerticalSpacing(gap::small);
 }
@@ -106,7 +120,7 @@ QSize FieldColumns::minimumSizeHint() const {
     caption = std::max(caption, row.caption->sizeHint().width());
     field = std::max(field, row.field->minimumSizeHint().width());
   }
-  const QMargins margins = grid_->contentsMargins();
+  const QMargins margins = contentsMargins();
   return {caption + grid_->horizontalSpacing() + field + margins.left() + margins.right(),
           QWidget::minimumSizeHint().height()};
 }

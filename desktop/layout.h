@@ -3,6 +3,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
 #include <QWidget>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,9 @@ inline constexpr int large = 16;
 
 // The width of that many average characters in the widget's font.
 [[nodiscard]] int characters(const QWidget& widget, int count);
+
+// The page in a scroll area, so that nothing is ever cut off; the owner of both is the parent.
+[[nodiscard]] QScrollArea* scrolled(QWidget* page, QWidget& parent);
 
 // A label for the field, right-aligned, whose text and mnemonic follow the field's control.
 QLabel* captionFor(QWidget& field);

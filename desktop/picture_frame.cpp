@@ -41,6 +41,8 @@ void PictureFrame::setPath(const QString& path) {
   if (path == path_ && showsPicture()) return;
   path_ = path;
   reload();
+  // A frame without room tells by the file's header alone.
+  emit loaded(showsPicture() || (size().isEmpty() && QImageReader(path_).canRead()));
 }
 
 void PictureFrame::setPlace(const QRect& place) {

@@ -20,6 +20,8 @@ class PictureFrame : public QFrame {
   [[nodiscard]] bool showsPicture() const { return !image_.isNull(); }
 
  signals:
+  // After every attempt to show another file.
+  void loaded(bool shown);
   void clicked();
   void doubleClicked();
 

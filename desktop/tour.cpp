@@ -79,6 +79,7 @@ class Tour {
     main_.width = usualSize.width();
     main_.height = usualSize.height();
     host_.show(main_);
+    host_.windowOf(main_)->resize(usualSize);
     for (const char* language : languages) inLanguage(language);
     host_.close(main_);
     return album_.good();
@@ -88,6 +89,7 @@ class Tour {
   void inLanguage(const char* language) {
     istasyon_.ayarYaz("Language", language);
     main_.dilDegisti();
+    main_.Activate();
     const QString suffix = QLatin1Char('-') + QLatin1String(language);
     fillCard();
     takeTabs(album_, host_, main_, suffix);

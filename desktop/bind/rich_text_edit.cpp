@@ -40,6 +40,14 @@ bool isTyped(const QKeyEvent& event) {
   return !event.text().isEmpty() && !command && (event.text()[0].isPrint() || event.text()[0] == QLatin1Char('\t'));
 }
 
+// A text that is printed shows as on paper, on a dark desk too.
+QPalette paper() {
+  QPalette palette = QApplication::palette();
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  return palette;
+}
+
 void writeParagraph(QTextCursor& cursor, const richtext::Paragraph& paragraph) {
   cursor.setBlockFormat(blockFormat(paragraph.format));
   for (const richtext::Run& run : paragraph.runs) {
@@ -52,6 +60,7 @@ void writeParagraph(QTextCursor& cursor, const richtext::Paragraph& paragraph) {
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
   setUndoRedoEnabled(false);
+  setPalette(paper());
   setTabChangesFocus(true);
   connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextEdit::reportSelection);
   connect(this, &QTextEdit::selectionChanged, this, &RichTextEdit::reportSelection);

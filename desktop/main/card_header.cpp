@@ -6,6 +6,7 @@
 #include "desktop/bind/bind_text.h"
 #include "desktop/layout.h"
 #include "desktop/main/name_list.h"
+#include "desktop/short_line.h"
 
 namespace desktop {
 
@@ -15,15 +16,15 @@ constexpr int dateCharacters = 14;
 constexpr int ageCharacters = 6;
 
 QLineEdit* line(forms::TextBox& box, QWidget& parent, int width) {
-  auto* const edit = new QLineEdit(&parent);
-  bind(*edit, box);
-  if (width > 0) edit->setFixedWidth(characters(parent, width));
+  auto* const edit = new ShortLine(width, &parent);
+  bind(static_cast<QLineEdit&>(*edit), box);
   return edit;
 }
 
 QLineEdit* nameField(registry::FrmMain& form, QWidget& parent) {
-  auto* const name = line(form.Txtİsim, parent, 0);
-  QFont bold = name->font();
+  auto* const name = new QLineEdit(&parent);
+  bind(*name, form.Txtİsim);
+  QFont bold;
   bold.setBold(true);
   name->setFont(bold);
   new NameList(form.Lstdat, *name);

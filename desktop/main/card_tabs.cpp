@@ -1,6 +1,5 @@
 #include "desktop/main/card_tabs.h"
 
-#include <QScrollArea>
 #include <QTabWidget>
 
 #include "desktop/bind/bind_label.h"
@@ -11,23 +10,17 @@ namespace desktop {
 
 namespace {
 
-// A page scrolls where its fields do not fit, so that nothing is ever cut off.
 void addPage(QTabWidget& tabs, forms::Panel& panel, std::initializer_list<forms::TextControl*> fields) {
-  auto* const scroller = new QScrollArea(&tabs);
-  auto* const page = new FieldColumns(scroller);
+  auto* const page = new FieldColumns(&tabs);
   bind(*page, panel, Follow::AllButVisible);
-  page->setContentsMargins(gap::normal, gap::normal, gap::normal, gap::normal);
+  page->setContentsMargins(gap::large, gap::large, gap::large, gap::large);
   for (forms::TextControl* field : fields) {
     QWidget* const widget = makeWidget(*field, *page);
     const auto* const box = dynamic_cast<forms::TextBox*>(field);
     const bool grows = box != nullptr && box->lines() == forms::TextLines::Multiple;
     grows ? page->addGrowing(widget) : page->add(widget);
   }
-  scroller->setFrameShape(QFrame::NoFrame);
-  scroller->setWidgetResizable(true);
-  scroller->setFocusPolicy(Qt::NoFocus);
-  scroller->setWidget(page);
-  tabs.addTab(scroller, QString());
+  tabs.addTab(scrolled(page, tabs), QString());
 }
 
 }  // namespace

@@ -17,23 +17,22 @@ namespace desktop {
 
 namespace {
 
-constexpr int narrowest = 212;
-constexpr int widest = 420;
+constexpr int narrowestCharacters = 29;
+constexpr int widestCharacters = 60;
 constexpr double heightToWidth = 1.2;  // of a passport photograph, nearly
 
-QFont emphasised(const QFont& font) {
-  QFont large = font;
-  large.setBold(true);
-  large.setPointSizeF(font.pointSizeF() * 1.15);
-  return large;
+// Everything but the weight follows the window's font.
+QFont emphasised() {
+  QFont bold;
+  bold.setBold(true);
+  return bold;
 }
 
 }  // namespace
 
 PhotoPanel::PhotoPanel(registry::FrmMain& form, QWidget* parent)
     : QWidget(parent), form_(form), photograph_(makePhotograph()) {
-  setMinimumWidth(narrowest);
-  setMaximumWidth(widest);
+  setMaximumWidth(characters(*this, widestCharacters));
   auto* const choose = new QPushButton(this);
   bind(*choose, form.Butfoto);
   choose->setIcon(icon("foto"));
@@ -63,7 +62,7 @@ QWidget* PhotoPanel::makePhotograph() {
 QWidget* PhotoPanel::makeAge() {
   auto* const box = new QWidget(this);
   auto* const age = new QLabel(box);
-  age->setFont(emphasised(font()));
+  age->setFont(emphasised());
   bind(*age, form_.txtyaşı);
   summary_ = new QLabel(box);
   summary_->setWordWrap(true);
@@ -97,18 +96,23 @@ QWidget* PhotoPanel::makeNumbers() {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(gap::small);
   grid->setVerticalSpacing(gap::small);
-  int line = 0;
-  for (forms::TextBox* number : {&form_.txtdosyano, &form_.txtfinno}) {
+  const auto addField = [&](forms::TextBox& number, int line, int columns) {
     auto* const field = new QLineEdit(box);
-    bind(*field, *number);
+    bind(*field, number);
     grid->addWidget(captionFor(*field), line, 0);
-    grid->addWidget(field, line++, 1);
-  }
+    grid->addWidget(field, line, 1, 1, columns);
+  };
+  addField(form_.txtdosyano, 0, 2);
+  addField(form_.txtfinno, 1, 1);
   auto* const invoice = new QToolButton(box);
   bind(*invoice, form_.butfatbil);
   invoice->setIcon(icon("invoice"));
-  grid->addWidget(invoice, line - 1, 2);
+  grid->addWidget(invoice, 1, 2);
   return box;
+}
+
+QSize PhotoPanel::minimumSizeHint() const {
+  return QWidget::minimumSizeHint().expandedTo({characters(*this, narrowestCharacters), 0});
 }
 
 void PhotoPanel::resizeEvent(QResizeEvent* event) {

@@ -12,6 +12,7 @@ class PhotoPanel : public QWidget {
   Q_OBJECT
  public:
   PhotoPanel(registry::FrmMain& form, QWidget* parent);
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

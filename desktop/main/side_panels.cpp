@@ -3,14 +3,23 @@
 #include <QVBoxLayout>
 
 #include "desktop/bind/bind_label.h"
+#include "desktop/bind/bind_picture.h"
 #include "desktop/layout.h"
 
 namespace desktop {
 
 namespace {
 
-constexpr int narrowest = 216;
+constexpr int narrowestCharacters = 30;
 constexpr int pictureHeight = 160;
+
+class SidePanels : public QWidget {
+ public:
+  using QWidget::QWidget;
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    return QWidget::minimumSizeHint().expandedTo({characters(*this, narrowestCharacters), 0});
+  }
+};
 
 QVBoxLayout* column(QWidget& box) {
   auto* const layout = new QVBoxLayout(&box);
@@ -40,13 +49,17 @@ QWidget* practice(registry::FrmMain& form, QWidget& parent) {
   auto* const about = new QLabel(box);
   about->setAlignment(Qt::AlignCenter);
   about->setWordWrap(true);
+  about->setForegroundRole(QPalette::PlaceholderText);
   bind(*about, form.Lhakkinda);
-  QWidget* const picture = makeWidget(form.PResim, *box);
-  picture->setMinimumHeight(pictureHeight);
+  auto* const picture = new PictureFrame(box);
+  // Without a picture the day's list takes the room.
+  QObject::connect(picture, &PictureFrame::loaded, picture,
+                   [picture](bool shown) { picture->setFixedHeight(shown ? pictureHeight : 0); });
+  bind(*picture, form.PResim);
   auto* const layout = column(*box);
   layout->setContentsMargins(0, gap::small, 0, gap::small);
   layout->addWidget(about);
-  layout->addWidget(picture, 1);
+  layout->addWidget(picture);
   return box;
 }
 
@@ -66,8 +79,7 @@ QWidget* today(registry::FrmMain& form, QWidget& parent) {
 }  // namespace
 
 QWidget* sidePanels(registry::FrmMain& form, QWidget& parent) {
-  auto* const side = new QWidget(&parent);
-  side->setMinimumWidth(narrowest);
+  auto* const side = new SidePanels(&parent);
   auto* const layout = new QVBoxLayout(side);
   layout->setContentsMargins(gap::normal, gap::large, gap::large, gap::normal);
   layout->setSpacing(gap::normal);

@@ -2,7 +2,6 @@
 
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -39,7 +38,7 @@ class GenericLayout {
     column_->setSpacing(gap::normal);
     buttons_ = new QHBoxLayout;
     buttons_->addStretch(1);
-    window_.setCentralWidget(scrolled(body));
+    window_.setCentralWidget(scrolled(body, window_));
   }
 
   void fill() {
@@ -50,14 +49,6 @@ class GenericLayout {
   }
 
  private:
-  QWidget* scrolled(QWidget* body) {
-    auto* const scroller = new QScrollArea(&window_);
-    scroller->setFrameShape(QFrame::NoFrame);
-    scroller->setWidgetResizable(true);
-    scroller->setWidget(body);
-    return scroller;
-  }
-
   void place(forms::Control& control) {
     if (as<forms::MenuItem>(&control) != nullptr) return;
     if (placeBar(control) || placePanel(control)) return;

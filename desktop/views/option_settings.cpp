@@ -1,10 +1,13 @@
 // The Options screen's settings, grouped in boxes.
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QVBoxLayout>
 
 #include "desktop/bind/bind_label.h"
+#include "desktop/bind/bind_text.h"
 #include "desktop/layout.h"
+#include "desktop/short_line.h"
 #include "desktop/text.h"
 #include "desktop/views/option_view.h"
 
@@ -13,6 +16,7 @@ namespace desktop {
 namespace {
 
 constexpr int shortField = 10;
+constexpr int indentation = 22;  // under the words of a check box
 
 // A box around what belongs together; its first control says by itself what the box is about.
 QVBoxLayout* box(QWidget& page) {
@@ -33,14 +37,26 @@ void addTo(QVBoxLayout& column, forms::Control& control, int indent = 0) {
   column.addLayout(row);
 }
 
-void addShortFields(QVBoxLayout& column, std::initializer_list<forms::TextControl*> fields) {
+QWidget* shortWidget(forms::TextControl& field, QWidget& parent) {
+  if (auto* const box = dynamic_cast<forms::TextBox*>(&field)) {
+    auto* const line = new ShortLine(shortField, &parent);
+    bind(static_cast<QLineEdit&>(*line), *box);
+    return line;
+  }
+  QWidget* const combo = makeWidget(field, parent);
+  static_cast<QComboBox*>(combo)->setMinimumContentsLength(shortField / 2);
+  combo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  return combo;
+}
+
+void addShortFields(QVBoxLayout& column, std::initializer_list<forms::TextControl*> fields, int indent = 0) {
   auto* const grid = new QGridLayout;
+  grid->setContentsMargins(indent, 0, 0, 0);
   grid->setHorizontalSpacing(gap::normal);
   grid->setVerticalSpacing(gap::small);
   int line = 0;
   for (forms::TextControl* field : fields) {
-    QWidget* const widget = makeWidget(*field, *column.parentWidget());
-    widget->setFixedWidth(characters(*widget, shortField));
+    QWidget* const widget = shortWidget(*field, *column.parentWidget());
     grid->addWidget(captionFor(*widget), line, 0);
     grid->addWidget(widget, line++, 1);
   }
@@ -70,15 +86,15 @@ QWidget* settingsPage(shell::FrmOption& form, QWidget& parent) {
   box(*page)->addWidget(languages(form, *page));
   QVBoxLayout* const birthdays = box(*page);
   addTo(*birthdays, form.dghatirlat);
-  addShortFields(*birthdays, {&form.Comgönce});
+  addShortFields(*birthdays, {&form.Comgönce}, indentation);
   QVBoxLayout* const appointments = box(*page);
   addShortFields(*appointments, {&form.txtbtime, &form.txtintapp});
   addTo(*appointments, form.chkrandevuaçılış);
   addTo(*appointments, form.chkrandevukapanış);
   QVBoxLayout* const passwords = box(*page);
   addTo(*passwords, form.acilistasifresor);
-  addTo(*passwords, form.optaçma, gap::large);
-  addTo(*passwords, form.optkısıtlıaç, gap::large);
+  addTo(*passwords, form.optaçma, indentation);
+  addTo(*passwords, form.optkısıtlıaç, indentation);
   addTo(*passwords, form.hesaplardasifre);
   QVBoxLayout* const others = box(*page);
   addTo(*others, form.chkçıkyedek);

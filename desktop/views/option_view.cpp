@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -15,15 +14,6 @@ namespace desktop {
 namespace {
 
 constexpr QSize usualSize{860, 640};
-
-QScrollArea* scrolled(QWidget* page, QWidget& parent) {
-  auto* const scroller = new QScrollArea(&parent);
-  scroller->setFrameShape(QFrame::NoFrame);
-  scroller->setWidgetResizable(true);
-  scroller->setFocusPolicy(Qt::NoFocus);
-  scroller->setWidget(page);
-  return scroller;
-}
 
 QHBoxLayout* endButtons(shell::FrmOption& form, QWidget& parent) {
   auto* const row = new QHBoxLayout;

@@ -2,7 +2,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <set>
 
 #include "tests/platform/dao/store_fixture.h"
