@@ -12,7 +12,8 @@ namespace desktop {
 
 namespace {
 
-constexpr QRgb accent = 0xFF2F73B8;
+constexpr QRgb accentOnLight = 0xFF2F73B8;
+constexpr QRgb accentOnDark = 0xFF4F97DE;  // the frame of the focus has to stand out
 constexpr int darkBelow = 128;
 constexpr double smallestPoints = 10.0;
 
@@ -73,8 +74,8 @@ void applyAppearance(Shade shade) {
   const bool dark = shade == Shade::Dark;
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QPalette palette = dark ? darkPalette() : lightPalette();
-  palette.setColor(QPalette::Highlight, QColor::fromRgb(accent));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Highlight, QColor::fromRgb(dark ? accentOnDark : accentOnLight));
+  palette.setColor(QPalette::HighlightedText, dark ? Qt::black : Qt::white);
   setDisabled(palette, dark ? QColor(0x86, 0x8C, 0x94) : QColor(0x8A, 0x91, 0x99));
   QApplication::setPalette(palette);
   setReadableFont();

@@ -161,6 +161,8 @@ void FieldColumns::placeRow(const Row& row, int line, int column, int columns) {
   const int at = column * gridColumnsPerField;
   const int span = row.width == Width::Full ? gridColumnsPerField * columns - 1 : 1;
   const Qt::Alignment top = row.grows ? Qt::AlignTop : Qt::Alignment();
+  // A wider gap parts the columns.
+  row.caption->setContentsMargins(column > 0 ? gap::large : 0, 0, 0, 0);
   grid_->addWidget(row.caption, line, at, top);
   grid_->addWidget(row.field, line, at + 1, 1, span);
   if (row.grows) grid_->setRowStretch(line, 1);

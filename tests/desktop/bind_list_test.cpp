@@ -1,0 +1,115 @@
+#include "desktop/bind/bind_list.h"
+
+#include "desktop/bind/list_models.h"
+#include "desktop/hint_list.h"
+#include "tests/desktop/desk.h"
+
+namespace {
+
+using namespace desktop;
+
+constexpr int manyRows = 100'000;
+
+struct ListForm : forms::Form {
+  ListForm() : Form("lists") {}
+  forms::ListBox one{*this, "one"};
+  forms::ListBox sorted{*this, "sorted", forms::ListOrder::Sorted};
+  forms::ListBox several{*this, "several", forms::ListOrder::AsAdded, forms::ListChoice::Several};
+  forms::ListView view{*this, "view"};
+};
+
+std::vector<std::string> names(int count) {
+  std::vector<std::string> all;
+  for (int i = 0; i < count; ++i) all.push_back("Ayşe " + std::to_string(i));
+  return all;
+}
+
+TEST(ListBinding, ManyRowsAreNotCopied) {
+  ListForm form;
+  QListView view;
+  bind(view, form.one);
+  form.one.appendItems(names(manyRows));
+  view.show();
+  support::settle();
+  EXPECT_EQ(view.model()->rowCount(), manyRows);
+  EXPECT_EQ(view.model()->index(manyRows - 1, 0).data().toString(), QStringLiteral("Ayşe 99999"));
+  view.scrollToBottom();
+  form.one.clear();
+  EXPECT_EQ(view.model()->rowCount(), 0);
+}
+
+TEST(ListBinding, RowsThatAreAddedLeaveTheMarkWhereItIs) {
+  ListForm form;
+  QListView view;
+  bind(view, form.one);
+  form.one.appendItems(names(3));
+  form.one.setListIndex(1);
+  EXPECT_EQ(view.currentIndex().row(), 1);
+  form.one.appendItems(names(3));
+  EXPECT_EQ(view.currentIndex().row(), 1);
+  EXPECT_EQ(view.model()->rowCount(), 6);
+  form.sorted.addItem("b");
+}
+
+TEST(ListBinding, ASortedListShowsItsRowsInTheirOrder) {
+  ListForm form;
+  QListView view;
+  bind(view, form.sorted);
+  for (const char* text : {"c", "a", "b"}) form.sorted.addItem(text);
+  QString shown;
+  for (int row = 0; row < 3; ++row) shown += view.model()->index(row, 0).data().toString();
+  EXPECT_EQ(shown, QStringLiteral("abc"));
+}
+
+TEST(ListBinding, TheUsersMarkIsTheListsRow) {
+  ListForm form;
+  QListView view;
+  bind(view, form.one);
+  form.one.appendItems(names(3));
+  int clicks = 0;
+  form.one.Click.connect([&] { ++clicks; });
+  view.setCurrentIndex(view.model()->index(2, 0));
+  EXPECT_EQ(form.one.listIndex(), 2);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST(ListBinding, SeveralRowsAreMarkedTogether) {
+  ListForm form;
+  form.several.appendItems(names(4));
+  form.several.setSelected(1, true);
+  QListView view;
+  bind(view, form.several);
+  EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), 1);
+  view.selectionModel()->select(view.model()->index(3, 0), QItemSelectionModel::Select);
+  view.selectionModel()->select(view.model()->index(1, 0), QItemSelectionModel::Deselect);
+  EXPECT_TRUE(form.several.items()[3].selected);
+  EXPECT_FALSE(form.several.items()[1].selected);
+}
+
+TEST(ListBinding, AListViewShowsColumnsAndRows) {
+  ListForm form;
+  QTreeView view;
+  bind(view, form.view);
+  form.view.setColumns({"İsim", "Tarih"});
+  form.view.addRow({.cells = {"Ayşe", "12.03.1991"}});
+  form.view.addRow({.cells = {"Ali"}});
+  EXPECT_EQ(view.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Tarih"));
+  EXPECT_EQ(view.model()->index(0, 1).data().toString(), QStringLiteral("12.03.1991"));
+  EXPECT_EQ(view.model()->index(1, 1).data().toString(), QString());
+  view.setCurrentIndex(view.model()->index(1, 0));
+  EXPECT_EQ(form.view.selectedRow(), 1);
+  form.view.clearRows();
+  EXPECT_EQ(view.model()->rowCount(), 0);
+}
+
+TEST(ListBinding, AnEmptyListSaysWhatToDo) {
+  ListForm form;
+  HintList view;
+  bind(view, form.one);
+  view.resize(200, 80);
+  const QImage empty = view.grab().toImage();
+  form.one.setToolTip("Nobody yet.");
+  EXPECT_NE(view.grab().toImage(), empty);
+}
+
+}  // namespace

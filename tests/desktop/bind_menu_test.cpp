@@ -1,0 +1,142 @@
+#include "desktop/bind/bind_menu.h"
+
+#include <QMenu>
+#include <QSet>
+
+#include "desktop/bind/bind_toolbar.h"
+#include "tests/desktop/desk.h"
+
+namespace {
+
+using namespace desktop;
+using forms::MenuItem;
+using forms::MenuKind;
+
+struct MenuForm : forms::Form {
+  MenuForm() : Form("menus") {
+    file.setCaption("&Dosya");
+    edit.setCaption("&Düzen");
+    open.setCaption("&Aç");
+    save.setCaption("&Ara");
+    copy.setCaption("&Kopyala");
+    save.setShortcut("Ctrl+S");
+    bar.addButton("New", "New");
+    bar.addSeparator();
+    bar.addButton("Save", "Save");
+    bar.addSeparator();
+    bar.addButton("Exit", "Exit");
+  }
+  MenuItem file{*this, "file"};
+  MenuItem open{file, "open"};
+  MenuItem line{file, "line", MenuKind::Separator};
+  MenuItem save{file, "save"};
+  MenuItem edit{*this, "edit"};
+  MenuItem copy{edit, "copy"};
+  forms::Toolbar bar{*this, "bar"};
+  forms::TabStrip tabs{*this, "tabs", {"one", "two"}};
+};
+
+QAction& action(QWidget& window, const char* name) { return *window.findChild<QAction*>(QLatin1String(name)); }
+
+QString visibleButtons(const QToolBar& bar) {
+  QString shown;
+  for (const QAction* each : bar.actions()) {
+    if (each->isVisible()) shown += each->isSeparator() ? QStringLiteral("|") : each->objectName().left(1);
+  }
+  return shown;
+}
+
+TEST(MenuBinding, EntriesFollowTheirControls) {
+  MenuForm form;
+  QMenuBar bar;
+  bindMenus(bar, form);
+  int presses = 0;
+  form.save.Click.connect([&] { ++presses; });
+  QAction& save = action(bar, "save");
+  EXPECT_EQ(save.shortcut(), QKeySequence(QStringLiteral("Ctrl+S")));
+  save.trigger();
+  form.save.setEnabled(false);
+  EXPECT_FALSE(save.isEnabled());
+  save.trigger();
+  EXPECT_EQ(presses, 1);
+  form.save.setChecked(true);
+  EXPECT_TRUE(save.isChecked());
+  form.save.setCaption("&Save");
+  EXPECT_EQ(save.text(), QStringLiteral("&Save"));
+}
+
+TEST(MenuBinding, NoTwoEntriesOfAMenuShareALetter) {
+  MenuForm form;
+  QMenuBar bar;
+  bindMenus(bar, form);
+  EXPECT_EQ(bar.actions()[0]->text(), QStringLiteral("&Dosya"));
+  EXPECT_EQ(bar.actions()[1]->text(), QStringLiteral("D&üzen"));
+  EXPECT_EQ(action(bar, "open").text(), QStringLiteral("&Aç"));
+  EXPECT_EQ(action(bar, "save").text(), QStringLiteral("A&ra"));
+  form.open.setCaption("&Rapor");
+  EXPECT_EQ(action(bar, "save").text(), QStringLiteral("&Ara"));
+}
+
+TEST(MenuBinding, AMenuWithoutEntriesIsNotShown) {
+  MenuForm form;
+  QMenuBar bar;
+  bindMenus(bar, form);
+  form.copy.setVisible(false);
+  EXPECT_FALSE(bar.actions()[1]->isVisible());
+  form.copy.setVisible(true);
+  EXPECT_TRUE(bar.actions()[1]->isVisible());
+  EXPECT_TRUE(bar.actions()[0]->menu()->separatorsCollapsible());
+}
+
+TEST(ToolbarBinding, SeparatorsStandBetweenButtonsOnly) {
+  struct Case {
+    std::vector<const char*> hidden;
+    const char* shown;
+  };
+  const Case cases[] = {{{}, "N|S|E"}, {{"Save"}, "N|E"}, {{"New"}, "S|E"}, {{"Exit"}, "N|S"}, {{"New", "Save"}, "E"}};
+  for (const Case& c : cases) {
+    MenuForm form;
+    QToolBar bar;
+    bind(bar, form.bar);
+    for (const char* key : c.hidden) form.bar.setButtonVisible(key, false);
+    EXPECT_EQ(visibleButtons(bar), QLatin1String(c.shown));
+  }
+}
+
+TEST(ToolbarBinding, ButtonsFollowTheirKeys) {
+  MenuForm form;
+  QToolBar bar;
+  bind(bar, form.bar);
+  std::string pressed;
+  form.bar.ButtonClick.connect([&](std::string_view key) { pressed = key; });
+  QAction& save = action(bar, "Save");
+  save.trigger();
+  EXPECT_EQ(pressed, "Save");
+  form.bar.setButtonToolTip("Save", "Kaydet");
+  form.bar.setButtonEnabled("Save", false);
+  EXPECT_EQ(save.toolTip(), QStringLiteral("Kaydet"));
+  EXPECT_EQ(bar.widgetForAction(&save)->accessibleName(), QStringLiteral("Kaydet"));
+  EXPECT_FALSE(save.isEnabled());
+  const qint64 before = save.icon().cacheKey();
+  form.bar.setButtonImage("Save", "muayenev");
+  EXPECT_NE(save.icon().cacheKey(), before);
+  form.bar.addButton("Late", "New");
+  EXPECT_EQ(visibleButtons(bar), QStringLiteral("N|S|EL"));
+}
+
+TEST(TabBinding, TabsGoBothWays) {
+  MenuForm form;
+  QTabBar bar;
+  bind(bar, form.tabs);
+  int clicks = 0;
+  form.tabs.Click.connect([&] { ++clicks; });
+  form.tabs.setTabCaption("two", "Adres");
+  EXPECT_EQ(bar.tabText(1), QStringLiteral("Adres"));
+  bar.setCurrentIndex(1);
+  EXPECT_EQ(form.tabs.selected(), "two");
+  form.tabs.select("one");
+  EXPECT_EQ(bar.currentIndex(), 0);
+  EXPECT_EQ(clicks, 2);
+}
+
+}  // namespace

@@ -1,0 +1,141 @@
+// The main path through the real windows: register, save, find, change, delete; and the switch of the language.
+#include <QComboBox>
+#include <QListView>
+#include <QToolBar>
+
+#include "desktop/main/name_list.h"
+#include "tests/desktop/desk.h"
+
+namespace {
+
+using support::CardDesk;
+using support::settle;
+using support::type;
+
+struct Card : testing::Test {
+  CardDesk desk;
+
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    settle();
+  }
+  void typeHere(const char* text) { type(*QApplication::focusWidget(), QString::fromUtf8(text)); }
+  void registerPatient(const char* name, const char* birth, const char* sex) {
+    desk.find<QLineEdit>("Txtİsim").setFocus();
+    typeHere(name);
+    press(Qt::Key_Return);
+    typeHere(birth);
+    press(Qt::Key_Return);
+    typeHere(sex);
+    press(Qt::Key_S, Qt::ControlModifier);
+  }
+  void search(const char* typed) {
+    press(Qt::Key_N, Qt::ControlModifier);
+    typeHere(typed);
+    desk.card.Timer1.Tick();
+    settle();
+  }
+};
+
+TEST_F(Card, APatientIsRegisteredFromTheKeyboard) {
+  registerPatient("Ayşe Yıldız", "12.03.1991", "k");
+  EXPECT_TRUE(desk.stored("Ayşe Yıldız"));
+  EXPECT_EQ(desk.find<QLabel>("txtyaşı").text(), QStringLiteral("Yaşı :  35"));
+  EXPECT_EQ(desk.find<QComboBox>("ComCinsiyet").currentIndex(), 0);
+  EXPECT_EQ(desk.find<QWidget>("Panofoto").palette().color(QPalette::Window), QColor(0xFF, 0xC0, 0xC0));
+  EXPECT_FALSE(desk.card.mnukaydet.enabled());
+}
+
+TEST_F(Card, ANameIsFoundByItsFirstLetters) {
+  registerPatient("Ayşe Yıldız", "12.03.1991", "k");
+  registerPatient("", "", "");
+  search("ay");
+  auto& list = desk.find<desktop::NameList>("Lstdat");
+  ASSERT_TRUE(list.isVisible());
+  EXPECT_EQ(list.findChild<QListView*>()->model()->rowCount(), 1);
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  EXPECT_FALSE(list.isVisible());
+  EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QStringLiteral("Ayşe Yıldız"));
+  EXPECT_EQ(desk.find<QLineEdit>("TxtDTarihi").text(), QStringLiteral("12.03.1991"));
+}
+
+TEST_F(Card, AChangeIsSavedAndARecordDeletedAfterAQuestion) {
+  registerPatient("Ayşe Yıldız", "1991", "k");
+  desk.find<QComboBox>("ComMeslek").setFocus();
+  typeHere("Öğretmen");
+  EXPECT_TRUE(desk.card.mnukaydet.enabled());
+  press(Qt::Key_S, Qt::ControlModifier);
+  ASSERT_TRUE(desk.stored("Ayşe Yıldız"));
+  EXPECT_EQ(desk.station.stores.personal.IDCard.Fields("Profession").text(), "Öğretmen");
+  desk.answers.expect(QMessageBox::No);
+  desk.find<QAction>("Delete").trigger();
+  EXPECT_TRUE(desk.stored("Ayşe Yıldız"));
+  desk.answers.expect(QMessageBox::Yes);
+  desk.find<QAction>("Delete").trigger();
+  EXPECT_FALSE(desk.stored("Ayşe Yıldız"));
+  EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QString());
+  EXPECT_TRUE(desk.answers.allAsked());
+}
+
+TEST_F(Card, AnAgeIsAskedForWhereTheBirthIsUnknown) {
+  desk.find<QLineEdit>("Txtİsim").setFocus();
+  typeHere("Ali");
+  press(Qt::Key_Return);
+  EXPECT_TRUE(desk.find<QLineEdit>("Txtyaş").isHidden());
+  press(Qt::Key_Return);
+  auto& age = desk.find<QLineEdit>("Txtyaş");
+  ASSERT_TRUE(age.isVisible());
+  EXPECT_TRUE(age.hasFocus());
+  typeHere("35");
+  press(Qt::Key_Return);
+  EXPECT_EQ(desk.find<QLineEdit>("TxtDTarihi").text(), QStringLiteral("1991"));
+  EXPECT_TRUE(age.isHidden());
+}
+
+TEST_F(Card, TheLanguageChangesWhereItStands) {
+  const auto words = [&] {
+    return QStringList{desk.find<QAction>("mnukaydet").text().remove(QLatin1Char('&')),
+                       desk.find<QAction>("Save").toolTip(), desk.find<QTabBar>("TabStrip1").tabText(1),
+                       desk.find<QLineEdit>("TxtAnaAdı").accessibleName()};
+  };
+  EXPECT_EQ(words(), (QStringList{"Kaydet", "Kaydet", "Adres", "Anne Adı"}));
+  desk.station.ayarYaz("Language", "eng");
+  desk.card.dilDegisti();
+  EXPECT_EQ(words(), (QStringList{"Save", "Save", "Address", "Mother's Name"}));
+}
+
+// Every caption is as wide as its words need, in both languages and at the smallest size.
+TEST_F(Card, NothingIsCutOff) {
+  for (const char* language : {"tr", "eng"}) {
+    desk.station.ayarYaz("Language", language);
+    desk.card.dilDegisti();
+    desk.window().resize(1024, 700);
+    for (const forms::Tab& tab : desk.card.TabStrip1.tabs()) {
+      desk.card.TabStrip1.select(tab.key);
+      settle();
+      for (const QLabel* label : desk.window().findChildren<QLabel*>()) {
+        if (!label->isVisible() || label->buddy() == nullptr) continue;
+        EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+      }
+    }
+  }
+  EXPECT_EQ(desk.window().size(), QSize(1024, 700));
+}
+
+TEST_F(Card, ThePhotoPanelTellsItsSize) {
+  const std::string path = desk.folder / "photo.png";
+  QImage(40, 80, QImage::Format_RGB32).save(desktop::qs(path));
+  desk.card.txtfoto.setText(path);
+  const forms::Picture::Frame frame = desk.card.ImgFoto.frame();
+  EXPECT_GT(frame.height, 0);
+  EXPECT_EQ(frame.height, desk.find<QWidget>("ImgFoto").height());
+}
+
+TEST_F(Card, TheSplittersPlaceIsKept) {
+  auto& splitter = *desk.window().findChild<QSplitter*>();
+  desk.card.Lresim.setCaption("4500");
+  EXPECT_EQ(splitter.sizes().front(), 300);
+}
+
+}  // namespace

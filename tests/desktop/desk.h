@@ -1,0 +1,125 @@
+// A desk with real windows: a station on a folder of its own, the toolkit's host, and hands that type.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QTest>
+#include <deque>
+#include <memory>
+
+#include "app/start_up.h"
+#include "desktop/qt_host.h"
+#include "desktop/text.h"
+#include "platform/settings/backend.h"
+#include "shell/text_lookup.h"
+#include "tests/support/practice.h"
+#include "tests/support/temporary_folder.h"
+
+namespace support {
+
+// Everything that was posted has happened, and what that posted.
+inline void settle() {
+  for (int pass = 0; pass < 5; ++pass) {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+  }
+}
+
+// Types a text as a keyboard does; QTest knows Latin letters only.
+inline void type(QWidget& widget, const QString& text) {
+  for (const QChar letter : text) {
+    const int key = letter.toUpper().unicode();
+    for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(kind, key, Qt::NoModifier, QString(letter));
+      QCoreApplication::sendEvent(&widget, &event);
+    }
+  }
+}
+
+inline void showActive(QWidget& window) {
+  window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+// Presses the next buttons of the message boxes to come, and keeps what they said.
+class Answers : public QObject {
+ public:
+  Answers() { qApp->installEventFilter(this); }
+  void expect(QMessageBox::StandardButton button) { buttons_.push_back(button); }
+  [[nodiscard]] bool allAsked() const { return buttons_.empty(); }
+  QStringList asked;
+  std::function<void(QMessageBox&)> look;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* const box = qobject_cast<QMessageBox*>(watched);
+    if (box == nullptr || event->type() != QEvent::Show) return false;
+    QMetaObject::invokeMethod(box, [this, box] { answer(*box); }, Qt::QueuedConnection);
+    return false;
+  }
+
+ private:
+  void answer(QMessageBox& box) {
+    asked << box.text();
+    if (look) look(box);
+    if (buttons_.empty()) {
+      ADD_FAILURE() << "nobody expected: " << box.text().toStdString();
+      return box.reject();
+    }
+    const auto button = buttons_.front();
+    buttons_.pop_front();
+    box.button(button)->click();
+  }
+
+  std::deque<QMessageBox::StandardButton> buttons_;
+};
+
+struct WindowDesk {
+  explicit WindowDesk(std::string_view language = "tr", std::string_view program = "General Medicine")
+      : settings(std::make_unique<settings::MemoryBackend>()),
+        screens(app::screens()),
+        station({host, clock, settings, screens}, folder.path(), program) {
+    station.ayarYaz("Language", language);
+    host.setWords([this](std::string_view key) { return shell::metinbul(station, key); });
+  }
+
+  TemporaryFolder folder;
+  desktop::QtHost host{desktop::programViews()};
+  FixedClock clock;
+  settings::Settings settings;
+  shell::ScreenDirectory screens;
+  shell::Station station;
+  Answers answers;
+};
+
+// The card, loaded and shown.
+struct CardDesk : WindowDesk {
+  explicit CardDesk(std::string_view language = "tr") : WindowDesk(language), card(station) {
+    card.Load();
+    card.windowState = forms::WindowState::Normal;
+    host.show(card);
+    settle();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+  }
+  ~CardDesk() { card.observer = nullptr; }
+
+  [[nodiscard]] QWidget& window() { return *host.windowOf(card); }
+  template <class Widget>
+  Widget& find(std::string_view control) {
+    auto* const found = window().findChild<Widget*>(desktop::qs(control));
+    if (found == nullptr) throw std::runtime_error("no widget " + std::string(control));
+    return *found;
+  }
+  [[nodiscard]] bool stored(std::string_view name) {
+    dao::Recordset& cards = station.stores.personal.IDCard;
+    return cards.Seek("=", name).ok() && !cards.NoMatch();
+  }
+
+  registry::FrmMain card;
+};
+
+}  // namespace support

@@ -1,0 +1,96 @@
+#include <QImage>
+#include <QInputDialog>
+
+#include "tests/desktop/desk.h"
+
+namespace {
+
+using support::WindowDesk;
+
+TEST(Host, QuestionsAreAnsweredInTheUsersLanguage) {
+  struct Case {
+    const char* language;
+    const char* yes;
+    const char* no;
+  };
+  for (const Case& c : {Case{"tr", "Evet", "Hayır"}, Case{"eng", "Yes", "No"}}) {
+    WindowDesk desk(c.language);
+    desk.answers.look = [&](QMessageBox& box) {
+      EXPECT_EQ(desktop::withoutMnemonic(box.button(QMessageBox::Yes)->text()), QString::fromUtf8(c.yes));
+      EXPECT_EQ(desktop::withoutMnemonic(box.button(QMessageBox::No)->text()), QString::fromUtf8(c.no));
+      EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+      EXPECT_EQ(box.escapeButton(), box.button(QMessageBox::No));
+    };
+    desk.answers.expect(QMessageBox::Yes);
+    const auto answer = desk.host.messageBox(
+        {.text = "one\n\rtwo", .title = "t", .buttons = host::Buttons::YesNo, .icon = host::Icon::Question});
+    EXPECT_EQ(answer, host::Answer::Yes);
+    EXPECT_EQ(desk.answers.asked, QStringList{QStringLiteral("one\ntwo")});
+  }
+}
+
+TEST(Host, TextsOfPeopleAreNoMarkup) {
+  WindowDesk desk;
+  desk.answers.look = [](QMessageBox& box) { EXPECT_EQ(box.textFormat(), Qt::PlainText); };
+  desk.answers.expect(QMessageBox::Ok);
+  desk.host.runtimeError({platform::Fault::Other, "<b>IDCard</b>"});
+}
+
+TEST(Host, AModalFormReturnsWhenItIsClosed) {
+  WindowDesk desk;
+  struct Dialog : forms::Form {
+    Dialog() : Form("dialog") {}
+    forms::TextBox field{*this, "field"};
+  } dialog;
+  desk.host.later([&] {
+    QWidget* const window = desk.host.windowOf(dialog);
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(window->isModal());
+    EXPECT_NE(window->findChild<QLineEdit*>(QStringLiteral("field")), nullptr);
+    desk.host.close(dialog);
+  });
+  desk.host.showModal(dialog);
+  EXPECT_EQ(desk.host.windowOf(dialog), nullptr);
+  EXPECT_FALSE(dialog.field.observer);
+}
+
+TEST(Host, AFormThatWasNeverShownStillUnloads) {
+  WindowDesk desk;
+  struct Unshown : forms::Form {
+    Unshown() : Form("unshown") {}
+    void Unload() override { ++unloaded; }
+    int unloaded = 0;
+  } form;
+  desk.host.close(form);
+  EXPECT_EQ(form.unloaded, 1);
+}
+
+TEST(Host, APicturesSizeIsReadFromItsHeader) {
+  WindowDesk desk;
+  const std::string path = desk.folder / "photo.png";
+  QImage(30, 20, QImage::Format_RGB32).save(desktop::qs(path));
+  const auto size = desk.host.pictureSize(path);
+  ASSERT_TRUE(size.has_value());
+  EXPECT_EQ(size->width, 30);
+  EXPECT_EQ(size->height, 20);
+  EXPECT_FALSE(desk.host.pictureSize(desk.folder / "missing.png").has_value());
+}
+
+TEST(Host, KeystrokesReachTheFocusedField) {
+  WindowDesk desk;
+  QLineEdit edit;
+  support::showActive(edit);
+  edit.setFocus();
+  support::type(edit, QStringLiteral("bir"));
+  edit.selectAll();
+  desk.host.sendKeys("+{DELETE}");
+  EXPECT_EQ(edit.text(), QString());
+  desk.host.sendKeys("+{INSERT}");
+  EXPECT_EQ(edit.text(), QStringLiteral("bir"));
+  desk.host.sendKeys("^z");
+  EXPECT_EQ(edit.text(), QString());
+  desk.host.sendKeys("x");
+  EXPECT_EQ(edit.text(), QStringLiteral("x"));
+}
+
+}  // namespace

@@ -1,0 +1,127 @@
+// Every control of every screen has its widget, its words in both languages, and a name for a screen reader.
+#include <QAbstractButton>
+#include <QAction>
+#include <set>
+
+#include "platform/forms/button.h"
+#include "platform/forms/list_control.h"
+#include "platform/forms/menu.h"
+#include "platform/forms/rich_text_box.h"
+#include "registry/frm_birthday.h"
+#include "shell/frm_pass.h"
+#include "tests/desktop/desk.h"
+
+namespace {
+
+using support::WindowDesk;
+
+// State that never shows.
+const std::set<std::string> neverShown{"TxtEskiİsim", "txtkey",  "txtfoto", "idk",    "Netsıra",
+                                       "Lresim",      "lblpass", "lblsifre", "LblDil"};
+// Containers and pictures without words of their own: what stands in them says what they are.
+const std::set<std::string> withoutWords{"Panofoto", "panoresim", "sbDurum", "tbToolBar", "Timer1", "LŞifbilgi"};
+
+bool isLine(const forms::Control& control) {
+  const auto* const item = dynamic_cast<const forms::MenuItem*>(&control);
+  return item != nullptr && item->kind() == forms::MenuKind::Separator;
+}
+
+bool isLabel(const forms::Control& control) { return dynamic_cast<const forms::Label*>(&control) != nullptr; }
+
+void checkControl(const QWidget& window, const forms::Control& control) {
+  const QString name = desktop::qs(control.name());
+  const QObject* const view = window.findChild<QObject*>(name);
+  ASSERT_NE(view, nullptr) << control.name();
+  if (isLine(control) || isLabel(control) || withoutWords.contains(control.name())) return;
+  EXPECT_FALSE(control.caption().empty() && control.toolTip().empty()) << control.name();
+  if (const auto* widget = qobject_cast<const QWidget*>(view)) {
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << control.name();
+    EXPECT_FALSE(widget->accessibleName().contains(QLatin1Char('&'))) << control.name();
+  }
+}
+
+void checkToolbar(const QWidget& window, const forms::Toolbar& toolbar) {
+  for (const forms::ToolButton& button : toolbar.buttons()) {
+    if (button.kind == forms::ButtonKind::Separator) continue;
+    const auto* const action = window.findChild<QAction*>(desktop::qs(button.key));
+    ASSERT_NE(action, nullptr) << button.key;
+    EXPECT_FALSE(action->toolTip().isEmpty()) << button.key;
+    EXPECT_FALSE(action->icon().isNull()) << button.key;
+  }
+}
+
+void checkForm(WindowDesk& desk, forms::Form& form) {
+  SCOPED_TRACE(form.name());
+  desk.host.show(form);
+  support::settle();
+  const QWidget* const window = desk.host.windowOf(form);
+  ASSERT_NE(window, nullptr);
+  for (const forms::Control* control : form.controls()) {
+    if (neverShown.contains(control->name())) continue;
+    checkControl(*window, *control);
+    if (const auto* toolbar = dynamic_cast<const forms::Toolbar*>(control)) checkToolbar(*window, *toolbar);
+  }
+  desk.host.close(form);
+  support::settle();
+}
+
+class Screens : public testing::TestWithParam<const char*> {};
+
+TEST_P(Screens, EveryControlHasItsWidgetAndItsWords) {
+  WindowDesk desk(GetParam());
+  registry::FrmMain card(desk.station);
+  card.Load();
+  for (const auto& [name, maker] : desk.screens.all()) {
+    const auto screen = maker(desk.station);
+    screen->Load();
+    checkForm(desk, *screen);
+  }
+  shell::FrmPass password(desk.station);
+  password.Load();
+  checkForm(desk, password);
+  registry::FrmBirthday birthdays(desk.station);
+  birthdays.Load();
+  checkForm(desk, birthdays);
+  checkForm(desk, card);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Screens, testing::Values("tr", "eng"));
+
+TEST(GenericView, AnyFormGetsAWindow) {
+  WindowDesk desk;
+  struct Any : forms::Form {
+    Any() : Form("frmany") {
+      for (forms::Control* control : controls()) control->setCaption(control->name());
+    }
+    forms::MenuItem menu{*this, "menu"};
+    forms::MenuItem entry{menu, "entry"};
+    forms::Toolbar tools{*this, "tools"};
+    forms::TabStrip tabs{*this, "tabs", {"a"}};
+    forms::Panel panel{*this, "panel"};
+    forms::TextBox line{*this, "line"};
+    forms::TextBox page{*this, "page", forms::TextLines::Multiple};
+    forms::ComboBox combo{*this, "combo"};
+    forms::CheckBox box{*this, "box"};
+    forms::OptionButton option{*this, "option", "o"};
+    forms::ListBox list{*this, "list"};
+    forms::ListView table{*this, "table"};
+    forms::RichTextBox rich{*this, "rich"};
+    forms::Picture picture{*this, "picture"};
+    forms::ProgressBar progress{*this, "progress"};
+    forms::ScrollBar scroll{*this, "scroll"};
+    forms::Label label{*this, "label"};
+    forms::StatusBar status{*this, "status", 2};
+    forms::Timer timer{*this, "timer"};
+    forms::CommandButton close{*this, "close"};
+  } form;
+  desk.host.show(form);
+  for (const forms::Control* control : form.controls()) {
+    EXPECT_NE(desk.host.windowOf(form)->findChild<QObject*>(desktop::qs(control->name())), nullptr) << control->name();
+  }
+  form.page.setVisible(false);
+  support::settle();
+  EXPECT_TRUE(desk.host.windowOf(form)->findChild<QWidget*>(QStringLiteral("page"))->isHidden());
+  desk.host.close(form);
+}
+
+}  // namespace
