@@ -12,7 +12,8 @@ namespace app {
 
 namespace {
 
-constexpr int splashMilliseconds = 400;
+// Long enough to be drawn: nobody waits for a picture.
+constexpr int splashMilliseconds = 1;
 
 // Restricted opening: the card and the name list stay usable, the tools and the examination do not.
 void sp4(registry::FrmMain& main) {

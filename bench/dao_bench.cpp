@@ -17,6 +17,7 @@
 #include "platform/dao/database.h"
 #include "platform/dao/engine_functions.h"
 #include "platform/dao/prefix_search.h"
+#include "platform/text/utf8.h"
 
 namespace {
 
@@ -291,23 +292,14 @@ std::size_t prefixList(const Database& store, const std::string& typed) {
   return reader.rows().size();
 }
 
-void plainWalk(Database& store, const std::string& typed, std::size_t characters) {
+void plainWalk(Database& store, const std::string& typed, std::ptrdiff_t characters) {
   Recordset cards = need(store.OpenRecordset("IDCard"), "OpenRecordset");
   const std::string wanted = folded(typed, Fold::Turkish);
   std::size_t found = 0;
   const double time = timed([&] {
     for (; !cards.Eof(); need(cards.MoveNext(), "MoveNext")) {
-      const std::string_view name = cards.Fields("Name").view();
-      std::size_t end = 0;
-      for (std::size_t left = characters;
-           end < name.size() && (left > 0 || (name[end] & 0xC0) == 0x80); ++end) {
-        if ((name[end] & 0xC0) != 0x80) --left;
-        if ((end + 1 < name.size()) && left == 0 && (name[end + 1] & 0xC0) != 0x80) {
-          ++end;
-          break;
-        }
-      }
-      found += folded(name.substr(0, end), Fold::Turkish) == wanted;
+      const std::string start = text::left(cards.Fields("Name").view(), characters);
+      found += folded(start, Fold::Turkish) == wanted;
     }
   });
   std::printf("plain walk for \"%s\": %.0f ms, %zu names\n", typed.c_str(), time, found);

@@ -70,7 +70,7 @@ constexpr std::array<shell::FieldRow, 30> fieldRows{{
     {.control = controlOf<&FrmMain::txtfoto>, .column = "Photo", .captionKey = "fotograf"},
     {.control = controlOf<&FrmMain::txtkey>, .column = "Key", .captionKey = "isimgizle"},
     {.control = controlOf<&FrmMain::txtdosyano>, .column = "Option2", .captionKey = "dosyano"},
-    {.control = controlOf<&FrmMain::txtfinno>, .column = "Option3", .captionKey = "kayitno"},
+    {.control = controlOf<&FrmMain::txtfinno>, .column = "Option3", .captionKey = "Numara"},
 }};
 
 constexpr std::array<ListField, 7> listRows{{

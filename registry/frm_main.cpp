@@ -79,6 +79,7 @@ void FrmMain::Load() {
       .ignore();
   shell::menuikon(*this);
   sbDurum.setPanel(6, istasyon.UygYolu);
+  Txtİsim.setFocus();
 }
 
 void FrmMain::Activate() {

@@ -1,5 +1,6 @@
 #include "shell/frm_option.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/text/number.h"
@@ -14,15 +15,16 @@ namespace {
 
 constexpr std::array reminderDays{"0", "1", "3", "5", "10", "15", "20", "30"};
 
-// Which setting each box and field stands for, in the order of saving; the password boxes come
-// between.
+// Which setting each box stands for.
 struct BoxSetting {
   std::string_view key;
   forms::CheckBox FrmOption::*box;
 };
-constexpr std::array<BoxSetting, 7> boxes{{
+constexpr std::array<BoxSetting, 2> passwordBoxes{{
     {"oppas", &FrmOption::acilistasifresor},
     {"accpas", &FrmOption::hesaplardasifre},
+}};
+constexpr std::array<BoxSetting, 5> otherBoxes{{
     {"BDrem", &FrmOption::dghatirlat},
     {"openapp", &FrmOption::chkrandevuaçılış},
     {"closeapp", &FrmOption::chkrandevukapanış},
@@ -76,8 +78,11 @@ void FrmOption::ayarlariBagla() {
 
 void FrmOption::ayarlariOku() {
   (istasyon.ayar("Language") == "tr" ? OptTR : OptGB).setValue(true);
-  for (const BoxSetting& row : boxes)
+  const auto read = [this](const BoxSetting& row) {
     (this->*row.box).setValue(text::Val(istasyon.ayar(row.key, "0")) != 0);
+  };
+  std::ranges::for_each(passwordBoxes, read);
+  std::ranges::for_each(otherBoxes, read);
   (istasyon.ayar("nopen", "1") == "False" ? optkısıtlıaç : optaçma).setValue(true);
   Comgönce.setText(istasyon.ayar("remday", "0"));
   txtbtime.setText(istasyon.ayar("btime", "12:00"));
@@ -86,12 +91,15 @@ void FrmOption::ayarlariOku() {
 }
 
 void FrmOption::AyarKaydet() {
+  const auto write = [this](const BoxSetting& row) {
+    istasyon.ayarYaz(row.key, (this->*row.box).value() ? "1" : "0");
+  };
   istasyon.ayarYaz("btime", txtbtime.text());
   istasyon.ayarYaz("intapp", txtintapp.text());
+  std::ranges::for_each(passwordBoxes, write);
   istasyon.ayarYaz("nopen", optaçma.value() ? "True" : "False");
   istasyon.ayarYaz("remday", Comgönce.text());
-  for (const BoxSetting& row : boxes)
-    istasyon.ayarYaz(row.key, (this->*row.box).value() ? "1" : "0");
+  std::ranges::for_each(otherBoxes, write);
   if (istasyon.kart != nullptr) istasyon.kart->sigaraGirisi();
   if (LblDil.caption() != istasyon.ayar("Language")) dilDegistir();
 }

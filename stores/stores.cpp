@@ -48,6 +48,14 @@ dao::Status openHandles(Store& store, const std::array<Handle<Store>, N>& handle
   return {};
 }
 
+// Keys made by the collation rules of another release would be missed by Seek; they are made anew. A store that cannot
+// be written stays as it is.
+dao::Status keepOrder(dao::Database& database) {
+  const auto current = database.orderIsCurrent();
+  if (!current) return current.error();
+  return *current || database.isReadOnly() ? dao::Status() : database.rebuildOrder();
+}
+
 template <class Store, std::size_t N>
 dao::Status openStore(Store& store, const std::string& path,
                       const std::array<Handle<Store>, N>& handles, Schema schema) {
@@ -55,7 +63,8 @@ dao::Status openStore(Store& store, const std::string& path,
   auto database = dao::OpenDatabase(path);
   if (!database) return database.error();
   store.database = std::move(*database);
-  return openHandles(store, handles, schema);
+  const dao::Status ordered = keepOrder(store.database);
+  return ordered ? openHandles(store, handles, schema) : ordered;
 }
 
 // Opens, and on any failure creates what is missing and opens again.

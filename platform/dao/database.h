@@ -62,8 +62,8 @@ struct IndexInfo {
   Unique unique = Unique::No;
 };
 
-// An open store. Closing it (or destroying the last handle) ends the work of its recordsets: they
-// answer NoCurrent.
+// An open store; copies are handles of the same one. After Close() its recordsets answer NoCurrent.
+// Without it the file stays open as long as a handle or a recordset is left.
 class Database {
  public:
   Database() = default;  // closed
@@ -134,8 +134,8 @@ struct RepairReport {
   std::string findings;  // what the check found before the repair, a line each
 };
 
-// Checks a store that is closed everywhere and makes its indexes anew when something is wrong.
-// Damaged when the file is not sound after that either.
+// Checks a store that is closed everywhere; when something is wrong, makes its indexes anew, and if
+// that is not enough all its keys. Damaged when the file is not sound after that either.
 [[nodiscard]] Result<RepairReport> RepairDatabase(const std::filesystem::path& path);
 
 }  // namespace dao

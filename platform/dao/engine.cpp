@@ -21,6 +21,8 @@ std::int64_t markOf(Order order) {
   return order == Order::Turkish ? kTurkishMark : kGeneralMark;
 }
 
+constexpr std::uintmax_t kSmallestPage = 512;
+
 bool isMarkedReadOnly(const std::filesystem::path& path) {
   using std::filesystem::perms;
   constexpr perms kWrite = perms::owner_write | perms::group_write | perms::others_write;
@@ -33,7 +35,10 @@ Status fileFault(const std::filesystem::path& path) {
   const auto status = std::filesystem::status(path, error);
   const std::string name = path.filename().string();
   if (!std::filesystem::exists(status)) return {Fault::Missing, name + ": there is no such file."};
-  if (!std::filesystem::is_regular_file(status))
+  const bool regular = std::filesystem::is_regular_file(status);
+  const auto size = regular ? std::filesystem::file_size(path, error) : 0;
+  // The engine would take a few bytes for an empty file.
+  if (!regular || (size > 0 && size < kSmallestPage))
     return {Fault::Damaged, name + ": this is not a store file."};
   return {};
 }
@@ -51,7 +56,12 @@ Engine::Engine(const std::filesystem::path& path, Order order) : path_(path), or
 Result<std::shared_ptr<Engine>> Engine::open(const std::filesystem::path& path,
                                              const OpenOptions& options) {
   if (Status fault = fileFault(path); !fault) return std::unexpected(fault);
-  auto engine = std::make_shared<Engine>(std::filesystem::absolute(path), options.emptyFileOrder);
+  std::error_code error;
+  const auto whole = std::filesystem::absolute(path, error);
+  if (error)
+    return std::unexpected(
+        Status(Fault::Missing, path.filename().string() + ": there is no such file."));
+  auto engine = std::make_shared<Engine>(whole, options.emptyFileOrder);
   Status status = engine->connect(options);
   if (status) status = engine->configure(options);
   if (status) status = engine->readMarks(options);
@@ -65,6 +75,9 @@ Status Engine::connect(const OpenOptions& options) {
   if (sqlite3_open_v2(path_.c_str(), &handle_, flags, nullptr) != SQLITE_OK)
     return fault(path_.filename().string());
   sqlite3_extended_result_codes(handle_, 1);
+  // A quoted name that is no field is a fault, never a text.
+  sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
   sqlite3_busy_timeout(handle_, static_cast<int>(options.busyTimeout.count()));
   return {};
 }
@@ -168,6 +181,8 @@ Result<std::int64_t> Engine::run(std::string_view sql, std::string_view subject,
 }
 
 Status Engine::begin() {
+  if (isReadOnly())
+    return {Fault::ReadOnly, path_.filename().string() + ": the file cannot be written."};
   if (depth_ == 0) {
     doomed_ = false;
     if (auto begun = run("BEGIN IMMEDIATE", path_.filename().string()); !begun)

@@ -68,7 +68,9 @@ Status engineFault(sqlite3* connection, std::string_view subject) {
   const Meaning* meaning = meaningOf(extended, connection ? sqlite3_system_errno(connection) : 0);
   std::string text = std::string(subject) + ": ";
   if (meaning) return {meaning->fault, text + meaning->text};
-  return {Fault::Other, text + (connection ? sqlite3_errmsg(connection) : "unknown failure")};
+  const std::string_view message = connection ? sqlite3_errmsg(connection) : "unknown failure";
+  const Fault fault = message.starts_with("no such") ? Fault::Missing : Fault::Other;
+  return {fault, text.append(message)};
 }
 
 }  // namespace dao

@@ -106,10 +106,9 @@ Status CompactDatabase(const std::filesystem::path& from, const std::filesystem:
   std::error_code ignored;
   if (std::filesystem::exists(to, ignored))
     return {Fault::Exists, nameOf(to) + ": the file is there already."};
-  auto engine = Engine::open(from, {.access = Access::ReadOnly});
+  auto engine = Engine::open(from, {});
   if (!engine) return engine.error();
-  const auto done =
-      (*engine)->run("VACUUM INTO ?", nameOf(from), {std::filesystem::absolute(to).string()});
+  const auto done = (*engine)->run("VACUUM INTO ?", nameOf(from), {to.string()});
   if (!done) return removing(to, done.error());
   return flushed(to);
 }
@@ -122,17 +121,16 @@ Status Database::integrityCheck() {
 }
 
 Result<RepairReport> RepairDatabase(const std::filesystem::path& path) {
-  auto engine = Engine::open(path, {});
-  if (!engine) return std::unexpected(engine.error());
-  const auto before = findings(**engine);
-  if (!before) return std::unexpected(before.error());
-  if (before->empty()) return RepairReport{};
-  if (const auto done = (*engine)->run("REINDEX", nameOf(path)); !done)
-    return std::unexpected(done.error());
-  const auto after = findings(**engine);
-  if (!after) return std::unexpected(after.error());
-  if (!after->empty()) return std::unexpected(damaged(path, *after));
-  return RepairReport{true, *before};
+  auto opened = Engine::open(path, {});
+  if (!opened) return std::unexpected(opened.error());
+  Database store(*opened);
+  const Status before = store.integrityCheck();
+  if (before) return RepairReport{};
+  // A remedy that fails leaves the file to the next one, and to the check that has the last word.
+  (void)(*opened)->run("REINDEX", nameOf(path));
+  if (!store.integrityCheck()) store.rebuildOrder().ignore();
+  if (Status after = store.integrityCheck(); !after) return std::unexpected(std::move(after));
+  return RepairReport{true, before.text()};
 }
 
 }  // namespace dao

@@ -1,5 +1,6 @@
 #include "platform/richtext/code_pages.h"
 
+#include <unicode/ucnv_cb.h>
 #include <unicode/unistr.h>
 
 #include <algorithm>
@@ -81,6 +82,17 @@ char32_t symbolOf(unsigned char byte) {
   return byte > 0x7F ? 0xF000U + byte : byte;
 }
 
+// Instead of ICU's own substitutes, which are control characters in some pages. It is also called
+// when a converter starts, ends or is copied.
+void writeReplacement(const void* /*context*/, UConverterToUnicodeArgs* arguments,
+                      const char* /*bytes*/, int32_t /*size*/, UConverterCallbackReason reason,
+                      UErrorCode* error) {
+  if (reason > UCNV_IRREGULAR) return;
+  constexpr UChar kReplacement = 0xFFFD;
+  *error = U_ZERO_ERROR;
+  ucnv_cbToUWriteUChars(arguments, &kReplacement, 1, 0, error);
+}
+
 const NamedPage& pageOf(int codePage) {
   const auto* page = std::ranges::find(kPages, codePage, &NamedPage::number);
   if (page != kPages.end()) return *page;
@@ -116,9 +128,11 @@ UConverter* CodePages::converter(int codePage) {
   if (known) return known.get();
   UErrorCode error = U_ZERO_ERROR;
   known.reset(ucnv_open(page.name, &error));
-  if (U_SUCCESS(error)) return known.get();
-  error = U_ZERO_ERROR;
-  known.reset(ucnv_open("ISO-8859-1", &error));
+  if (U_FAILURE(error)) {
+    error = U_ZERO_ERROR;
+    known.reset(ucnv_open("ISO-8859-1", &error));
+  }
+  ucnv_setToUCallBack(known.get(), writeReplacement, nullptr, nullptr, nullptr, &error);
   return known.get();
 }
 

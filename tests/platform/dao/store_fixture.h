@@ -93,9 +93,11 @@ class StoreTest : public testing::Test {
  protected:
   explicit StoreTest(Order order = Order::General) : path_(folder_ / "Personal.mdb") {
     store_ = CreateDatabase(path_, order).value();
+    auto transaction = store_.beginTransaction().value();
     for (const TableDef& table : {kCards, kFinanciers, kDrugs, kExams, kAppointments}) {
       EXPECT_TRUE(store_.appendTable(table));
     }
+    EXPECT_TRUE(transaction.commit());
   }
 
   Recordset table(std::string_view name) { return store_.OpenRecordset(name).value(); }

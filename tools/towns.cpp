@@ -1,0 +1,98 @@
+// The provincial towns, the largest ones first, with their telephone codes.
+#include <array>
+
+#include "tools/word_lists.h"
+
+namespace tools {
+
+namespace {
+
+constexpr auto rows = std::to_array<Town>({{"İstanbul", "212"},
+                                           {"Ankara", "312"},
+                                           {"İzmir", "232"},
+                                           {"Bursa", "224"},
+                                           {"Antalya", "242"},
+                                           {"Konya", "332"},
+                                           {"Adana", "322"},
+                                           {"Şanlıurfa", "414"},
+                                           {"Gaziantep", "342"},
+                                           {"Kocaeli", "262"},
+                                           {"Mersin", "324"},
+                                           {"Diyarbakır", "412"},
+                                           {"Hatay", "326"},
+                                           {"Manisa", "236"},
+                                           {"Kayseri", "352"},
+                                           {"Samsun", "362"},
+                                           {"Balıkesir", "266"},
+                                           {"Kahramanmaraş", "344"},
+                                           {"Van", "432"},
+                                           {"Aydın", "256"},
+                                           {"Denizli", "258"},
+                                           {"Sakarya", "264"},
+                                           {"Tekirdağ", "282"},
+                                           {"Muğla", "252"},
+                                           {"Eskişehir", "222"},
+                                           {"Mardin", "482"},
+                                           {"Malatya", "422"},
+                                           {"Trabzon", "462"},
+                                           {"Erzurum", "442"},
+                                           {"Ordu", "452"},
+                                           {"Afyonkarahisar", "272"},
+                                           {"Sivas", "346"},
+                                           {"Adıyaman", "416"},
+                                           {"Tokat", "356"},
+                                           {"Zonguldak", "372"},
+                                           {"Elazığ", "424"},
+                                           {"Batman", "488"},
+                                           {"Kütahya", "274"},
+                                           {"Çanakkale", "286"},
+                                           {"Osmaniye", "328"},
+                                           {"Çorum", "364"},
+                                           {"Ağrı", "472"},
+                                           {"Giresun", "454"},
+                                           {"Isparta", "246"},
+                                           {"Aksaray", "382"},
+                                           {"Yozgat", "354"},
+                                           {"Muş", "436"},
+                                           {"Edirne", "284"},
+                                           {"Düzce", "380"},
+                                           {"Kastamonu", "366"},
+                                           {"Uşak", "276"},
+                                           {"Niğde", "388"},
+                                           {"Kırklareli", "288"},
+                                           {"Bitlis", "434"},
+                                           {"Rize", "464"},
+                                           {"Siirt", "484"},
+                                           {"Amasya", "358"},
+                                           {"Bolu", "374"},
+                                           {"Nevşehir", "384"},
+                                           {"Yalova", "226"},
+                                           {"Bingöl", "426"},
+                                           {"Kırıkkale", "318"},
+                                           {"Hakkari", "438"},
+                                           {"Burdur", "248"},
+                                           {"Kars", "474"},
+                                           {"Karaman", "338"},
+                                           {"Karabük", "370"},
+                                           {"Kırşehir", "386"},
+                                           {"Erzincan", "446"},
+                                           {"Bilecik", "228"},
+                                           {"Sinop", "368"},
+                                           {"Bartın", "378"},
+                                           {"Iğdır", "476"},
+                                           {"Şırnak", "486"},
+                                           {"Çankırı", "376"},
+                                           {"Artvin", "466"},
+                                           {"Kilis", "348"},
+                                           {"Gümüşhane", "456"},
+                                           {"Ardahan", "478"},
+                                           {"Tunceli", "428"},
+                                           {"Bayburt", "458"}});
+
+}  // namespace
+
+std::span<const Town> towns() {
+  return rows;
+}
+
+}  // namespace tools
