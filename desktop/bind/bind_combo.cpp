@@ -35,7 +35,8 @@ void showRow(QComboBox& combo, const forms::ComboBox& control) {
 
 void refresh(QComboBox& combo, const forms::ComboBox& control, Aspect aspect) {
   if (aspect == Aspect::Items) showItems(combo, control);
-  if (aspect == Aspect::Items || aspect == Aspect::Text || aspect == Aspect::Selection) showRow(combo, control);
+  if (aspect == Aspect::Items || aspect == Aspect::Text || aspect == Aspect::Selection)
+    showRow(combo, control);
   if (!combo.isEditable()) return;
   refreshLine(*combo.lineEdit(), control, aspect);
   combo.lineEdit()->setAccessibleName(combo.accessibleName());
@@ -66,8 +67,10 @@ void bind(QComboBox& combo, forms::ComboBox& control) {
   combo.setMinimumContentsLength(shownCharacters);
   combo.setFocusPolicy(Qt::StrongFocus);
   combo.installEventFilter(new WheelGuard(&combo));
-  Binding& binding = attach(combo, control, Follow::All, [&](Aspect aspect) { refresh(combo, control, aspect); });
-  QObject::connect(&combo, &QComboBox::activated, &binding, [&](int row) { control.setListIndex(row); });
+  Binding& binding =
+      attach(combo, control, Follow::All, [&](Aspect aspect) { refresh(combo, control, aspect); });
+  QObject::connect(&combo, &QComboBox::activated, &binding,
+                   [&](int row) { control.setListIndex(row); });
   if (combo.isEditable()) listenToLine(binding, *combo.lineEdit(), control);
 }
 

@@ -13,7 +13,9 @@ namespace {
 using forms::Aspect;
 using forms::ToolButton;
 
-bool isSeparator(const ToolButton& button) { return button.kind == forms::ButtonKind::Separator; }
+bool isSeparator(const ToolButton& button) {
+  return button.kind == forms::ButtonKind::Separator;
+}
 
 void addActions(QToolBar& bar, const forms::Toolbar& control) {
   qDeleteAll(bar.actions());
@@ -21,7 +23,8 @@ void addActions(QToolBar& bar, const forms::Toolbar& control) {
     QAction* const action = isSeparator(button) ? bar.addSeparator() : bar.addAction(QString());
     action->setObjectName(qs(button.key));
     if (isSeparator(button)) continue;
-    QObject::connect(action, &QAction::triggered, bindingOf(bar), [&control, key = button.key] { control.press(key); });
+    QObject::connect(action, &QAction::triggered, bindingOf(bar),
+                     [&control, key = button.key] { control.press(key); });
   }
 }
 

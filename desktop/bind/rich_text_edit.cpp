@@ -21,6 +21,8 @@ const QString richTextType = QStringLiteral("text/rtf");
 
 using Edit = void (*)(richtext::Editor& editor);
 
+constexpr double paperMargin = 12;
+
 struct EditCommand {
   QKeySequence::StandardKey key;
   Edit apply;
@@ -29,8 +31,10 @@ constexpr EditCommand editCommands[] = {
     {QKeySequence::Undo, [](richtext::Editor& e) { e.undo(); }},
     {QKeySequence::Redo, [](richtext::Editor& e) { e.redo(); }},
     {QKeySequence::Bold, [](richtext::Editor& e) { e.setSelBold(!e.selBold().value_or(false)); }},
-    {QKeySequence::Italic, [](richtext::Editor& e) { e.setSelItalic(!e.selItalic().value_or(false)); }},
-    {QKeySequence::Underline, [](richtext::Editor& e) { e.setSelUnderline(!e.selUnderline().value_or(false)); }},
+    {QKeySequence::Italic,
+     [](richtext::Editor& e) { e.setSelItalic(!e.selItalic().value_or(false)); }},
+    {QKeySequence::Underline,
+     [](richtext::Editor& e) { e.setSelUnderline(!e.selUnderline().value_or(false)); }},
 };
 
 struct EditKey {
@@ -49,13 +53,15 @@ Edit editOf(const QKeyEvent& event) {
     if (event.matches(row.key)) return row.apply;
   }
   for (const EditKey& row : editKeys) {
-    if (event.key() == row.key && !event.modifiers().testFlag(Qt::ControlModifier)) return row.apply;
+    if (event.key() == row.key && !event.modifiers().testFlag(Qt::ControlModifier))
+      return row.apply;
   }
   return nullptr;
 }
 
 bool isTyped(const QKeyEvent& event) {
-  const bool command = event.modifiers().testFlag(Qt::ControlModifier) != event.modifiers().testFlag(Qt::AltModifier);
+  const bool command = event.modifiers().testFlag(Qt::ControlModifier) !=
+                       event.modifiers().testFlag(Qt::AltModifier);
   return !event.text().isEmpty() && !command && event.text()[0].isPrint();
 }
 
@@ -84,6 +90,7 @@ RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
   setUndoRedoEnabled(false);
   setAcceptDrops(false);
   setPalette(paper());
+  document()->setDocumentMargin(paperMargin);
   setTabChangesFocus(true);
   connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextEdit::reportSelection);
   connect(this, &QTextEdit::selectionChanged, this, &RichTextEdit::reportSelection);
@@ -108,8 +115,10 @@ void RichTextEdit::refresh() {
   std::size_t head = 0;
   while (head < shorter && now[head] == shown_[head]) ++head;
   std::size_t tail = 0;
-  while (tail < shorter - head && now[now.size() - 1 - tail] == shown_[shown_.size() - 1 - tail]) ++tail;
-  if (head != now.size() || head != shown_.size()) replaceBlocks(head, shown_.size() - head - tail, now.size() - head - tail);
+  while (tail < shorter - head && now[now.size() - 1 - tail] == shown_[shown_.size() - 1 - tail])
+    ++tail;
+  if (head != now.size() || head != shown_.size())
+    replaceBlocks(head, shown_.size() - head - tail, now.size() - head - tail);
   shown_ = now;
   refreshSelection();
 }
@@ -123,7 +132,8 @@ void RichTextEdit::replaceBlocks(std::size_t first, std::size_t oldCount, std::s
   QTextCursor cursor(document());
   cursor.beginEditBlock();
   const bool atEnd = first >= blocks;
-  const QTextBlock start = document()->findBlockByNumber(static_cast<int>(atEnd ? blocks - 1 : first));
+  const QTextBlock start =
+      document()->findBlockByNumber(static_cast<int>(atEnd ? blocks - 1 : first));
   cursor.setPosition(atEnd ? start.position() + start.length() - 1 : start.position());
   if (oldCount > 0) {
     const QTextBlock last = document()->findBlockByNumber(static_cast<int>(first + oldCount - 1));
@@ -169,7 +179,8 @@ void RichTextEdit::reportSelection() {
 std::size_t RichTextEdit::characterAt(int position) const {
   std::size_t characters = 0;
   const QTextBlock end = document()->findBlock(position);
-  for (QTextBlock block = document()->begin(); block.isValid() && block != end; block = block.next()) {
+  for (QTextBlock block = document()->begin(); block.isValid() && block != end;
+       block = block.next()) {
     characters += charactersBefore(block.text(), block.text().size()) + 1;
   }
   return characters + charactersBefore(end.text(), position - end.position());
@@ -222,18 +233,23 @@ QMimeData* RichTextEdit::createMimeDataFromSelection() const {
   auto* const mime = new QMimeData;
   if (box() == nullptr) return mime;
   mime->setText(qs(box_->editor().selText()));
-  mime->setData(richTextType, QByteArray::fromStdString(richtext::Editor(box_->editor().copy()).textRTF()));
+  mime->setData(richTextType,
+                QByteArray::fromStdString(richtext::Editor(box_->editor().copy()).textRTF()));
   return mime;
 }
 
 void RichTextEdit::insertFromMimeData(const QMimeData* source) {
   richtext::Editor foreign;
-  const bool rich = source->hasFormat(richTextType) && foreign.setTextRTF(source->data(richTextType).toStdString());
+  const bool rich = source->hasFormat(richTextType) &&
+                    foreign.setTextRTF(source->data(richTextType).toStdString());
   if (rich) return edit([&](richtext::Editor& editor) { editor.paste(foreign.document()); });
-  if (source->hasText()) edit([&](richtext::Editor& editor) { editor.insert(utf8(source->text())); });
+  if (source->hasText())
+    edit([&](richtext::Editor& editor) { editor.insert(utf8(source->text())); });
 }
 
 // The toolkit's menu edits the shown text behind the editor's back.
-void RichTextEdit::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
+void RichTextEdit::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+}
 
 }  // namespace desktop
