@@ -2,6 +2,7 @@
 // screen reader.
 #include <QAbstractButton>
 #include <QAction>
+#include <QScrollBar>
 #include <set>
 
 #include "platform/forms/button.h"
@@ -91,6 +92,50 @@ TEST_P(Screens, EveryControlHasItsWidgetAndItsWords) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, Screens, testing::Values("tr", "eng"));
+
+TEST(PhotoView, ScrollBarsStandBelowAndBesideThePicture) {
+  WindowDesk desk;
+  struct Photo : forms::Form {
+    Photo() : Form("frmmax") {}
+    forms::Picture photo{*this, "photo"};
+    forms::ScrollBar sideways{*this, "sideways"};
+    forms::ScrollBar upDown{*this, "upDown"};
+  } form;
+  desk.host.show(form);
+  support::settle();
+  const QWidget& window = *desk.host.windowOf(form);
+  const auto* const photo = window.findChild<QWidget*>(QStringLiteral("photo"));
+  const auto* const sideways = window.findChild<QScrollBar*>(QStringLiteral("sideways"));
+  const auto* const upDown = window.findChild<QScrollBar*>(QStringLiteral("upDown"));
+  EXPECT_EQ(sideways->orientation(), Qt::Horizontal);
+  EXPECT_EQ(upDown->orientation(), Qt::Vertical);
+  EXPECT_EQ(sideways->y(), photo->geometry().bottom() + 1);
+  EXPECT_EQ(upDown->x(), photo->geometry().right() + 1);
+  form.upDown.setVisible(false);
+  support::settle();
+  EXPECT_EQ(photo->width(), window.width());
+  desk.host.close(form);
+}
+
+TEST(SplashView, GrowsBluerFromTopToBottom) {
+  WindowDesk desk;
+  registry::FrmMain card(desk.station);
+  card.Load();
+  shell::Logo logo(desk.station);
+  logo.Load();
+  desk.host.show(logo);
+  support::settle();
+  QWidget& window = *desk.host.windowOf(logo);
+  EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("Lblbrans"))->text().toStdString(),
+            card.caption());
+  const QImage picture = window.grab().toImage();
+  int blue = -1;
+  for (int y = 0; y < picture.height(); y += 20) {
+    EXPECT_GT(picture.pixelColor(0, y).blue(), blue);
+    blue = picture.pixelColor(0, y).blue();
+  }
+  desk.host.close(logo);
+}
 
 TEST(GenericView, AnyFormGetsAWindow) {
   WindowDesk desk;
