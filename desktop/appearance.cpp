@@ -4,7 +4,9 @@
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 #include "desktop/icons.h"
 
@@ -14,6 +16,7 @@ namespace {
 
 constexpr QRgb accentOnLight = 0xFF2F73B8;
 constexpr QRgb accentOnDark = 0xFF4F97DE;  // the frame of the focus has to stand out
+constexpr int rowGap = 6;
 constexpr int darkBelow = 128;
 constexpr double smallestPoints = 10.0;
 
@@ -47,8 +50,20 @@ QPalette darkPalette() {
   return palette;
 }
 
+// Rows of lists with room to read them.
+class RoomyStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+  [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                       const QSize& size, const QWidget* widget) const override {
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    return type == CT_ItemViewItem ? usual + QSize(0, rowGap) : usual;
+  }
+};
+
 void setDisabled(QPalette& palette, const QColor& ink) {
-  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+  for (const QPalette::ColorRole role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, ink);
   }
 }
@@ -72,7 +87,7 @@ Shade wantedShade() {
 
 void applyAppearance(Shade shade) {
   const bool dark = shade == Shade::Dark;
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new RoomyStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
   QPalette palette = dark ? darkPalette() : lightPalette();
   palette.setColor(QPalette::Highlight, QColor::fromRgb(dark ? accentOnDark : accentOnLight));
   palette.setColor(QPalette::HighlightedText, dark ? Qt::black : Qt::white);
@@ -85,7 +100,8 @@ void applyAppearance(Shade shade) {
 QString fontProblem() {
   const QFontMetrics metrics{QApplication::font()};
   for (const QChar letter : QStringLiteral("AaĞğİıŞşÇçÖöÜü")) {
-    if (!metrics.inFont(letter)) return QStringLiteral("No installed font has the letter ") + letter;
+    if (!metrics.inFont(letter))
+      return QStringLiteral("No installed font has the letter ") + letter;
   }
   return QFontDatabase::families().isEmpty() ? QStringLiteral("No font is installed") : QString();
 }

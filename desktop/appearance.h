@@ -7,7 +7,8 @@ namespace desktop {
 
 enum class Shade { Light, Dark };
 
-// Dark when SANAVEL_PALETTE says "dark", light when it says "light", else as the desk's own palette is.
+// Dark when SANAVEL_PALETTE says "dark", light when it says "light", else as the desk's own palette
+// is.
 [[nodiscard]] Shade wantedShade();
 void applyAppearance(Shade shade);
 

@@ -9,7 +9,8 @@
 namespace desktop {
 
 Application::Application(int& argc, char** argv)
-    : application_(std::make_unique<QApplication>(argc, argv)), host_(std::make_unique<QtHost>(programViews())) {
+    : application_(std::make_unique<QApplication>(argc, argv)),
+      host_(std::make_unique<QtHost>(programViews())) {
   QCoreApplication::setApplicationName(QStringLiteral("Sanavel"));
   // The card stays open for the whole session; dialogs before it must not end the program.
   QApplication::setQuitOnLastWindowClosed(false);

@@ -16,8 +16,8 @@ class Application {
   ~Application();
 
   [[nodiscard]] QtHost& host() { return *host_; }
-  // Brings the program up with `start` and serves it until the window of `main` is closed. When `start` answers false,
-  // nothing is served.
+  // Brings the program up with `start` and serves it until the window of `main` is closed. When
+  // `start` answers false, nothing is served.
   int run(const forms::Form& main, const std::function<bool()>& start);
 
  private:

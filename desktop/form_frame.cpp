@@ -7,6 +7,7 @@
 #include <QScreen>
 
 #include "desktop/bind/binding.h"
+#include "desktop/caption_marks.h"
 #include "desktop/text.h"
 #include "platform/forms/button.h"
 
@@ -24,7 +25,8 @@ forms::CommandButton* cancelButton(const forms::Form& form) {
 }
 
 bool isSingleLine(const QWidget* widget) {
-  return qobject_cast<const QLineEdit*>(widget) != nullptr || qobject_cast<const QComboBox*>(widget) != nullptr;
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QComboBox*>(widget) != nullptr;
 }
 
 QFont fontOf(const forms::Font& font) {
@@ -45,7 +47,8 @@ FormFrame::FormFrame(QWidget& window, forms::Form& form, EscapeKey escape)
   window.setObjectName(qs(form.name()));
   window.installEventFilter(this);
   form.observer = [this](forms::Form::Aspect aspect) { observe(aspect); };
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusChanged(now); });
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* now) { focusChanged(now); });
   observe(forms::Form::Aspect::Caption);
   showFont();
 }
@@ -78,11 +81,18 @@ void FormFrame::focusChanged(QWidget* now) {
 
 void FormFrame::show() {
   const QSize available = window_.screen()->availableSize();
-  if (form_.width > 0 && form_.height > 0) window_.resize(QSize(form_.width, form_.height).boundedTo(available));
+  if (form_.width > 0 && form_.height > 0)
+    window_.resize(QSize(form_.width, form_.height).boundedTo(available));
   switch (form_.windowState) {
-    case forms::WindowState::Maximised: window_.showMaximized(); break;
-    case forms::WindowState::Minimised: window_.showMinimized(); break;
-    case forms::WindowState::Normal: window_.show(); break;
+    case forms::WindowState::Maximised:
+      window_.showMaximized();
+      break;
+    case forms::WindowState::Minimised:
+      window_.showMinimized();
+      break;
+    case forms::WindowState::Normal:
+      window_.show();
+      break;
   }
   window_.activateWindow();
   moveFocus();
@@ -103,17 +113,26 @@ bool FormFrame::close() {
 bool FormFrame::eventFilter(QObject* watched, QEvent* event) {
   if (watched != &window_ || closed_) return false;
   switch (event->type()) {
-    case QEvent::Close: static_cast<QCloseEvent*>(event)->setAccepted(close()); return true;
-    case QEvent::WindowActivate: form_.Activate(); return false;
+    case QEvent::Close:
+      static_cast<QCloseEvent*>(event)->setAccepted(close());
+      return true;
+    case QEvent::WindowActivate:
+      form_.Activate();
+      return false;
     case QEvent::Resize:
-    case QEvent::WindowStateChange: sizeChanged(); return false;
-    case QEvent::KeyPress: return keyPressed(*static_cast<QKeyEvent*>(event));
-    default: return false;
+    case QEvent::WindowStateChange:
+      sizeChanged();
+      return false;
+    case QEvent::KeyPress:
+      return keyPressed(*static_cast<QKeyEvent*>(event));
+    default:
+      return false;
   }
 }
 
 // Keys that no widget wanted arrive here.
 bool FormFrame::keyPressed(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Alt) markCaptions(window_);
   if (event.key() == Qt::Key_Escape) return escape();
   const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
   QWidget* const focus = window_.focusWidget();

@@ -1,4 +1,5 @@
-// What every window of a form does, whatever it looks like: caption, focus, size, the usual keys, closing.
+// What every window of a form does, whatever it looks like: caption, focus, size, the usual keys,
+// closing.
 #pragma once
 
 #include <QPointer>
@@ -9,8 +10,9 @@
 
 namespace desktop {
 
-// Lives as a child of the window and serves it until the window is closed. A window closes in this order: the form may
-// veto, stores what is to be kept, the ties to its controls end, the window goes, `closed` is called.
+// Lives as a child of the window and serves it until the window is closed. A window closes in this
+// order: the form may veto, stores what is to be kept, the ties to its controls end, the window
+// goes, `closed` is called.
 class FormFrame : public QObject {
   Q_OBJECT
  public:

@@ -87,7 +87,8 @@ QIcon filled(const QIcon& outline) {
 
 QStringList themeFolders() {
   QStringList folders = QIcon::themeSearchPaths();
-  for (const QString& folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
+  for (const QString& folder :
+       QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
     folders << folder + QStringLiteral("/icons");
   }
   folders << QCoreApplication::applicationDirPath() + QStringLiteral("/../share/icons");

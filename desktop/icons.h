@@ -6,7 +6,8 @@
 
 namespace desktop {
 
-// Finds the theme in the system's data folders, also without a desktop session; the dark one for a dark palette.
+// Finds the theme in the system's data folders, also without a desktop session; the dark one for a
+// dark palette.
 void useIconTheme(bool dark);
 
 // The icon of a name of the program's image lists; empty for a name that has none.

@@ -42,7 +42,8 @@ QWidget* made(forms::Control& control, QWidget& parent) {
 QWidget* madeText(forms::Control& control, QWidget& parent) {
   const auto* const box = dynamic_cast<forms::TextBox*>(&control);
   if (box == nullptr) return nullptr;
-  if (box->lines() == forms::TextLines::Multiple) return made<QPlainTextEdit, forms::TextBox>(control, parent);
+  if (box->lines() == forms::TextLines::Multiple)
+    return made<QPlainTextEdit, forms::TextBox>(control, parent);
   return made<QLineEdit, forms::TextBox>(control, parent);
 }
 
@@ -66,7 +67,9 @@ QScrollArea* scrolled(QWidget* page, QWidget& parent) {
   return scroller;
 }
 
-int characters(const QWidget& widget, int count) { return widget.fontMetrics().averageCharWidth() * count; }
+int characters(const QWidget& widget, int count) {
+  return widget.fontMetrics().averageCharWidth() * count;
+}
 
 QLabel* captionFor(QWidget& field) {
   auto* const label = new QLabel(field.parentWidget());
@@ -111,7 +114,9 @@ void FieldColumns::addGrowing(QWidget* field) {
   columns_ = 0;
 }
 
-int FieldColumns::columnsForWidth() const { return width() >= characters(*this, charactersForTwoColumns) ? 2 : 1; }
+int FieldColumns::columnsForWidth() const {
+  return width() >= characters(*this, charactersForTwoColumns) ? 2 : 1;
+}
 
 QSize FieldColumns::minimumSizeHint() const {
   int caption = 0;
@@ -154,7 +159,8 @@ void FieldColumns::arrange(int columns) {
   }
   const bool anyGrows = std::ranges::any_of(rows_, &Row::grows);
   if (!anyGrows) grid_->setRowStretch(below, 1);
-  for (int c = 0; c < 2; ++c) grid_->setColumnStretch(c * gridColumnsPerField + 1, c < columns ? 1 : 0);
+  for (int c = 0; c < 2; ++c)
+    grid_->setColumnStretch(c * gridColumnsPerField + 1, c < columns ? 1 : 0);
 }
 
 void FieldColumns::placeRow(const Row& row, int line, int column, int columns) {

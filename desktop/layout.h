@@ -1,4 +1,5 @@
-// Building blocks of the windows: distances, fields with their captions, and columns that follow the width.
+// Building blocks of the windows: distances, fields with their captions, and columns that follow
+// the width.
 #pragma once
 
 #include <QGridLayout>
@@ -33,7 +34,8 @@ Control& control(const forms::Form& form, std::string_view name) {
   return dynamic_cast<Control&>(*form.find(name));
 }
 
-// A widget for any control, bound to it; null for one that is never shown (menus and timers have no place in a form).
+// A widget for any control, bound to it; null for one that is never shown (menus and timers have no
+// place in a form).
 [[nodiscard]] QWidget* makeWidget(forms::Control& control, QWidget& parent);
 
 // Fields below each other, in two columns as soon as the room allows.

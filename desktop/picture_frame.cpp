@@ -18,7 +18,8 @@ QSize uprightSize(const QImageReader& reader) {
 
 QSize scaledSize(const QImageReader& reader, const QSize& limit) {
   const QSize upright = uprightSize(reader);
-  const QSize fitted = upright.scaled(limit.boundedTo(upright), Qt::KeepAspectRatio).expandedTo({1, 1});
+  const QSize fitted =
+      upright.scaled(limit.boundedTo(upright), Qt::KeepAspectRatio).expandedTo({1, 1});
   return uprightSize(reader) == reader.size() ? fitted : fitted.transposed();
 }
 
@@ -35,7 +36,9 @@ QImage loadPicture(const QString& path, const QSize& limit, QSize* natural) {
   return reader.read();
 }
 
-PictureFrame::PictureFrame(QWidget* parent) : QFrame(parent) { setFrameShape(QFrame::NoFrame); }
+PictureFrame::PictureFrame(QWidget* parent) : QFrame(parent) {
+  setFrameShape(QFrame::NoFrame);
+}
 
 void PictureFrame::setPath(const QString& path) {
   if (path == path_ && showsPicture()) return;

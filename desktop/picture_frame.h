@@ -8,14 +8,16 @@
 
 namespace desktop {
 
-// Decodes the file no larger than it is shown. Missing, broken and absurdly large files leave the frame empty.
+// Decodes the file no larger than it is shown. Missing, broken and absurdly large files leave the
+// frame empty.
 class PictureFrame : public QFrame {
   Q_OBJECT
  public:
   explicit PictureFrame(QWidget* parent);
 
   void setPath(const QString& path);
-  // Where the picture stands in the frame; an empty rectangle fits it into the frame in its proportions.
+  // Where the picture stands in the frame; an empty rectangle fits it into the frame in its
+  // proportions.
   void setPlace(const QRect& place);
   [[nodiscard]] bool showsPicture() const { return !image_.isNull(); }
 

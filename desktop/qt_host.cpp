@@ -24,19 +24,26 @@ namespace {
 
 QMessageBox::Icon iconOf(host::Icon icon) {
   switch (icon) {
-    case host::Icon::Question: return QMessageBox::Question;
-    case host::Icon::Critical: return QMessageBox::Critical;
-    case host::Icon::Information: break;
+    case host::Icon::Question:
+      return QMessageBox::Question;
+    case host::Icon::Critical:
+      return QMessageBox::Critical;
+    case host::Icon::Information:
+      break;
   }
   return QMessageBox::Information;
 }
 
 host::Answer answerOf(int button) {
   switch (button) {
-    case QMessageBox::Yes: return host::Answer::Yes;
-    case QMessageBox::No: return host::Answer::No;
-    case QMessageBox::Cancel: return host::Answer::Cancel;
-    default: return host::Answer::Ok;
+    case QMessageBox::Yes:
+      return host::Answer::Yes;
+    case QMessageBox::No:
+      return host::Answer::No;
+    case QMessageBox::Cancel:
+      return host::Answer::Cancel;
+    default:
+      return host::Answer::Ok;
   }
 }
 
@@ -45,7 +52,9 @@ QString filterOf(const std::vector<std::string>& filters) {
   QStringList names;
   for (const std::string& filter : filters) {
     const QString name = qs(filter);
-    names << (name.contains(QLatin1Char('(')) ? name : name + QStringLiteral(" (") + name + QLatin1Char(')'));
+    names << (name.contains(QLatin1Char('('))
+                  ? name
+                  : name + QStringLiteral(" (") + name + QLatin1Char(')'));
   }
   return names.join(QStringLiteral(";;"));
 }
@@ -114,7 +123,8 @@ host::Answer QtHost::messageBox(const host::Message& message) {
   return answerOf(box.exec());
 }
 
-std::string QtHost::inputBox(std::string_view prompt, std::string_view title, std::string_view value) {
+std::string QtHost::inputBox(std::string_view prompt, std::string_view title,
+                             std::string_view value) {
   QInputDialog dialog(QApplication::activeWindow());
   dialog.setWindowTitle(qs(title));
   dialog.setLabelText(withLineBreaks(prompt));
@@ -125,12 +135,13 @@ std::string QtHost::inputBox(std::string_view prompt, std::string_view title, st
 }
 
 std::optional<std::string> QtHost::openFile(const host::FileRequest& request) {
-  return chosen(QFileDialog::getOpenFileName(QApplication::activeWindow(), qs(request.title), qs(request.folder),
-                                             filterOf(request.filters)));
+  return chosen(QFileDialog::getOpenFileName(QApplication::activeWindow(), qs(request.title),
+                                             qs(request.folder), filterOf(request.filters)));
 }
 
 std::optional<std::string> QtHost::chooseFolder(std::string_view title, std::string_view folder) {
-  return chosen(QFileDialog::getExistingDirectory(QApplication::activeWindow(), qs(title), qs(folder)));
+  return chosen(
+      QFileDialog::getExistingDirectory(QApplication::activeWindow(), qs(title), qs(folder)));
 }
 
 std::optional<forms::Font> QtHost::chooseFont(const forms::Font& current) {
@@ -147,7 +158,8 @@ std::optional<forms::Font> QtHost::chooseFont(const forms::Font& current) {
 }
 
 std::optional<forms::Colour> QtHost::chooseColour(forms::Colour current) {
-  const QColor colour = QColorDialog::getColor(QColor::fromRgb(current), QApplication::activeWindow());
+  const QColor colour =
+      QColorDialog::getColor(QColor::fromRgb(current), QApplication::activeWindow());
   return colour.isValid() ? std::optional(colour.rgb() & 0xFFFFFFU) : std::nullopt;
 }
 
@@ -195,7 +207,9 @@ void QtHost::close(forms::Form& form) {
   }
 }
 
-void QtHost::later(std::function<void()> task) { QTimer::singleShot(0, qApp, std::move(task)); }
+void QtHost::later(std::function<void()> task) {
+  QTimer::singleShot(0, qApp, std::move(task));
+}
 
 void QtHost::pause(int milliseconds) {
   QEventLoop loop;
@@ -203,14 +217,23 @@ void QtHost::pause(int milliseconds) {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-void QtHost::shellOpen(std::string_view target) { QDesktopServices::openUrl(QUrl::fromUserInput(qs(target))); }
+void QtHost::shellOpen(std::string_view target) {
+  QDesktopServices::openUrl(QUrl::fromUserInput(qs(target)));
+}
 
-void QtHost::beep() { QApplication::beep(); }
+void QtHost::beep() {
+  QApplication::beep();
+}
 
-void QtHost::sendKeys(std::string_view keys) { typeKeys(keys); }
+void QtHost::sendKeys(std::string_view keys) {
+  typeKeys(keys);
+}
 
 void QtHost::runtimeError(const platform::Status& status) {
-  messageBox({.text = status.text(), .title = {}, .buttons = host::Buttons::Ok, .icon = host::Icon::Critical});
+  messageBox({.text = status.text(),
+              .title = {},
+              .buttons = host::Buttons::Ok,
+              .icon = host::Icon::Critical});
 }
 
 std::optional<host::Host::Size> QtHost::pictureSize(std::string_view path) {

@@ -28,7 +28,8 @@ class QtHost : public host::Host {
   std::function<void(const forms::Form& form)> onClosed;
 
   host::Answer messageBox(const host::Message& message) override;
-  std::string inputBox(std::string_view prompt, std::string_view title, std::string_view value) override;
+  std::string inputBox(std::string_view prompt, std::string_view title,
+                       std::string_view value) override;
   std::optional<std::string> openFile(const host::FileRequest& request) override;
   std::optional<std::string> chooseFolder(std::string_view title, std::string_view folder) override;
   std::optional<forms::Font> chooseFont(const forms::Font& current) override;

@@ -39,10 +39,14 @@ void send(QWidget& widget, QKeyCombination keys, const QString& text) {
 
 Qt::KeyboardModifier modifierOf(char sign) {
   switch (sign) {
-    case '^': return Qt::ControlModifier;
-    case '+': return Qt::ShiftModifier;
-    case '%': return Qt::AltModifier;
-    default: return Qt::NoModifier;
+    case '^':
+      return Qt::ControlModifier;
+    case '+':
+      return Qt::ShiftModifier;
+    case '%':
+      return Qt::AltModifier;
+    default:
+      return Qt::NoModifier;
   }
 }
 

@@ -11,7 +11,8 @@ class ShortLine : public QLineEdit {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   }
   [[nodiscard]] QSize sizeHint() const override {
-    const int frame = QLineEdit::sizeHint().width() - fontMetrics().horizontalAdvance(QLatin1Char('x')) * 17;
+    const int frame =
+        QLineEdit::sizeHint().width() - fontMetrics().horizontalAdvance(QLatin1Char('x')) * 17;
     return {fontMetrics().averageCharWidth() * characters_ + frame, QLineEdit::sizeHint().height()};
   }
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

@@ -24,6 +24,18 @@ QString withoutMnemonic(QString caption) {
   return caption.replace(QChar(1), QLatin1Char('&'));
 }
 
+QString withMnemonic(const QString& caption, QSet<QChar>& taken) {
+  const QString words = withoutMnemonic(caption);
+  qsizetype mark = 0;
+  while (mark < words.size() &&
+         (!words[mark].isLetterOrNumber() || taken.contains(words[mark].toUpper())))
+    ++mark;
+  if (mark < words.size()) taken.insert(words[mark].toUpper());
+  QString before = words.left(mark).replace(QLatin1Char('&'), QLatin1String("&&"));
+  QString after = words.mid(mark).replace(QLatin1Char('&'), QLatin1String("&&"));
+  return mark < words.size() ? before + QLatin1Char('&') + after : before;
+}
+
 QString withLineBreaks(std::string_view text) {
   QString lines = qs(text);
   lines.replace(QLatin1String("\n\r"), QLatin1String("\n"));

@@ -1,6 +1,7 @@
 // Between the program's UTF-8 and the toolkit's UTF-16.
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <cstddef>
 #include <string>
@@ -11,7 +12,9 @@ namespace desktop {
 [[nodiscard]] inline QString qs(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
-[[nodiscard]] inline std::string utf8(const QString& text) { return text.toStdString(); }
+[[nodiscard]] inline std::string utf8(const QString& text) {
+  return text.toStdString();
+}
 
 // Characters (code points) that stand before a place in the toolkit's text, and back.
 [[nodiscard]] std::size_t charactersBefore(const QString& text, qsizetype units);
@@ -19,6 +22,8 @@ namespace desktop {
 
 // The caption as a screen reader says it: without the mark of its mnemonic.
 [[nodiscard]] QString withoutMnemonic(QString caption);
+// With the mark at the first letter that is not taken, which then is; without one when all are.
+[[nodiscard]] QString withMnemonic(const QString& caption, QSet<QChar>& taken);
 // The two lines of a message are parted by "\n\r"; a window wants one line break.
 [[nodiscard]] QString withLineBreaks(std::string_view text);
 

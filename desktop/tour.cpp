@@ -20,7 +20,9 @@ constexpr QSize usualSize{1240, 780};
 constexpr QSize smallestSize{1024, 700};
 constexpr double enlarged = 1.5;
 
-void complain(const QString& why) { QTextStream(stderr) << why << Qt::endl; }
+void complain(const QString& why) {
+  QTextStream(stderr) << why << Qt::endl;
+}
 
 // Windows and their events come to rest: a layout may ask for another pass.
 void settle() {
@@ -32,7 +34,9 @@ void settle() {
 
 class Album {
  public:
-  explicit Album(const std::string& folder) : folder_(qs(folder)) { good_ = QDir().mkpath(folder_.path()); }
+  explicit Album(const std::string& folder) : folder_(qs(folder)) {
+    good_ = QDir().mkpath(folder_.path());
+  }
 
   void take(QWidget& window, const QString& name) {
     settle();
@@ -75,6 +79,8 @@ class Tour {
       : host_(host), istasyon_(istasyon), main_(main), album_(folder) {}
 
   bool run() {
+    if (!album_.good())
+      return complain(QStringLiteral("Cannot make the folder of the tour")), false;
     main_.windowState = forms::WindowState::Normal;
     main_.width = usualSize.width();
     main_.height = usualSize.height();
@@ -170,7 +176,8 @@ class Tour {
 
 }  // namespace
 
-bool tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main, const std::string& folder) {
+bool tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main,
+          const std::string& folder) {
   if (const QString problem = fontProblem(); !problem.isEmpty()) {
     complain(problem);
     return false;

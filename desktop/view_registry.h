@@ -16,7 +16,9 @@ class ViewRegistry {
  public:
   using Builder = std::function<std::unique_ptr<QWidget>(forms::Form&)>;
 
-  void add(std::string_view form, Builder builder) { builders_.insert_or_assign(std::string(form), std::move(builder)); }
+  void add(std::string_view form, Builder builder) {
+    builders_.insert_or_assign(std::string(form), std::move(builder));
+  }
   // The form's own layout, or the one that suits any form.
   [[nodiscard]] std::unique_ptr<QWidget> build(forms::Form& form) const;
 

@@ -38,29 +38,31 @@ void userToggled(QCheckBox& box, forms::CheckBox& control) {
 
 void bind(QPushButton& button, forms::CommandButton& control) {
   button.setAutoDefault(false);
-  Binding& binding =
-      attach(button, control, Follow::All, [&](Aspect aspect) { refreshButton(button, control, aspect); });
+  Binding& binding = attach(button, control, Follow::All,
+                            [&](Aspect aspect) { refreshButton(button, control, aspect); });
   QObject::connect(&button, &QPushButton::clicked, &binding, [&] { control.press(); });
 }
 
 void bind(QToolButton& button, forms::CommandButton& control) {
   Binding& binding = attach(button, control, Follow::All, [&](Aspect aspect) {
-    if (aspect == Aspect::Caption && control.toolTip().empty()) button.setToolTip(qs(control.caption()));
+    if (aspect == Aspect::Caption && control.toolTip().empty())
+      button.setToolTip(qs(control.caption()));
     refreshButton(button, control, aspect);
   });
   QObject::connect(&button, &QToolButton::clicked, &binding, [&] { control.press(); });
 }
 
 void bind(QCheckBox& box, forms::CheckBox& control) {
-  Binding& binding = attach(box, control, Follow::All, [&](Aspect aspect) { refreshButton(box, control, aspect); });
+  Binding& binding = attach(box, control, Follow::All,
+                            [&](Aspect aspect) { refreshButton(box, control, aspect); });
   QObject::connect(&box, &QCheckBox::clicked, &binding, [&] { userToggled(box, control); });
 }
 
 void bind(QRadioButton& button, forms::OptionButton& control) {
   // The groups are the controls' own: that of the toolkit cannot show that none is chosen.
   button.setAutoExclusive(false);
-  Binding& binding =
-      attach(button, control, Follow::All, [&](Aspect aspect) { refreshButton(button, control, aspect); });
+  Binding& binding = attach(button, control, Follow::All,
+                            [&](Aspect aspect) { refreshButton(button, control, aspect); });
   QObject::connect(&button, &QRadioButton::clicked, &binding, [&] {
     control.setValue(true);
     showChecked(button, control.value());

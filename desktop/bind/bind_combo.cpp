@@ -24,14 +24,19 @@ void showItems(QComboBox& combo, const forms::ComboBox& control) {
 
 void showRow(QComboBox& combo, const forms::ComboBox& control) {
   const QSignalBlocker quiet(combo);
-  // Setting the same row again would move the cursor of the text.
+  QLineEdit* const line = combo.lineEdit();
+  const int cursor = line == nullptr ? 0 : line->cursorPosition();
   if (combo.currentIndex() != control.listIndex()) combo.setCurrentIndex(control.listIndex());
-  if (combo.isEditable()) refreshLine(*combo.lineEdit(), control, Aspect::Text);
+  if (line == nullptr) return;
+  refreshLine(*line, control, Aspect::Text);
+  // The row put its own text into the line, and the cursor behind it.
+  if (line->hasFocus()) line->setCursorPosition(cursor);
 }
 
 void refresh(QComboBox& combo, const forms::ComboBox& control, Aspect aspect) {
   if (aspect == Aspect::Items) showItems(combo, control);
-  if (aspect == Aspect::Items || aspect == Aspect::Text || aspect == Aspect::Selection) showRow(combo, control);
+  if (aspect == Aspect::Items || aspect == Aspect::Text || aspect == Aspect::Selection)
+    showRow(combo, control);
   if (!combo.isEditable()) return;
   refreshLine(*combo.lineEdit(), control, aspect);
   combo.lineEdit()->setAccessibleName(combo.accessibleName());
@@ -62,8 +67,10 @@ void bind(QComboBox& combo, forms::ComboBox& control) {
   combo.setMinimumContentsLength(shownCharacters);
   combo.setFocusPolicy(Qt::StrongFocus);
   combo.installEventFilter(new WheelGuard(&combo));
-  Binding& binding = attach(combo, control, Follow::All, [&](Aspect aspect) { refresh(combo, control, aspect); });
-  QObject::connect(&combo, &QComboBox::activated, &binding, [&](int row) { control.setListIndex(row); });
+  Binding& binding =
+      attach(combo, control, Follow::All, [&](Aspect aspect) { refresh(combo, control, aspect); });
+  QObject::connect(&combo, &QComboBox::activated, &binding,
+                   [&](int row) { control.setListIndex(row); });
   if (combo.isEditable()) listenToLine(binding, *combo.lineEdit(), control);
 }
 

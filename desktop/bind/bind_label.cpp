@@ -67,7 +67,8 @@ void bind(QScrollBar& bar, forms::ScrollBar& control) {
   Binding& binding = attach(bar, control, Follow::All, [&](Aspect aspect) {
     if (aspect == Aspect::Range || aspect == Aspect::Selection) showRange(bar, control);
   });
-  QObject::connect(&bar, &QScrollBar::valueChanged, &binding, [&](int value) { control.setValue(value); });
+  QObject::connect(&bar, &QScrollBar::valueChanged, &binding,
+                   [&](int value) { control.setValue(value); });
 }
 
 void bindStatus(QWidget& bar, forms::StatusBar& control, const std::vector<QLabel*>& panels) {

@@ -21,7 +21,8 @@ void bind(QScrollBar& bar, forms::ScrollBar& control);
 // One label per panel of the status bar, in their order.
 void bindStatus(QWidget& bar, forms::StatusBar& control, const std::vector<QLabel*>& panels);
 
-// Paints the widget's background; without a colour it is the window's own. Text on it stays readable.
+// Paints the widget's background; without a colour it is the window's own. Text on it stays
+// readable.
 void setBackColour(QWidget& widget, forms::OptionalColour colour);
 
 }  // namespace desktop

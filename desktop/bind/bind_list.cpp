@@ -36,7 +36,8 @@ void showSelected(QAbstractItemView& view, const forms::ListBox& list) {
 }
 
 void takeSelected(const QItemSelection& changed, bool selected, forms::ListBox& list) {
-  for (const QModelIndex& index : changed.indexes()) list.setSelected(static_cast<std::size_t>(index.row()), selected);
+  for (const QModelIndex& index : changed.indexes())
+    list.setSelected(static_cast<std::size_t>(index.row()), selected);
 }
 
 void refreshList(QListView& view, ListBoxModel& model, const forms::ListBox& list, Aspect aspect) {
@@ -65,8 +66,8 @@ void bind(QListView& view, forms::ListBox& list) {
   view.setUniformItemSizes(true);
   view.setEditTriggers(QAbstractItemView::NoEditTriggers);
   view.setModel(model);
-  Binding& binding =
-      attach(view, list, Follow::All, [&, model](Aspect aspect) { refreshList(view, *model, list, aspect); });
+  Binding& binding = attach(view, list, Follow::All,
+                            [&, model](Aspect aspect) { refreshList(view, *model, list, aspect); });
   if (list.choice() == forms::ListChoice::Several) listenToSeveral(binding, view, list);
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
                    [&](const QModelIndex& current) { list.setListIndex(current.row()); });
@@ -81,7 +82,8 @@ void bind(QTreeView& view, forms::ListView& list) {
   view.setModel(model);
   Binding& binding = attach(view, list, Follow::All, [&view, &list, model](Aspect aspect) {
     if (aspect == Aspect::Items) model->refresh();
-    if (aspect == Aspect::Items || aspect == Aspect::Selection) showCurrent(view, list.selectedRow());
+    if (aspect == Aspect::Items || aspect == Aspect::Selection)
+      showCurrent(view, list.selectedRow());
   });
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
                    [&](const QModelIndex& current) { list.setSelectedRow(current.row()); });

@@ -1,7 +1,6 @@
 #include "desktop/bind/bind_menu.h"
 
 #include <QMenu>
-#include <QSet>
 
 #include "desktop/bind/binding.h"
 #include "desktop/icons.h"
@@ -16,7 +15,8 @@ using forms::Aspect;
 
 // Shortcuts that every window of the program has, unless an entry brings its own.
 QKeySequence shortcutOf(const forms::MenuItem& item) {
-  if (!item.shortcut().empty()) return QKeySequence(qs(item.shortcut()), QKeySequence::PortableText);
+  if (!item.shortcut().empty())
+    return QKeySequence(qs(item.shortcut()), QKeySequence::PortableText);
   if (item.name() == "mnuyeni") return QKeySequence::New;
   if (item.name() == "mnukaydet") return QKeySequence::Save;
   if (item.name() == "mnuyazdır") return QKeySequence::Print;
@@ -24,27 +24,17 @@ QKeySequence shortcutOf(const forms::MenuItem& item) {
   return {};
 }
 
-// The first letter of the caption that no entry before it took.
-QString marked(const QString& caption, QSet<QChar>& taken) {
-  QString text = withoutMnemonic(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
-  for (qsizetype at = 0; at < text.size(); ++at) {
-    const QChar letter = text[at].toUpper();
-    if (!letter.isLetterOrNumber() || taken.contains(letter)) continue;
-    taken.insert(letter);
-    return text.insert(at, QLatin1Char('&'));
-  }
-  return text;
-}
-
 void markMnemonics(const QList<QAction*>& actions) {
   QSet<QChar> taken;
   for (QAction* action : actions) {
-    if (action->isVisible() && !action->isSeparator()) action->setText(marked(action->text(), taken));
+    if (action->isVisible() && !action->isSeparator())
+      action->setText(withMnemonic(action->text(), taken));
   }
 }
 
 bool hasVisibleEntry(const forms::MenuItem& item) {
-  return item.children().empty() || std::ranges::any_of(item.children(), [](const forms::MenuItem* child) {
+  return item.children().empty() ||
+         std::ranges::any_of(item.children(), [](const forms::MenuItem* child) {
            return child->visible() && child->kind() == forms::MenuKind::Item;
          });
 }
@@ -100,7 +90,9 @@ class MenuBuilder {
   static void refreshAround(QWidget& menu, const forms::MenuItem& item) {
     if (item.parent() != nullptr) {
       auto* const parent = qobject_cast<QMenu*>(&menu);
-      if (parent != nullptr) parent->menuAction()->setVisible(item.parent()->visible() && hasVisibleEntry(*item.parent()));
+      if (parent != nullptr)
+        parent->menuAction()->setVisible(item.parent()->visible() &&
+                                         hasVisibleEntry(*item.parent()));
     }
     markMnemonics(menu.actions());
   }

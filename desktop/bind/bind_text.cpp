@@ -33,11 +33,13 @@ void reportSelection(const QLineEdit& edit, forms::TextControl& control) {
   const QString text = edit.text();
   const bool selected = edit.hasSelectedText();
   const qsizetype start = selected ? edit.selectionStart() : edit.cursorPosition();
-  const std::size_t length = selected ? charactersBefore(edit.selectedText(), edit.selectionLength()) : 0;
+  const std::size_t length =
+      selected ? charactersBefore(edit.selectedText(), edit.selectionLength()) : 0;
   control.selectionMoved(charactersBefore(text, start), length);
 }
 
-// What the control does not take (a text beyond its length, a handler's correction) is shown as it stands there.
+// What the control does not take (a text beyond its length, a handler's correction) is shown as it
+// stands there.
 void takeLine(QLineEdit& edit, forms::TextControl& control) {
   const QPointer<QLineEdit> alive(&edit);
   const int cursor = edit.cursorPosition();
@@ -84,14 +86,17 @@ void refreshLine(QLineEdit& edit, const forms::TextControl& control, Aspect aspe
 
 void listenToLine(Binding& binding, QLineEdit& edit, forms::TextControl& control) {
   QObject::connect(&edit, &QLineEdit::textEdited, &binding, [&] { takeLine(edit, control); });
-  QObject::connect(&edit, &QLineEdit::selectionChanged, &binding, [&] { reportSelection(edit, control); });
-  QObject::connect(&edit, &QLineEdit::cursorPositionChanged, &binding, [&] { reportSelection(edit, control); });
+  QObject::connect(&edit, &QLineEdit::selectionChanged, &binding,
+                   [&] { reportSelection(edit, control); });
+  QObject::connect(&edit, &QLineEdit::cursorPositionChanged, &binding,
+                   [&] { reportSelection(edit, control); });
   forwardKeys(binding, edit, control, [&](const QString& typed) { edit.insert(typed); });
 }
 
 void bind(QLineEdit& edit, forms::TextBox& box) {
   if (box.echo() == forms::TextEcho::Password) edit.setEchoMode(QLineEdit::Password);
-  Binding& binding = attach(edit, box, Follow::All, [&](Aspect aspect) { refreshLine(edit, box, aspect); });
+  Binding& binding =
+      attach(edit, box, Follow::All, [&](Aspect aspect) { refreshLine(edit, box, aspect); });
   listenToLine(binding, edit, box);
 }
 
@@ -105,7 +110,8 @@ void bind(QPlainTextEdit& edit, forms::TextBox& box) {
     box.setText(utf8(edit.toPlainText()));
     showPlainText(edit, box);
   });
-  QObject::connect(&edit, &QPlainTextEdit::cursorPositionChanged, &binding, [&] { reportPlainSelection(edit, box); });
+  QObject::connect(&edit, &QPlainTextEdit::cursorPositionChanged, &binding,
+                   [&] { reportPlainSelection(edit, box); });
   forwardKeys(binding, edit, box, [&](const QString& typed) { edit.insertPlainText(typed); });
 }
 

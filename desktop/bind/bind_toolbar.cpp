@@ -13,15 +13,18 @@ namespace {
 using forms::Aspect;
 using forms::ToolButton;
 
-bool isSeparator(const ToolButton& button) { return button.kind == forms::ButtonKind::Separator; }
+bool isSeparator(const ToolButton& button) {
+  return button.kind == forms::ButtonKind::Separator;
+}
 
 void addActions(QToolBar& bar, const forms::Toolbar& control) {
-  bar.clear();
+  qDeleteAll(bar.actions());
   for (const ToolButton& button : control.buttons()) {
     QAction* const action = isSeparator(button) ? bar.addSeparator() : bar.addAction(QString());
     action->setObjectName(qs(button.key));
     if (isSeparator(button)) continue;
-    QObject::connect(action, &QAction::triggered, bindingOf(bar), [&control, key = button.key] { control.press(key); });
+    QObject::connect(action, &QAction::triggered, bindingOf(bar),
+                     [&control, key = button.key] { control.press(key); });
   }
 }
 
@@ -78,11 +81,9 @@ void refreshTabs(QTabBar& bar, const forms::TabStrip& control) {
 
 void bind(QToolBar& bar, forms::Toolbar& control) {
   attach(bar, control, Follow::All, [&](Aspect aspect) {
-    if (aspect == Aspect::Items && bindingOf(bar) != nullptr) addActions(bar, control);
+    if (aspect == Aspect::Items) addActions(bar, control);
     refreshBar(bar, control);
   });
-  addActions(bar, control);
-  refreshBar(bar, control);
 }
 
 void bind(QTabBar& bar, forms::TabStrip& control) {

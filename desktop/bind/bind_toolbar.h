@@ -9,7 +9,8 @@
 
 namespace desktop {
 
-// One action per button, whose object name is the button's key. Separators with nothing on one side are not shown.
+// One action per button, whose object name is the button's key. Separators with nothing on one side
+// are not shown.
 void bind(QToolBar& bar, forms::Toolbar& control);
 void bind(QTabBar& bar, forms::TabStrip& control);
 

@@ -6,18 +6,20 @@ namespace desktop {
 
 namespace {
 
-constexpr forms::Aspect everyAspect[] = {forms::Aspect::Caption, forms::Aspect::ToolTip,   forms::Aspect::Range,
-                                         forms::Aspect::Items,   forms::Aspect::Text,      forms::Aspect::Selection,
-                                         forms::Aspect::Image,   forms::Aspect::Paint,     forms::Aspect::Enabled,
-                                         forms::Aspect::Visible};
+constexpr forms::Aspect everyAspect[] = {
+    forms::Aspect::Caption, forms::Aspect::ToolTip,   forms::Aspect::Range, forms::Aspect::Items,
+    forms::Aspect::Text,    forms::Aspect::Selection, forms::Aspect::Image, forms::Aspect::Paint,
+    forms::Aspect::Enabled, forms::Aspect::Visible};
 
 QString spokenName(const forms::Control& control) {
   return withoutMnemonic(qs(control.caption().empty() ? control.toolTip() : control.caption()));
 }
 
-void applyCommon(QWidget& widget, const forms::Control& control, Follow follow, forms::Aspect aspect) {
+void applyCommon(QWidget& widget, const forms::Control& control, Follow follow,
+                 forms::Aspect aspect) {
   if (aspect == forms::Aspect::Enabled) widget.setEnabled(control.enabled());
-  if (aspect == forms::Aspect::Visible && follow == Follow::All) widget.setVisible(control.visible());
+  if (aspect == forms::Aspect::Visible && follow == Follow::All)
+    widget.setVisible(control.visible());
   if (aspect == forms::Aspect::ToolTip) widget.setToolTip(qs(control.toolTip()));
   if (aspect == forms::Aspect::ToolTip || aspect == forms::Aspect::Caption) {
     widget.setAccessibleName(spokenName(control));
@@ -33,7 +35,9 @@ Binding::Binding(QObject& view, forms::Control& control, Refresh refresh)
   control_.observer = [this](forms::Aspect aspect) { observe(aspect); };
 }
 
-Binding::~Binding() { control_.observer = nullptr; }
+Binding::~Binding() {
+  control_.observer = nullptr;
+}
 
 void Binding::observe(forms::Aspect aspect) {
   refresh_(aspect);
@@ -61,7 +65,9 @@ Binding& attach(QWidget& widget, forms::Control& control, Follow follow, Binding
   return *new Binding(widget, control, std::move(both));
 }
 
-Binding* bindingOf(const QObject& view) { return view.findChild<Binding*>(QString(), Qt::FindDirectChildrenOnly); }
+Binding* bindingOf(const QObject& view) {
+  return view.findChild<Binding*>(QString(), Qt::FindDirectChildrenOnly);
+}
 
 forms::Control* controlOf(const QWidget* widget) {
   for (; widget != nullptr; widget = widget->parentWidget()) {
@@ -75,6 +81,8 @@ void showCaption(QLabel& label, QWidget& field) {
   if (Binding* const binding = bindingOf(field)) binding->setCaptionLabel(label, field);
 }
 
-void releaseBindings(QObject& window) { qDeleteAll(window.findChildren<Binding*>()); }
+void releaseBindings(QObject& window) {
+  qDeleteAll(window.findChildren<Binding*>());
+}
 
 }  // namespace desktop

@@ -11,8 +11,9 @@
 
 namespace desktop {
 
-// Lives as a child of the view; observes the control until one of the two goes. Every connection and event filter of
-// a view to its control has its binding as context, so that releasing the binding ends them all.
+// Lives as a child of the view; observes the control until one of the two goes. Every connection
+// and event filter of a view to its control has its binding as context, so that releasing the
+// binding ends them all.
 class Binding : public QObject {
   Q_OBJECT
  public:
@@ -34,11 +35,13 @@ class Binding : public QObject {
   QPointer<QLabel> captionLabel_;
 };
 
-// What of the control the binding applies to the widget by itself. A page of a stack is shown by its stack.
+// What of the control the binding applies to the widget by itself. A page of a stack is shown by
+// its stack.
 enum class Follow { All, AllButVisible };
 
-// Names the widget after the control and keeps what all widgets have in common: enabled, visible, tool-tip and the
-// name that a screen reader says. `refresh` draws the rest; it is called once for every aspect at the start.
+// Names the widget after the control and keeps what all widgets have in common: enabled, visible,
+// tool-tip and the name that a screen reader says. `refresh` draws the rest; it is called once for
+// every aspect at the start.
 Binding& attach(QWidget& widget, forms::Control& control, Follow follow, Binding::Refresh refresh);
 
 // The binding of a widget, or null.

@@ -13,12 +13,24 @@ namespace code = forms::key_code;
 
 constexpr int otherKey = 255;
 constexpr std::array<std::pair<int, int>, 19> namedKeys{{
-    {Qt::Key_Backspace, code::Backspace}, {Qt::Key_Tab, code::Tab},       {Qt::Key_Backtab, code::Tab},
-    {Qt::Key_Return, code::Enter},        {Qt::Key_Enter, code::Enter},   {Qt::Key_Shift, 16},
-    {Qt::Key_Control, 17},                {Qt::Key_Alt, 18},              {Qt::Key_CapsLock, 20},
-    {Qt::Key_Escape, code::Escape},       {Qt::Key_Space, code::Space},   {Qt::Key_PageUp, 33},
-    {Qt::Key_PageDown, 34},               {Qt::Key_End, code::End},       {Qt::Key_Home, code::Home},
-    {Qt::Key_Left, code::Left},           {Qt::Key_Up, code::Up},         {Qt::Key_Right, code::Right},
+    {Qt::Key_Backspace, code::Backspace},
+    {Qt::Key_Tab, code::Tab},
+    {Qt::Key_Backtab, code::Tab},
+    {Qt::Key_Return, code::Enter},
+    {Qt::Key_Enter, code::Enter},
+    {Qt::Key_Shift, 16},
+    {Qt::Key_Control, 17},
+    {Qt::Key_Alt, 18},
+    {Qt::Key_CapsLock, 20},
+    {Qt::Key_Escape, code::Escape},
+    {Qt::Key_Space, code::Space},
+    {Qt::Key_PageUp, 33},
+    {Qt::Key_PageDown, 34},
+    {Qt::Key_End, code::End},
+    {Qt::Key_Home, code::Home},
+    {Qt::Key_Left, code::Left},
+    {Qt::Key_Up, code::Up},
+    {Qt::Key_Right, code::Right},
     {Qt::Key_Down, code::Down},
 }};
 
@@ -29,7 +41,8 @@ int codeOf(int key) {
   if (key == Qt::Key_Insert) return 45;
   if (key == Qt::Key_Delete) return code::Delete;
   if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return code::F1 + key - Qt::Key_F1;
-  const bool letterOrDigit = (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
+  const bool letterOrDigit =
+      (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
   // Signs get a number of their own, since their ASCII codes are those of the steering keys.
   return letterOrDigit ? key : otherKey;
 }
@@ -37,7 +50,8 @@ int codeOf(int key) {
 // The character that a key press types; 0 when it types none.
 char32_t typedCharacter(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return code::Enter;
-  const bool command = event.modifiers().testFlag(Qt::ControlModifier) != event.modifiers().testFlag(Qt::AltModifier);
+  const bool command = event.modifiers().testFlag(Qt::ControlModifier) !=
+                       event.modifiers().testFlag(Qt::AltModifier);
   const QList<uint> typed = event.text().toUcs4();
   if (typed.size() != 1 || typed[0] < ' ' || typed[0] == 127 || command) return 0;
   return typed[0];
@@ -45,15 +59,22 @@ char32_t typedCharacter(const QKeyEvent& event) {
 
 class KeyForwarder : public QObject {
  public:
-  KeyForwarder(QObject& parent, forms::TextControl& control, std::function<void(const QString&)> insert)
+  KeyForwarder(QObject& parent, forms::TextControl& control,
+               std::function<void(const QString&)> insert)
       : QObject(&parent), control_(control), insert_(std::move(insert)) {}
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     switch (event->type()) {
-      case QEvent::KeyPress: return pressed(*static_cast<QKeyEvent*>(event));
-      case QEvent::KeyRelease: released(*static_cast<QKeyEvent*>(event)); return false;
-      case QEvent::MouseButtonDblClick: control_.DblClick(); return false;
-      default: return QObject::eventFilter(watched, event);
+      case QEvent::KeyPress:
+        return pressed(*static_cast<QKeyEvent*>(event));
+      case QEvent::KeyRelease:
+        released(*static_cast<QKeyEvent*>(event));
+        return false;
+      case QEvent::MouseButtonDblClick:
+        control_.DblClick();
+        return false;
+      default:
+        return QObject::eventFilter(watched, event);
     }
   }
 

@@ -11,8 +11,8 @@ namespace desktop {
 
 [[nodiscard]] forms::Key keyOf(const QKeyEvent& event);
 
-// Hands the keys and double clicks of a text widget to its control: a typed character first goes through KeyPress,
-// whose handler may replace or eat it; `insert` types what replaces it.
+// Hands the keys and double clicks of a text widget to its control: a typed character first goes
+// through KeyPress, whose handler may replace or eat it; `insert` types what replaces it.
 void forwardKeys(Binding& binding, QWidget& widget, forms::TextControl& control,
                  std::function<void(const QString&)> insert);
 

@@ -9,14 +9,17 @@ namespace {
 // The text at a place, as far as it is still there: the control may be ahead of the view.
 template <class Texts>
 QString textAt(const Texts& texts, int place) {
-  return place >= 0 && std::cmp_less(place, texts.size()) ? qs(texts[static_cast<std::size_t>(place)]) : QString();
+  return place >= 0 && std::cmp_less(place, texts.size())
+             ? qs(texts[static_cast<std::size_t>(place)])
+             : QString();
 }
 
 }  // namespace
 
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(index.row());
-  if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.count()) return {};
+  if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.count())
+    return {};
   return qs(list_.items()[row].text);
 }
 
@@ -38,7 +41,8 @@ void ListBoxModel::refresh() {
 
 QVariant ListViewModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(index.row());
-  if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.rows().size()) return {};
+  if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.rows().size())
+    return {};
   return textAt(list_.rows()[row].cells, index.column());
 }
 

@@ -1,4 +1,5 @@
-// Models over the rows of list controls: nothing is copied, so a hundred thousand rows cost nothing to show.
+// Models over the rows of list controls: nothing is copied, so a hundred thousand rows cost nothing
+// to show.
 #pragma once
 
 #include <QAbstractListModel>
@@ -11,9 +12,12 @@ namespace desktop {
 class ListBoxModel : public QAbstractListModel {
   Q_OBJECT
  public:
-  ListBoxModel(const forms::ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
+  ListBoxModel(const forms::ListBox& list, QObject* parent)
+      : QAbstractListModel(parent), list_(list) {}
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : rows_;
+  }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   // The rows of the control changed. Rows that were added leave the view where it is.
   void refresh();
@@ -26,14 +30,18 @@ class ListBoxModel : public QAbstractListModel {
 class ListViewModel : public QAbstractTableModel {
   Q_OBJECT
  public:
-  ListViewModel(const forms::ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(list) {}
+  ListViewModel(const forms::ListView& list, QObject* parent)
+      : QAbstractTableModel(parent), list_(list) {}
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : rows_;
+  }
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override {
     return parent.isValid() ? 0 : columns_;
   }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                    int role) const override;
   void refresh();
 
  private:

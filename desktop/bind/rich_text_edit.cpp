@@ -19,25 +19,50 @@ namespace {
 
 const QString richTextType = QStringLiteral("text/rtf");
 
-struct EditKey {
+using Edit = void (*)(richtext::Editor& editor);
+
+constexpr double paperMargin = 12;
+
+struct EditCommand {
   QKeySequence::StandardKey key;
-  void (*apply)(richtext::Editor& editor);
+  Edit apply;
 };
-constexpr EditKey editKeys[] = {
+constexpr EditCommand editCommands[] = {
     {QKeySequence::Undo, [](richtext::Editor& e) { e.undo(); }},
     {QKeySequence::Redo, [](richtext::Editor& e) { e.redo(); }},
     {QKeySequence::Bold, [](richtext::Editor& e) { e.setSelBold(!e.selBold().value_or(false)); }},
-    {QKeySequence::Italic, [](richtext::Editor& e) { e.setSelItalic(!e.selItalic().value_or(false)); }},
-    {QKeySequence::Underline, [](richtext::Editor& e) { e.setSelUnderline(!e.selUnderline().value_or(false)); }},
-    {QKeySequence::Backspace, [](richtext::Editor& e) { e.backspace(); }},
-    {QKeySequence::Delete, [](richtext::Editor& e) { e.deleteForward(); }},
-    {QKeySequence::InsertParagraphSeparator, [](richtext::Editor& e) { e.insert("\n"); }},
-    {QKeySequence::InsertLineSeparator, [](richtext::Editor& e) { e.insert("\n"); }},
+    {QKeySequence::Italic,
+     [](richtext::Editor& e) { e.setSelItalic(!e.selItalic().value_or(false)); }},
+    {QKeySequence::Underline,
+     [](richtext::Editor& e) { e.setSelUnderline(!e.selUnderline().value_or(false)); }},
 };
 
+struct EditKey {
+  int key;
+  Edit apply;
+};
+constexpr EditKey editKeys[] = {
+    {Qt::Key_Backspace, [](richtext::Editor& e) { e.backspace(); }},
+    {Qt::Key_Delete, [](richtext::Editor& e) { e.deleteForward(); }},
+    {Qt::Key_Return, [](richtext::Editor& e) { e.insert("\n"); }},
+    {Qt::Key_Enter, [](richtext::Editor& e) { e.insert("\n"); }},
+};
+
+Edit editOf(const QKeyEvent& event) {
+  for (const EditCommand& row : editCommands) {
+    if (event.matches(row.key)) return row.apply;
+  }
+  for (const EditKey& row : editKeys) {
+    if (event.key() == row.key && !event.modifiers().testFlag(Qt::ControlModifier))
+      return row.apply;
+  }
+  return nullptr;
+}
+
 bool isTyped(const QKeyEvent& event) {
-  const bool command = event.modifiers().testFlag(Qt::ControlModifier) != event.modifiers().testFlag(Qt::AltModifier);
-  return !event.text().isEmpty() && !command && (event.text()[0].isPrint() || event.text()[0] == QLatin1Char('\t'));
+  const bool command = event.modifiers().testFlag(Qt::ControlModifier) !=
+                       event.modifiers().testFlag(Qt::AltModifier);
+  return !event.text().isEmpty() && !command && event.text()[0].isPrint();
 }
 
 // A text that is printed shows as on paper, on a dark desk too.
@@ -59,8 +84,13 @@ void writeParagraph(QTextCursor& cursor, const richtext::Paragraph& paragraph) {
 }  // namespace
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
+  // The toolkit moves the cursor and selects; it never edits by itself.
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setAttribute(Qt::WA_InputMethodEnabled);
   setUndoRedoEnabled(false);
+  setAcceptDrops(false);
   setPalette(paper());
+  document()->setDocumentMargin(paperMargin);
   setTabChangesFocus(true);
   connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextEdit::reportSelection);
   connect(this, &QTextEdit::selectionChanged, this, &RichTextEdit::reportSelection);
@@ -85,8 +115,10 @@ void RichTextEdit::refresh() {
   std::size_t head = 0;
   while (head < shorter && now[head] == shown_[head]) ++head;
   std::size_t tail = 0;
-  while (tail < shorter - head && now[now.size() - 1 - tail] == shown_[shown_.size() - 1 - tail]) ++tail;
-  if (head != now.size() || head != shown_.size()) replaceBlocks(head, shown_.size() - head - tail, now.size() - head - tail);
+  while (tail < shorter - head && now[now.size() - 1 - tail] == shown_[shown_.size() - 1 - tail])
+    ++tail;
+  if (head != now.size() || head != shown_.size())
+    replaceBlocks(head, shown_.size() - head - tail, now.size() - head - tail);
   shown_ = now;
   refreshSelection();
 }
@@ -100,7 +132,8 @@ void RichTextEdit::replaceBlocks(std::size_t first, std::size_t oldCount, std::s
   QTextCursor cursor(document());
   cursor.beginEditBlock();
   const bool atEnd = first >= blocks;
-  const QTextBlock start = document()->findBlockByNumber(static_cast<int>(atEnd ? blocks - 1 : first));
+  const QTextBlock start =
+      document()->findBlockByNumber(static_cast<int>(atEnd ? blocks - 1 : first));
   cursor.setPosition(atEnd ? start.position() + start.length() - 1 : start.position());
   if (oldCount > 0) {
     const QTextBlock last = document()->findBlockByNumber(static_cast<int>(first + oldCount - 1));
@@ -146,7 +179,8 @@ void RichTextEdit::reportSelection() {
 std::size_t RichTextEdit::characterAt(int position) const {
   std::size_t characters = 0;
   const QTextBlock end = document()->findBlock(position);
-  for (QTextBlock block = document()->begin(); block.isValid() && block != end; block = block.next()) {
+  for (QTextBlock block = document()->begin(); block.isValid() && block != end;
+       block = block.next()) {
     characters += charactersBefore(block.text(), block.text().size()) + 1;
   }
   return characters + charactersBefore(end.text(), position - end.position());
@@ -169,17 +203,17 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
 }
 
 bool RichTextEdit::editByKey(const QKeyEvent& event) {
-  if (isReadOnly()) return false;
-  if (event.matches(QKeySequence::Cut)) return cutSelection(), true;
-  for (const EditKey& row : editKeys) {
-    if (event.matches(row.key)) return edit(row.apply), true;
+  if (event.matches(QKeySequence::Cut)) {
+    cutSelection();
+  } else if (event.matches(QKeySequence::Paste)) {
+    paste();
+  } else if (const Edit apply = editOf(event)) {
+    edit(apply);
+  } else if (isTyped(event) && event.key() != Qt::Key_Tab) {
+    edit([&](richtext::Editor& editor) { editor.insert(utf8(event.text())); });
+  } else {
+    return false;
   }
-  if (!isTyped(event) || (tabChangesFocus() && event.key() == Qt::Key_Tab)) {
-    // What would change the text without the editor knowing it is no key of this widget.
-    return event.matches(QKeySequence::DeleteStartOfWord) || event.matches(QKeySequence::DeleteEndOfWord) ||
-           event.matches(QKeySequence::DeleteEndOfLine);
-  }
-  edit([&](richtext::Editor& editor) { editor.insert(utf8(event.text())); });
   return true;
 }
 
@@ -199,18 +233,23 @@ QMimeData* RichTextEdit::createMimeDataFromSelection() const {
   auto* const mime = new QMimeData;
   if (box() == nullptr) return mime;
   mime->setText(qs(box_->editor().selText()));
-  mime->setData(richTextType, QByteArray::fromStdString(richtext::Editor(box_->editor().copy()).textRTF()));
+  mime->setData(richTextType,
+                QByteArray::fromStdString(richtext::Editor(box_->editor().copy()).textRTF()));
   return mime;
 }
 
 void RichTextEdit::insertFromMimeData(const QMimeData* source) {
   richtext::Editor foreign;
-  const bool rich = source->hasFormat(richTextType) && foreign.setTextRTF(source->data(richTextType).toStdString());
+  const bool rich = source->hasFormat(richTextType) &&
+                    foreign.setTextRTF(source->data(richTextType).toStdString());
   if (rich) return edit([&](richtext::Editor& editor) { editor.paste(foreign.document()); });
-  if (source->hasText()) edit([&](richtext::Editor& editor) { editor.insert(utf8(source->text())); });
+  if (source->hasText())
+    edit([&](richtext::Editor& editor) { editor.insert(utf8(source->text())); });
 }
 
 // The toolkit's menu edits the shown text behind the editor's back.
-void RichTextEdit::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
+void RichTextEdit::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+}
 
 }  // namespace desktop

@@ -1,4 +1,5 @@
-// A text edit whose content is the seam's editor: what is typed goes there, and the changed paragraphs come back.
+// A text edit whose content is the seam's editor: what is typed goes there, and the changed
+// paragraphs come back.
 #pragma once
 
 #include <QPointer>

@@ -10,9 +10,12 @@ constexpr double twipsPerPixel = 15.0;
 
 Qt::Alignment alignmentOf(richtext::Alignment alignment) {
   switch (alignment) {
-    case richtext::Alignment::Right: return Qt::AlignRight;
-    case richtext::Alignment::Centre: return Qt::AlignHCenter;
-    case richtext::Alignment::Left: break;
+    case richtext::Alignment::Right:
+      return Qt::AlignRight;
+    case richtext::Alignment::Centre:
+      return Qt::AlignHCenter;
+    case richtext::Alignment::Left:
+      break;
   }
   return Qt::AlignLeft;
 }

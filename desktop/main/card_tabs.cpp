@@ -10,7 +10,8 @@ namespace desktop {
 
 namespace {
 
-void addPage(QTabWidget& tabs, forms::Panel& panel, std::initializer_list<forms::TextControl*> fields) {
+void addPage(QTabWidget& tabs, forms::Panel& panel,
+             std::initializer_list<forms::TextControl*> fields) {
   auto* const page = new FieldColumns(&tabs);
   bind(*page, panel, Follow::AllButVisible);
   page->setContentsMargins(gap::large, gap::large, gap::large, gap::large);
@@ -28,11 +29,11 @@ void addPage(QTabWidget& tabs, forms::Panel& panel, std::initializer_list<forms:
 QWidget* cardTabs(registry::FrmMain& form, QWidget& parent) {
   auto* const tabs = new QTabWidget(&parent);
   addPage(*tabs, form.PKişisel,
-          {&form.ComKanGrubu, &form.comdogumyeri, &form.ComMeslek, &form.TxtAnaAdı, &form.TxtBabaAdı, &form.TxtKimlikNo,
-           &form.ComRefere});
+          {&form.ComKanGrubu, &form.comdogumyeri, &form.ComMeslek, &form.TxtAnaAdı,
+           &form.TxtBabaAdı, &form.TxtKimlikNo, &form.ComRefere});
   addPage(*tabs, form.PAdres,
-          {&form.ComHitap, &form.TxtAdres1, &form.TxtAdres2, &form.TxtAdres3, &form.TxtAdres4, &form.TxtTelefon1,
-           &form.TxtTelefon2, &form.TxtMobil, &form.TxtFax, &form.TxtMail});
+          {&form.ComHitap, &form.TxtAdres1, &form.TxtAdres2, &form.TxtAdres3, &form.TxtAdres4,
+           &form.TxtTelefon1, &form.TxtTelefon2, &form.TxtMobil, &form.TxtFax, &form.TxtMail});
   addPage(*tabs, form.PKurum,
           {&form.ComKurum, &form.TxtÇalışan, &form.TxtSicil, &form.comgorev, &form.comyakinlik});
   addPage(*tabs, form.PNot, {&form.txtnot});

@@ -23,7 +23,8 @@ QStatusBar* mainStatus(registry::FrmMain& form, QWidget& parent) {
     auto* const panel = new ElidedLabel(bar);
     if (i == folderPanel) panel->setMaximumWidth(characters(*bar, folderCharacters));
     panel->setContentsMargins(gap::small, 0, gap::small, 0);
-    i <= statePanel ? bar->addWidget(panel, i == statePanel ? 1 : 0) : bar->addPermanentWidget(panel);
+    i <= statePanel ? bar->addWidget(panel, i == statePanel ? 1 : 0)
+                    : bar->addPermanentWidget(panel);
     panels.push_back(panel);
   }
   bindStatus(*bar, form.sbDurum, panels);

@@ -45,7 +45,8 @@ void placeSplitter(QSplitter& splitter, int left) {
 // The place of the splitter is kept by the screen as the caption of a label that never shows.
 void bindSplitter(QSplitter& splitter, forms::Label& place) {
   auto* const binding = new Binding(splitter, place, [&](forms::Aspect aspect) {
-    if (aspect == forms::Aspect::Caption) placeSplitter(splitter, qs(place.caption()).toInt() / twipsPerPixel);
+    if (aspect == forms::Aspect::Caption)
+      placeSplitter(splitter, qs(place.caption()).toInt() / twipsPerPixel);
   });
   QObject::connect(&splitter, &QSplitter::splitterMoved, binding, [&](int, int) {
     const std::string moved = std::to_string(splitter.sizes().front() * twipsPerPixel);

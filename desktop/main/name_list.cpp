@@ -38,7 +38,8 @@ NameList::NameList(forms::ListBox& list, QLineEdit& field)
   layout->setSpacing(0);
   layout->addWidget(view_);
   layout->addWidget(count_);
-  connect(view_, &QListView::clicked, this, [this](const QModelIndex& index) { take(index.row()); });
+  connect(view_, &QListView::clicked, this,
+          [this](const QModelIndex& index) { take(index.row()); });
   attach(*this, list, Follow::All, [this](forms::Aspect aspect) { refresh(aspect); });
   field.installEventFilter(this);
 }
@@ -55,20 +56,24 @@ void NameList::place() {
   if (parentWidget() != field_.window()) setParent(field_.window());
   view_->setFixedHeight(rows * row + 2);
   const QPoint below = field_.mapTo(field_.window(), QPoint(0, field_.height()));
-  setGeometry(QRect(below, QSize(field_.width(), rows * row + 2 + count_->sizeHint().height() + 2)));
+  setGeometry(
+      QRect(below, QSize(field_.width(), rows * row + 2 + count_->sizeHint().height() + 2)));
   raise();
   setVisible(list_.visible());
 }
 
 bool NameList::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
-    case QEvent::KeyPress: return keyPressed(static_cast<QKeyEvent*>(event)->key());
-    case QEvent::KeyRelease: return keyReleased(static_cast<QKeyEvent*>(event)->key());
+    case QEvent::KeyPress:
+      return keyPressed(static_cast<QKeyEvent*>(event)->key());
+    case QEvent::KeyRelease:
+      return keyReleased(static_cast<QKeyEvent*>(event)->key());
     case QEvent::Resize:
     case QEvent::Move:
       if (list_.visible()) place();
       return false;
-    default: return QFrame::eventFilter(watched, event);
+    default:
+      return QFrame::eventFilter(watched, event);
   }
 }
 
@@ -91,18 +96,25 @@ bool NameList::steer(int key) {
     return true;
   };
   switch (key) {
-    case Qt::Key_Down: return mark(marked + 1);
-    case Qt::Key_Up: return mark(marked - 1);
-    case Qt::Key_PageDown: return mark(marked + list_.visibleRows());
-    case Qt::Key_PageUp: return mark(marked - list_.visibleRows());
-    case Qt::Key_Escape: list_.setVisible(false); return true;
+    case Qt::Key_Down:
+      return mark(marked + 1);
+    case Qt::Key_Up:
+      return mark(marked - 1);
+    case Qt::Key_PageDown:
+      return mark(marked + list_.visibleRows());
+    case Qt::Key_PageUp:
+      return mark(marked - list_.visibleRows());
+    case Qt::Key_Escape:
+      list_.setVisible(false);
+      return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       // Without a mark, Enter goes to the next field like everywhere.
       if (marked < 0) return false;
       take(marked);
       return true;
-    default: return false;
+    default:
+      return false;
   }
 }
 

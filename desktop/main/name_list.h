@@ -12,7 +12,8 @@ namespace desktop {
 
 class ListBoxModel;
 
-// Down and Up move the mark, Enter takes the marked name, Esc closes. The list's row is set by taking a name only.
+// Down and Up move the mark, Enter takes the marked name, Esc closes. The list's row is set by
+// taking a name only.
 class NameList : public QFrame {
   Q_OBJECT
  public:

@@ -84,7 +84,8 @@ QWidget* PhotoPanel::makeAge() {
 
 void PhotoPanel::showSummary() {
   QStringList lines;
-  for (const forms::TextControl* field : std::initializer_list<const forms::TextControl*>{&form_.TxtDTarihi, &form_.ComKanGrubu}) {
+  for (const forms::TextControl* field :
+       std::initializer_list<const forms::TextControl*>{&form_.TxtDTarihi, &form_.ComKanGrubu}) {
     if (!field->text().empty()) lines << qs(field->text());
   }
   summary_->setText(lines.join(QLatin1Char('\n')));

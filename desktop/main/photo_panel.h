@@ -1,4 +1,5 @@
-// Left of the card: the photograph on the colour of the sex, the patient in short, and the file numbers.
+// Left of the card: the photograph on the colour of the sex, the patient in short, and the file
+// numbers.
 #pragma once
 
 #include <QLabel>

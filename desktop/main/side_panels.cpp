@@ -36,8 +36,8 @@ QGroupBox* group(forms::Panel& panel, QWidget& parent) {
 QWidget* specialities(registry::FrmMain& form, QWidget& parent) {
   auto* const box = group(form.Picbranslar, parent);
   auto* const layout = column(*box);
-  for (forms::OptionButton* option : {&form.Bdahiliye, &form.BCerrahi, &form.BÇocuk, &form.BKadınDoğum, &form.BGöz,
-                                      &form.BKBB, &form.BGenel}) {
+  for (forms::OptionButton* option : {&form.Bdahiliye, &form.BCerrahi, &form.BÇocuk,
+                                      &form.BKadınDoğum, &form.BGöz, &form.BKBB, &form.BGenel}) {
     layout->addWidget(makeWidget(*option, *box));
   }
   return box;

@@ -28,7 +28,8 @@ Control* as(forms::Control* control) {
   return dynamic_cast<Control*>(control);
 }
 
-// Where the controls go as they come: the present panel's fields, its boxes and lists in the middle.
+// Where the controls go as they come: the present panel's fields, its boxes and lists in the
+// middle.
 class GenericLayout {
  public:
   GenericLayout(QMainWindow& window, forms::Form& form) : window_(window), form_(form) {
@@ -104,8 +105,9 @@ class GenericLayout {
       placeField(control, widget);
     } else {
       fields_ = nullptr;
-      const bool large = as<forms::ListBox>(&control) != nullptr || as<forms::ListView>(&control) != nullptr ||
-                         as<forms::RichTextBox>(&control) != nullptr || as<forms::Picture>(&control) != nullptr;
+      const bool large =
+          as<forms::ListBox>(&control) != nullptr || as<forms::ListView>(&control) != nullptr ||
+          as<forms::RichTextBox>(&control) != nullptr || as<forms::Picture>(&control) != nullptr;
       room()->addWidget(widget, large ? 1 : 0);
     }
   }
@@ -119,11 +121,14 @@ class GenericLayout {
     widget->setParent(fields_);
     widget->setVisible(control.visible());
     const auto* const box = as<forms::TextBox>(&control);
-    box != nullptr && box->lines() == forms::TextLines::Multiple ? fields_->addGrowing(widget) : fields_->add(widget);
+    box != nullptr && box->lines() == forms::TextLines::Multiple ? fields_->addGrowing(widget)
+                                                                 : fields_->add(widget);
   }
 
   QWidget* home() { return panel_ != nullptr ? panel_ : window_.centralWidget(); }
-  QVBoxLayout* room() { return panel_ != nullptr ? static_cast<QVBoxLayout*>(panel_->layout()) : column_; }
+  QVBoxLayout* room() {
+    return panel_ != nullptr ? static_cast<QVBoxLayout*>(panel_->layout()) : column_;
+  }
 
   QMainWindow& window_;
   forms::Form& form_;

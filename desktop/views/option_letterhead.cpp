@@ -48,7 +48,8 @@ QHBoxLayout* formatRow(shell::FrmOption& form, QWidget& page) {
   return row;
 }
 
-QVBoxLayout* chosenPicture(forms::Picture& picture, forms::CommandButton& choose, QSize size, QWidget& page) {
+QVBoxLayout* chosenPicture(forms::Picture& picture, forms::CommandButton& choose, QSize size,
+                           QWidget& page) {
   auto* const frame = new PictureFrame(&page);
   frame->setFrameShape(QFrame::StyledPanel);
   frame->setFixedSize(size);

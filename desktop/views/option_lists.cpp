@@ -13,8 +13,9 @@ QWidget* listsPage(shell::FrmOption& form, QWidget& parent) {
   auto* const page = new QWidget(&parent);
   bind(*page, form.PListeler, Follow::AllButVisible);
   auto* const fields = new FieldColumns(page);
-  for (forms::ComboBox* combo : {&form.comdogumyeri, &form.ComMeslek, &form.ComHitap, &form.ComKurum, &form.comgorev,
-                                 &form.comyakinlik, &form.ComRefere}) {
+  for (forms::ComboBox* combo :
+       {&form.comdogumyeri, &form.ComMeslek, &form.ComHitap, &form.ComKurum, &form.comgorev,
+        &form.comyakinlik, &form.ComRefere}) {
     fields->add(makeWidget(*combo, *fields), FieldColumns::Width::Full);
   }
   auto* const buttons = new QVBoxLayout;

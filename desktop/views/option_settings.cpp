@@ -49,7 +49,8 @@ QWidget* shortWidget(forms::TextControl& field, QWidget& parent) {
   return combo;
 }
 
-void addShortFields(QVBoxLayout& column, std::initializer_list<forms::TextControl*> fields, int indent = 0) {
+void addShortFields(QVBoxLayout& column, std::initializer_list<forms::TextControl*> fields,
+                    int indent = 0) {
   auto* const grid = new QGridLayout;
   grid->setContentsMargins(indent, 0, 0, 0);
   grid->setHorizontalSpacing(gap::normal);

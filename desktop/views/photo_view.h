@@ -8,7 +8,8 @@
 
 namespace desktop {
 
-// Shows the first picture of the form; its first scroll bar pans sideways, its second one up and down.
+// Shows the first picture of the form; its first scroll bar pans sideways, its second one up and
+// down.
 [[nodiscard]] std::unique_ptr<QWidget> photoView(forms::Form& form);
 
 }  // namespace desktop

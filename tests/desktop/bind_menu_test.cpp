@@ -36,12 +36,15 @@ struct MenuForm : forms::Form {
   forms::TabStrip tabs{*this, "tabs", {"one", "two"}};
 };
 
-QAction& action(QWidget& window, const char* name) { return *window.findChild<QAction*>(QLatin1String(name)); }
+QAction& action(QWidget& window, const char* name) {
+  return *window.findChild<QAction*>(QLatin1String(name));
+}
 
 QString visibleButtons(const QToolBar& bar) {
   QString shown;
   for (const QAction* each : bar.actions()) {
-    if (each->isVisible()) shown += each->isSeparator() ? QStringLiteral("|") : each->objectName().left(1);
+    if (each->isVisible())
+      shown += each->isSeparator() ? QStringLiteral("|") : each->objectName().left(1);
   }
   return shown;
 }
@@ -93,7 +96,11 @@ TEST(ToolbarBinding, SeparatorsStandBetweenButtonsOnly) {
     std::vector<const char*> hidden;
     const char* shown;
   };
-  const Case cases[] = {{{}, "N|S|E"}, {{"Save"}, "N|E"}, {{"New"}, "S|E"}, {{"Exit"}, "N|S"}, {{"New", "Save"}, "E"}};
+  const Case cases[] = {{{}, "N|S|E"},
+                        {{"Save"}, "N|E"},
+                        {{"New"}, "S|E"},
+                        {{"Exit"}, "N|S"},
+                        {{"New", "Save"}, "E"}};
   for (const Case& c : cases) {
     MenuForm form;
     QToolBar bar;

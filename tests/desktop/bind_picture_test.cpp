@@ -65,7 +65,9 @@ TEST_F(PictureBinding, AHugePictureIsDecodedAsLargeAsItIsShown) {
   EXPECT_EQ(loadPicture(path, {100, 100}, &natural).size(), QSize(100, 50));
   EXPECT_EQ(natural, QSize(3000, 1500));
   QByteArray header("BM");
-  header.append(12, '\0').append("\x28\0\0\0", 4).append("\x00\x00\x01\x00\x00\x00\x01\x00\x01\x00\x18\x00", 12);
+  header.append(12, '\0')
+      .append("\x28\0\0\0", 4)
+      .append("\x00\x00\x01\x00\x00\x00\x01\x00\x01\x00\x18\x00", 12);
   const std::string absurd = folder / "absurd.bmp";
   std::ofstream(absurd, std::ios::binary).write(header.data(), header.size());
   EXPECT_TRUE(loadPicture(qs(absurd), {100, 100}).isNull());

@@ -97,11 +97,16 @@ TEST_F(RichBinding, EveryChangeOfParagraphsIsShown) {
     const char* insert;
     const char* after;
   };
-  const Case cases[] = {{"a\nb\nc", 0, 2, "", "b\nc"},      {"a\nb\nc", 1, 4, "", "a"},
-                        {"a\nb\nc", 2, 2, "", "a\nc"},      {"a\nb", 3, 0, "\n\n", "a\nb\n\n"},
-                        {"a\nb", 0, 0, "x\ny\n", "x\ny\na\nb"}, {"a\nb", 0, 3, "", ""},
-                        {"", 0, 0, "\n", "\n"},             {"a\na\na", 1, 2, "", "a\na"},
-                        {"a\n\nb", 1, 1, "", "a\nb"},       {"a\nb", 1, 0, "\nq", "a\nq\nb"}};
+  const Case cases[] = {{"a\nb\nc", 0, 2, "", "b\nc"},
+                        {"a\nb\nc", 1, 4, "", "a"},
+                        {"a\nb\nc", 2, 2, "", "a\nc"},
+                        {"a\nb", 3, 0, "\n\n", "a\nb\n\n"},
+                        {"a\nb", 0, 0, "x\ny\n", "x\ny\na\nb"},
+                        {"a\nb", 0, 3, "", ""},
+                        {"", 0, 0, "\n", "\n"},
+                        {"a\na\na", 1, 2, "", "a\na"},
+                        {"a\n\nb", 1, 1, "", "a\nb"},
+                        {"a\nb", 1, 0, "\nq", "a\nq\nb"}};
   for (const Case& c : cases) {
     form.box.edit([&](richtext::Editor& e) { e.load(richtext::Document::fromText(c.before)); });
     expectText(c.before);

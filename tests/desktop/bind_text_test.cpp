@@ -74,9 +74,10 @@ TEST_F(TextBinding, KeysCarryTheNumbersOfTheScreens) {
     int code;
   };
   // A sign must not be taken for the steering key whose number is its letter code.
-  const Case cases[] = {{Qt::Key_Down, "", 40}, {Qt::Key_Delete, "", 46}, {Qt::Key_Return, "\r", 13}, {Qt::Key_A, "a", 65},
-                        {Qt::Key_7, "7", 55},   {Qt::Key_F1, "", 112},    {Qt::Key_Period, ".", 255}, {0x130, "İ", 255},
-                        {Qt::Key_Apostrophe, "'", 255}};
+  const Case cases[] = {
+      {Qt::Key_Down, "", 40},     {Qt::Key_Delete, "", 46}, {Qt::Key_Return, "\r", 13},
+      {Qt::Key_A, "a", 65},       {Qt::Key_7, "7", 55},     {Qt::Key_F1, "", 112},
+      {Qt::Key_Period, ".", 255}, {0x130, "İ", 255},        {Qt::Key_Apostrophe, "'", 255}};
   int code = 0;
   form.line.KeyUp.connect([&](forms::Key key) { code = key.code; });
   for (const Case& c : cases) {
@@ -142,7 +143,8 @@ TEST_F(TextBinding, AWheelPassingOverAComboChangesNothing) {
   form.list.setItems({"a", "b"});
   form.list.setListIndex(0);
   line.setFocus();
-  QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
   QCoreApplication::sendEvent(&list, &wheel);
   EXPECT_EQ(form.list.listIndex(), 0);
 }

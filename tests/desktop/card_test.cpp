@@ -1,4 +1,5 @@
-// The main path through the real windows: register, save, find, change, delete; and the switch of the language.
+// The main path through the real windows: register, save, find, change, delete; and the switch of
+// the language.
 #include <QComboBox>
 #include <QListView>
 #include <QToolBar>
@@ -42,13 +43,13 @@ TEST_F(Card, APatientIsRegisteredFromTheKeyboard) {
   EXPECT_TRUE(desk.stored("Ayşe Yıldız"));
   EXPECT_EQ(desk.find<QLabel>("txtyaşı").text(), QStringLiteral("Yaşı :  35"));
   EXPECT_EQ(desk.find<QComboBox>("ComCinsiyet").currentIndex(), 0);
-  EXPECT_EQ(desk.find<QWidget>("Panofoto").palette().color(QPalette::Window), QColor(0xFF, 0xC0, 0xC0));
+  EXPECT_EQ(desk.find<QWidget>("Panofoto").palette().color(QPalette::Window),
+            QColor(0xFF, 0xC0, 0xC0));
   EXPECT_FALSE(desk.card.mnukaydet.enabled());
 }
 
 TEST_F(Card, ANameIsFoundByItsFirstLetters) {
   registerPatient("Ayşe Yıldız", "12.03.1991", "k");
-  registerPatient("", "", "");
   search("ay");
   auto& list = desk.find<desktop::NameList>("Lstdat");
   ASSERT_TRUE(list.isVisible());
@@ -96,7 +97,8 @@ TEST_F(Card, AnAgeIsAskedForWhereTheBirthIsUnknown) {
 TEST_F(Card, TheLanguageChangesWhereItStands) {
   const auto words = [&] {
     return QStringList{desk.find<QAction>("mnukaydet").text().remove(QLatin1Char('&')),
-                       desk.find<QAction>("Save").toolTip(), desk.find<QTabBar>("TabStrip1").tabText(1),
+                       desk.find<QAction>("Save").toolTip(),
+                       desk.find<QTabBar>("TabStrip1").tabText(1),
                        desk.find<QLineEdit>("TxtAnaAdı").accessibleName()};
   };
   EXPECT_EQ(words(), (QStringList{"Kaydet", "Kaydet", "Adres", "Anne Adı"}));
@@ -121,6 +123,30 @@ TEST_F(Card, NothingIsCutOff) {
     }
   }
   EXPECT_EQ(desk.window().size(), QSize(1024, 700));
+}
+
+TEST_F(Card, AltAndALetterReachAField) {
+  const auto captionOf = [&](const QWidget& field) -> QString {
+    for (const QLabel* label : desk.window().findChildren<QLabel*>()) {
+      if (label->buddy() == &field) return label->text();
+    }
+    return {};
+  };
+  desk.find<QLineEdit>("Txtİsim").setFocus();
+  press(Qt::Key_Alt);
+  QSet<QChar> taken{QLatin1Char('D')};  // of the menu Dosya
+  for (const QLabel* label : desk.window().findChildren<QLabel*>()) {
+    if (label->buddy() == nullptr || !label->isVisible()) continue;
+    const QChar letter = label->text()[label->text().indexOf(QLatin1Char('&')) + 1].toUpper();
+    EXPECT_FALSE(taken.contains(letter)) << label->text().toStdString();
+    taken.insert(letter);
+  }
+  EXPECT_GT(taken.size(), 10);
+  auto& field = desk.find<QLineEdit>("TxtBabaAdı");
+  const QString caption = captionOf(field);
+  press(static_cast<Qt::Key>(caption[caption.indexOf(QLatin1Char('&')) + 1].toUpper().unicode()),
+        Qt::AltModifier);
+  EXPECT_TRUE(field.hasFocus());
 }
 
 TEST_F(Card, ThePhotoPanelTellsItsSize) {

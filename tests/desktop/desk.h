@@ -1,4 +1,5 @@
-// A desk with real windows: a station on a folder of its own, the toolkit's host, and hands that type.
+// A desk with real windows: a station on a folder of its own, the toolkit's host, and hands that
+// type.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -58,7 +59,8 @@ class Answers : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     auto* const box = qobject_cast<QMessageBox*>(watched);
     if (box == nullptr || event->type() != QEvent::Show) return false;
-    QMetaObject::invokeMethod(box, [this, box] { answer(*box); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        box, [this, box] { answer(*box); }, Qt::QueuedConnection);
     return false;
   }
 
@@ -79,7 +81,8 @@ class Answers : public QObject {
 };
 
 struct WindowDesk {
-  explicit WindowDesk(std::string_view language = "tr", std::string_view program = "General Medicine")
+  explicit WindowDesk(std::string_view language = "tr",
+                      std::string_view program = "General Medicine")
       : settings(std::make_unique<settings::MemoryBackend>()),
         screens(app::screens()),
         station({host, clock, settings, screens}, folder.path(), program) {

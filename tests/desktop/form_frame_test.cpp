@@ -43,7 +43,8 @@ struct FrameTest : testing::Test {
     bind(*first, form.first);
     bind(*second, form.second);
     bind(*cancel, form.cancel);
-    for (QWidget* each : std::initializer_list<QWidget*>{first, second, cancel}) layout.addWidget(each);
+    for (QWidget* each : std::initializer_list<QWidget*>{first, second, cancel})
+      layout.addWidget(each);
     form.width = 333;
     form.height = 222;
     frame = new FormFrame(window, form, FormFrame::EscapeKey::Closes);

@@ -16,14 +16,18 @@ TEST(Host, QuestionsAreAnsweredInTheUsersLanguage) {
   for (const Case& c : {Case{"tr", "Evet", "Hayır"}, Case{"eng", "Yes", "No"}}) {
     WindowDesk desk(c.language);
     desk.answers.look = [&](QMessageBox& box) {
-      EXPECT_EQ(desktop::withoutMnemonic(box.button(QMessageBox::Yes)->text()), QString::fromUtf8(c.yes));
-      EXPECT_EQ(desktop::withoutMnemonic(box.button(QMessageBox::No)->text()), QString::fromUtf8(c.no));
+      EXPECT_EQ(desktop::withoutMnemonic(box.button(QMessageBox::Yes)->text()),
+                QString::fromUtf8(c.yes));
+      EXPECT_EQ(desktop::withoutMnemonic(box.button(QMessageBox::No)->text()),
+                QString::fromUtf8(c.no));
       EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
       EXPECT_EQ(box.escapeButton(), box.button(QMessageBox::No));
     };
     desk.answers.expect(QMessageBox::Yes);
-    const auto answer = desk.host.messageBox(
-        {.text = "one\n\rtwo", .title = "t", .buttons = host::Buttons::YesNo, .icon = host::Icon::Question});
+    const auto answer = desk.host.messageBox({.text = "one\n\rtwo",
+                                              .title = "t",
+                                              .buttons = host::Buttons::YesNo,
+                                              .icon = host::Icon::Question});
     EXPECT_EQ(answer, host::Answer::Yes);
     EXPECT_EQ(desk.answers.asked, QStringList{QStringLiteral("one\ntwo")});
   }

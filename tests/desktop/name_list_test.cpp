@@ -75,7 +75,8 @@ TEST_F(NameListTest, AClickTakesTheRowAlsoTwice) {
   form.drop();
   auto* const view = list->findChild<QListView*>();
   const auto click = [&] {
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(2, 0)).center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      view->visualRect(view->model()->index(2, 0)).center());
   };
   click();
   click();

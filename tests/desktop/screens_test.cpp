@@ -1,4 +1,5 @@
-// Every control of every screen has its widget, its words in both languages, and a name for a screen reader.
+// Every control of every screen has its widget, its words in both languages, and a name for a
+// screen reader.
 #include <QAbstractButton>
 #include <QAction>
 #include <set>
@@ -16,17 +17,20 @@ namespace {
 using support::WindowDesk;
 
 // State that never shows.
-const std::set<std::string> neverShown{"TxtEskiİsim", "txtkey",  "txtfoto", "idk",    "Netsıra",
+const std::set<std::string> neverShown{"TxtEskiİsim", "txtkey",  "txtfoto",  "idk",   "Netsıra",
                                        "Lresim",      "lblpass", "lblsifre", "LblDil"};
 // Containers and pictures without words of their own: what stands in them says what they are.
-const std::set<std::string> withoutWords{"Panofoto", "panoresim", "sbDurum", "tbToolBar", "Timer1", "LŞifbilgi"};
+const std::set<std::string> withoutWords{"Panofoto",  "panoresim", "sbDurum",
+                                         "tbToolBar", "Timer1",    "LŞifbilgi"};
 
 bool isLine(const forms::Control& control) {
   const auto* const item = dynamic_cast<const forms::MenuItem*>(&control);
   return item != nullptr && item->kind() == forms::MenuKind::Separator;
 }
 
-bool isLabel(const forms::Control& control) { return dynamic_cast<const forms::Label*>(&control) != nullptr; }
+bool isLabel(const forms::Control& control) {
+  return dynamic_cast<const forms::Label*>(&control) != nullptr;
+}
 
 void checkControl(const QWidget& window, const forms::Control& control) {
   const QString name = desktop::qs(control.name());
@@ -59,7 +63,8 @@ void checkForm(WindowDesk& desk, forms::Form& form) {
   for (const forms::Control* control : form.controls()) {
     if (neverShown.contains(control->name())) continue;
     checkControl(*window, *control);
-    if (const auto* toolbar = dynamic_cast<const forms::Toolbar*>(control)) checkToolbar(*window, *toolbar);
+    if (const auto* toolbar = dynamic_cast<const forms::Toolbar*>(control))
+      checkToolbar(*window, *toolbar);
   }
   desk.host.close(form);
   support::settle();
@@ -116,7 +121,8 @@ TEST(GenericView, AnyFormGetsAWindow) {
   } form;
   desk.host.show(form);
   for (const forms::Control* control : form.controls()) {
-    EXPECT_NE(desk.host.windowOf(form)->findChild<QObject*>(desktop::qs(control->name())), nullptr) << control->name();
+    EXPECT_NE(desk.host.windowOf(form)->findChild<QObject*>(desktop::qs(control->name())), nullptr)
+        << control->name();
   }
   form.page.setVisible(false);
   support::settle();
