@@ -114,7 +114,7 @@ class CardMaker {
   void identity() {
     const bool yearOnly = random_.percent(patient_.age >= oldAge ? 20 : 3);
     put("Name", patient_.person.name);
-    put("Date of Birth", yearOnly ? dao::Value() : dao::Value(patient_.birth));
+    if (!yearOnly) put("Date of Birth", patient_.birth);
     put("Year of Birth", yearOnly ? std::to_string(patient_.birth.year()) : std::string());
     put("Sex", random_.percent(1) ? "2" : std::to_string(static_cast<int>(patient_.person.sex)));
     maybePut("Blood Group", 70, random_.pick(bloodGroups()));

@@ -23,7 +23,7 @@ struct Patient {
   NamedPerson person;
   int age = 0;  // in whole years, roughly
   text::DateTime birth;
-  Card card;  // every column that a save of the card writes
+  Card card;  // what a save of the card writes; a column left out is Null
 };
 [[nodiscard]] Patient makePatient(const NamedPerson& person, std::uint64_t seed,
                                   const text::DateTime& reference);

@@ -38,6 +38,20 @@ bool outOfRoom(int systemError) {
   return systemError == ENOSPC || systemError == EFBIG || systemError == EDQUOT;
 }
 
+// The system's own error may stand with the connection, with the file or with its journal,
+// whichever was written last.
+bool outOfRoom(sqlite3* connection) {
+  if (outOfRoom(sqlite3_system_errno(connection))) return true;
+  int last = 0;
+  sqlite3_file_control(connection, "main", SQLITE_FCNTL_LAST_ERRNO, &last);
+  if (outOfRoom(last)) return true;
+  sqlite3_file* journal = nullptr;
+  sqlite3_file_control(connection, "main", SQLITE_FCNTL_JOURNAL_POINTER, &journal);
+  if (journal == nullptr || journal->pMethods == nullptr) return false;
+  journal->pMethods->xFileControl(journal, SQLITE_FCNTL_LAST_ERRNO, &last);
+  return outOfRoom(last);
+}
+
 const Meaning* constraint(int extended) {
   switch (extended) {
     case SQLITE_CONSTRAINT_PRIMARYKEY:
@@ -51,9 +65,9 @@ const Meaning* constraint(int extended) {
   }
 }
 
-const Meaning* meaningOf(int extended, int systemError) {
+const Meaning* meaningOf(int extended, sqlite3* connection) {
   if (const Meaning* meaning = constraint(extended)) return meaning;
-  const bool noRoom = (extended & 0xff) == SQLITE_IOERR && outOfRoom(systemError);
+  const bool noRoom = (extended & 0xff) == SQLITE_IOERR && connection && outOfRoom(connection);
   const int primary = noRoom ? SQLITE_FULL : extended & 0xff;
   for (const Meaning& meaning : kMeanings) {
     if (meaning.code == primary) return &meaning;
@@ -65,7 +79,7 @@ const Meaning* meaningOf(int extended, int systemError) {
 
 Status engineFault(sqlite3* connection, std::string_view subject) {
   const int extended = connection ? sqlite3_extended_errcode(connection) : SQLITE_NOMEM;
-  const Meaning* meaning = meaningOf(extended, connection ? sqlite3_system_errno(connection) : 0);
+  const Meaning* meaning = meaningOf(extended, connection);
   std::string text = std::string(subject) + ": ";
   if (meaning) return {meaning->fault, text + meaning->text};
   const std::string_view message = connection ? sqlite3_errmsg(connection) : "unknown failure";
