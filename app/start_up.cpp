@@ -4,6 +4,8 @@
 
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
+#include "registry/frm_max.h"
+#include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
 #include "shell/speciality.h"
@@ -21,13 +23,18 @@ void sp4(registry::FrmMain& main) {
   main.tbToolBar.setButtonVisible("muayene", false);
 }
 
+template <class Screen>
+void add(shell::ScreenDirectory& directory, std::string_view name) {
+  directory.add(name, [](shell::Station& station) { return std::make_unique<Screen>(station); });
+}
+
 }  // namespace
 
 shell::ScreenDirectory screens() {
   shell::ScreenDirectory directory;
-  directory.add("FrmOption", [](shell::Station& station) {
-    return std::make_unique<shell::FrmOption>(station);
-  });
+  add<shell::FrmOption>(directory, "FrmOption");
+  add<shell::FrmAbout>(directory, "frmabout");
+  add<registry::FrmMax>(directory, "frmmax");
   return directory;
 }
 

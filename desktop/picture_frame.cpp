@@ -50,8 +50,9 @@ void PictureFrame::setPath(const QString& path) {
 
 void PictureFrame::setPlace(const QRect& place) {
   if (place == place_) return;
+  const bool sameSize = place.size() == place_.size();
   place_ = place;
-  reload();
+  sameSize ? update() : reload();
 }
 
 void PictureFrame::reload() {
@@ -79,6 +80,7 @@ void PictureFrame::paintEvent(QPaintEvent* event) {
 void PictureFrame::resizeEvent(QResizeEvent* event) {
   QFrame::resizeEvent(event);
   if (place_.isEmpty()) reload();
+  emit resized(size());
 }
 
 void PictureFrame::mouseReleaseEvent(QMouseEvent* event) {

@@ -24,6 +24,7 @@ class PictureFrame : public QFrame {
  signals:
   // After every attempt to show another file.
   void loaded(bool shown);
+  void resized(const QSize& size);
   void clicked();
   void doubleClicked();
 

@@ -208,10 +208,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void datlisteleTUR();
   [[nodiscard]] std::string dogum() const override { return TxtDTarihi.text(); }
   [[nodiscard]] int cinsiyet() const override { return ComCinsiyet.listIndex(); }
+  [[nodiscard]] std::string fotograf() const override { return txtfoto.text(); }
   [[nodiscard]] const std::string& baslik() const override { return caption(); }
 
-  // Fits the photograph into its panel; the window reports the panel's size in pixels.
-  void panofotoBoyutu(int width, int height);
+  // Fits the photograph into its panel.
   void ResimBoyutla();
 
  protected:
@@ -238,8 +238,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   // without a question.
   void secimdenOnce();
   void saatVurusu();
+  void isimYazildi();
   void listeyiBaslat(dao::Fold fold);
   void listeyiSurdur();
+  void listeyiSay();
   void listeyiKapat();
   [[nodiscard]] bool gizliMi(std::string_view key) const;
   void isimleriAc(bool unlocked);
@@ -269,6 +271,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   // Tasks that were put off look whether the card is still there.
   std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);
   bool listeBekliyor_ = false;
+  std::string aranan_;  // the text that the list stands for
   Extent panofoto_;
 };
 

@@ -43,6 +43,11 @@ void FrmMain::kartiBagla() {
   TabStrip1.Click.connect([this] { sekmeSecildi(); });
   Butfoto.Click.connect([this] { fotoSec(); });
   txtfoto.Change.connect([this] { ResimBoyutla(); });
+  ImgFoto.DblClick.connect([this] { istasyon.ekranAc("frmmax"); });
+  ImgFoto.Resize.connect([this](int panelWidth, int panelHeight) {
+    panofoto_ = {panelWidth, panelHeight};
+    ResimBoyutla();
+  });
   shell::completeWhileTyping(ComKanGrubu);
   for (const ListField& row : listFields()) {
     shell::completeWhileTyping(static_cast<forms::ComboBox&>(row.control(*this)));
@@ -232,11 +237,6 @@ void FrmMain::fotoSec() {
                                               .filters = {"*.bmp", "*.jpg", "*.ico"},
                                               .folder = istasyon.dosya("Image")});
   if (chosen) txtfoto.setText(*chosen);
-}
-
-void FrmMain::panofotoBoyutu(int panelWidth, int panelHeight) {
-  panofoto_ = {panelWidth, panelHeight};
-  ResimBoyutla();
 }
 
 // A file that is no picture leaves the frame empty; the field keeps its path.

@@ -18,7 +18,7 @@ struct EntryScreen {
 };
 
 // The screen behind each entry, by its name in the screen directory.
-constexpr std::array<EntryScreen, 35> entryScreens{{
+constexpr std::array<EntryScreen, 36> entryScreens{{
     {&FrmMain::mnumuayene1, "FrmExam"},
     {&FrmMain::MnuMuayene2, "FrmExam"},
     {&FrmMain::MnuMuayene3, "FrmExam"},
@@ -54,6 +54,7 @@ constexpr std::array<EntryScreen, 35> entryScreens{{
     {&FrmMain::mnuanjiyoara, "frmsearchgen"},
     {&FrmMain::mnulensara, "frmsearchlens"},
     {&FrmMain::mnusecenekler, "FrmOption"},
+    {&FrmMain::mnuhakkinda, "frmabout"},
 }};
 
 // Enabled only for a patient with a name and a valid birth field.
@@ -101,7 +102,6 @@ void FrmMain::menuleriBagla() {
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
   mnucik.Click.connect([this] { istasyon.host.close(*this); });
   mnubul.Click.connect([this] { Txtİsim.setFocus(); });
-  mnuhakkinda.Click.connect([this] { istasyon.bilgi(Lhakkinda.caption()); });
   // Undo, cut, copy and paste belong to the focused field: the window sends them the usual
   // keystrokes.
   mnugerial.Click.connect([this] { istasyon.host.sendKeys("^z"); });

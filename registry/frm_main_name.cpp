@@ -42,6 +42,12 @@ void FrmMain::isimSifresi() {
   isimleriAc(true);
 }
 
+// A key that left the text as it was, such as Ctrl coming up after Ctrl+S, asks for no list.
+void FrmMain::isimYazildi() {
+  if (Txtİsim.text().empty()) return listeyiKapat();
+  if (Txtİsim.text() != aranan_ && Txtİsim.text() != TxtEskiİsim.text()) idk.setCaption("0");
+}
+
 void FrmMain::datlistele() {
   listeyiBaslat(dao::Fold::General);
 }
@@ -51,6 +57,7 @@ void FrmMain::datlisteleTUR() {
 
 void FrmMain::listeyiBaslat(dao::Fold fold) {
   listeyiKapat();
+  aranan_ = Txtİsim.text();
   const auto hidden = gizliMi(hiddenMark) ? HiddenPatients::PassedOver : HiddenPatients::Shown;
   const platform::Status started =
       isimler_.start(istasyon.stores.personal.database, Txtİsim.text(), fold, hidden);
@@ -73,9 +80,17 @@ void FrmMain::listeyiSurdur() {
   });
 }
 
+void FrmMain::listeyiSay() {
+  const std::size_t count = Lstdat.count();
+  if (count > 0)
+    return durumYaz(phrase(istasyon, shell::Phrase::PatientCount) + std::to_string(count));
+  durumYaz(aranan_.empty() ? std::string() : phrase(istasyon, shell::Phrase::NoNameFound));
+}
+
 void FrmMain::listeyiKapat() {
   isimler_.stop();
   listeBekliyor_ = false;
+  aranan_.clear();
   Lstdat.clear();
   Lstdat.setVisible(false);
 }

@@ -132,7 +132,7 @@ constexpr std::array dialogRows{
     CaptionRow{"butkapat", "kapat"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
     CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
     CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
-    CaptionRow{"frmmax", "fotograf", Window},
+    CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
 };
 
 template <std::size_t... Sizes>

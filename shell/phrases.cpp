@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 17> phraseRows{{
+constexpr std::array<Row, 14> phraseRows{{
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -21,12 +21,8 @@ constexpr std::array<Row, 17> phraseRows{{
     {Phrase::NoNameFound, "no patient begins with this name", "bu isimle başlayan hasta yok"},
     {Phrase::NobodyExamined, "Nobody has been examined today yet.",
      "Bugün henüz muayene yapılmadı."},
-    {Phrase::StationNumber, "station ", "istasyon "},
     {Phrase::AboutText, "Patient records of the practice", "Muayenehane hasta kayıtları"},
-    {Phrase::EmptyList, "The list is empty. Add the first value.",
-     "Liste boş. İlk değeri ekleyin."},
     {Phrase::ChoosePhotograph, "Choose photograph", "Fotoğraf seç"},
-    {Phrase::RemovePicture, "Remove", "Kaldır"},
     {Phrase::LetterheadPicture, "Letterhead picture", "Başlık resmi"},
     {Phrase::LetterheadIcon, "Letterhead icon", "Başlık ikonu"},
     {Phrase::Language, "Language", "Dil"},

@@ -16,11 +16,8 @@ enum class Phrase {
   PatientCount,   // a number follows
   NoNameFound,
   NobodyExamined,
-  StationNumber,  // a number follows
   AboutText,
-  EmptyList,
   ChoosePhotograph,
-  RemovePicture,
   LetterheadPicture,
   LetterheadIcon,
   Language,

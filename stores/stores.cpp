@@ -48,8 +48,8 @@ dao::Status openHandles(Store& store, const std::array<Handle<Store>, N>& handle
   return {};
 }
 
-// Keys made by the collation rules of another release would be missed by Seek; they are made anew. A store that cannot
-// be written stays as it is.
+// Keys made by the collation rules of another release would be missed by Seek; they are made anew.
+// A store that cannot be written stays as it is.
 dao::Status keepOrder(dao::Database& database) {
   const auto current = database.orderIsCurrent();
   if (!current) return current.error();

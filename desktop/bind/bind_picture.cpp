@@ -12,6 +12,8 @@ void bind(PictureFrame& frame, forms::Picture& picture) {
     const forms::Picture::Frame& place = picture.frame();
     frame.setPlace({place.left, place.top, place.width, place.height});
   });
+  QObject::connect(&frame, &PictureFrame::resized, &binding,
+                   [&](const QSize& size) { picture.Resize(size.width(), size.height()); });
   QObject::connect(&frame, &PictureFrame::clicked, &binding, [&] { picture.Click(); });
   QObject::connect(&frame, &PictureFrame::doubleClicked, &binding, [&] { picture.DblClick(); });
 }

@@ -1,6 +1,5 @@
 #include "desktop/main/photo_panel.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QPointer>
 #include <QToolButton>
@@ -55,7 +54,6 @@ QWidget* PhotoPanel::makePhotograph() {
   auto* const layout = new QVBoxLayout(panel);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(picture);
-  picture->installEventFilter(this);
   return panel;
 }
 
@@ -121,14 +119,6 @@ void PhotoPanel::resizeEvent(QResizeEvent* event) {
   const QMargins margins = layout()->contentsMargins();
   const int room = width() - margins.left() - margins.right();
   photograph_->setFixedHeight(static_cast<int>(room * heightToWidth));
-}
-
-bool PhotoPanel::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize) {
-    const QSize size = static_cast<QWidget*>(watched)->size();
-    form_.panofotoBoyutu(size.width(), size.height());
-  }
-  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace desktop

@@ -16,7 +16,6 @@ class PhotoPanel : public QWidget {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -62,6 +62,8 @@ class Picture : public Control {
 
   Event<> Click;
   Event<> DblClick;
+  // The window gave the frame another size: width and height in pixels.
+  Event<int, int> Resize;
 
  private:
   std::string path_;

@@ -61,6 +61,14 @@ TEST_F(NameField, ShowsAtMostFiveRowsAndClosesWhenEmptied) {
   EXPECT_EQ(main.Lstdat.count(), 0U);
 }
 
+TEST_F(NameField, AKeyThatLeavesTheTextAsksForNoList) {
+  desk.newPatient("Ayşe Yıldız", "1991");
+  main.Txtİsim.KeyUp(forms::Key{.code = 17, .control = true});  // Ctrl comes up after Ctrl+S
+  desk.tick();
+  EXPECT_FALSE(main.Lstdat.visible());
+  EXPECT_EQ(main.idk.caption(), "6");
+}
+
 TEST_F(NameField, AChoiceLoadsThePatient) {
   desk.newPatient("Ayşe Yıldız", "1991");
   desk.newPatient("Ayşe Yılmaz", "1992");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "registry/frm_max.h"
 #include "tests/registry/card_fixture.h"
 
 namespace {
@@ -39,7 +40,7 @@ TEST(PhotoPan, GoesAsFarAsThePictureIsLarger) {
 }
 
 TEST_F(Card, APhotographThatIsNoneLeavesTheFrameEmptyAndThePathInPlace) {
-  main.panofotoBoyutu(100, 100);
+  main.ImgFoto.Resize(100, 100);
   desk.host.pictures["/resim/ayse.jpg"] = {200, 100};
   main.txtfoto.setText("/resim/ayse.jpg");
   EXPECT_EQ(main.ImgFoto.path(), "/resim/ayse.jpg");
@@ -47,6 +48,22 @@ TEST_F(Card, APhotographThatIsNoneLeavesTheFrameEmptyAndThePathInPlace) {
   main.txtfoto.setText("/resim/yok.jpg");
   EXPECT_EQ(main.ImgFoto.path(), "");
   EXPECT_EQ(main.txtfoto.text(), "/resim/yok.jpg");
+}
+
+TEST_F(Card, AFullSizePhotographIsPannedAsFarAsItIsLarger) {
+  desk.host.pictures["/resim/ayse.jpg"] = {300, 80};
+  main.txtfoto.setText("/resim/ayse.jpg");
+  registry::FrmMax photo(desk.station);
+  photo.Load();
+  photo.ImgFoto.Resize(100, 100);
+  EXPECT_EQ(photo.ImgFoto.frame(), (Frame{0, 10, 300, 80}));
+  EXPECT_TRUE(photo.SclYatay.visible());
+  EXPECT_FALSE(photo.SclDüşey.visible());
+  photo.SclYatay.setValue(999);
+  EXPECT_EQ(photo.ImgFoto.frame(), (Frame{-200, 10, 300, 80}));
+  photo.ImgFoto.Resize(400, 400);
+  EXPECT_EQ(photo.ImgFoto.frame(), (Frame{50, 160, 300, 80}));
+  EXPECT_FALSE(photo.SclYatay.visible());
 }
 
 }  // namespace
