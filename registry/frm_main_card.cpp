@@ -29,8 +29,7 @@ constexpr std::array bloodGroups{"0 Rh(+)", "0 Rh(-)", "A Rh(+)",  "A Rh(-)",
 
 void FrmMain::kartiBagla() {
   Txtİsim.LostFocus.connect([this] { isimBitti(); });
-  Txtİsim.KeyUp.connect(
-      [this](forms::Key) { Txtİsim.text().empty() ? listeyiKapat() : idk.setCaption("0"); });
+  Txtİsim.KeyUp.connect([this](forms::Key) { isimYazildi(); });
   Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
   TxtDTarihi.LostFocus.connect([this] { dogumBitti(); });
   Txtyaş.LostFocus.connect([this] { yasBitti(); });

@@ -133,6 +133,7 @@ constexpr std::array dialogRows{
     CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
     CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
     CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
+    CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
 };
 
 template <std::size_t... Sizes>
