@@ -1,24 +1,21 @@
 #include "stores/clinical_schema.h"
 
-#include <array>
+#include <vector>
+
+#include "stores/clinical_tables.h"
 
 namespace stores {
 
-namespace {
-
-// Wide enough for the longest speciality word, a kind mark and a patient's name of 40 characters.
-constexpr int ledgerKeyWidth = 80;
-
-constexpr std::array visitFields{memo("Visit Numbers"), text("spname", ledgerKeyWidth),
-                                 number("Visit Count"), date("Last Visit Date")};
-constexpr std::array visitIndexes{primaryKey("spname")};
-
-constexpr std::array clinicalTables{dao::TableDef{"Visit", visitFields, visitIndexes, {}}};
-
-}  // namespace
-
 Schema clinicalSchema() {
-  return clinicalTables;
+  // In the order of creation.
+  static const std::vector<dao::TableDef> tables{
+      clinical::physicalExam,  clinical::doctors,       clinical::drug,      clinical::tests,
+      clinical::visit,         clinical::operation,     clinical::persantil, clinical::vaccine,
+      clinical::gravid,        clinical::gravidControl, clinical::lens,      clinical::lensStock,
+      clinical::hospitals,     clinical::motor,         clinical::echo,      clinical::angio,
+      clinical::efor,          clinical::analyze,       clinical::pathology, clinical::referance,
+      clinical::sanavelCenter, clinical::tblWarn,       clinical::tblRem};
+  return tables;
 }
 
 }  // namespace stores

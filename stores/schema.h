@@ -15,7 +15,8 @@ constexpr dao::FieldDef text(std::string_view name, int size) {
 constexpr dao::FieldDef filledText(std::string_view name, int size) {
   return {name, dao::FieldType::Text, size, dao::ZeroLength::Refused};
 }
-constexpr dao::FieldDef memo(std::string_view name) {
+// Text of any length.
+constexpr dao::FieldDef longText(std::string_view name) {
   return {name, dao::FieldType::Memo, 0, dao::ZeroLength::Allowed};
 }
 constexpr dao::FieldDef date(std::string_view name) {
@@ -23,6 +24,9 @@ constexpr dao::FieldDef date(std::string_view name) {
 }
 constexpr dao::FieldDef number(std::string_view name) {
   return {name, dao::FieldType::Long};
+}
+constexpr dao::FieldDef integer(std::string_view name) {
+  return {name, dao::FieldType::Integer};
 }
 constexpr dao::FieldDef byte(std::string_view name) {
   return {name, dao::FieldType::Byte};

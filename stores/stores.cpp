@@ -36,7 +36,31 @@ constexpr std::array<Handle<PersonalStore>, 12> personalHandles{{
     {"Financier", &PersonalStore::Financier},
     {"Invoice", &PersonalStore::Invoice},
 }};
-constexpr std::array<Handle<ClinicalStore>, 1> clinicalHandles{{{"Visit", &ClinicalStore::Visit}}};
+constexpr std::array<Handle<ClinicalStore>, 23> clinicalHandles{{
+    {"Physical Exam", &ClinicalStore::PhysicalExam},
+    {"Doctors", &ClinicalStore::Doctors},
+    {"drug", &ClinicalStore::drug},
+    {"Tests", &ClinicalStore::Tests},
+    {"Visit", &ClinicalStore::Visit},
+    {"Operation", &ClinicalStore::Operation},
+    {"Persantil", &ClinicalStore::Persantil},
+    {"Vaccine", &ClinicalStore::Vaccine},
+    {"Gravid", &ClinicalStore::Gravid},
+    {"Gravid Control", &ClinicalStore::GravidControl},
+    {"Lens", &ClinicalStore::Lens},
+    {"Lens Stock", &ClinicalStore::LensStock},
+    {"Hospitals", &ClinicalStore::Hospitals},
+    {"Motor", &ClinicalStore::Motor},
+    {"Echo", &ClinicalStore::Echo},
+    {"Angio", &ClinicalStore::Angio},
+    {"Efor", &ClinicalStore::Efor},
+    {"Analyze", &ClinicalStore::Analyze},
+    {"Pathology", &ClinicalStore::Pathology},
+    {"Referance", &ClinicalStore::Referance},
+    {"Sanavel Center", &ClinicalStore::SanavelCenter},
+    {"tblWarn", &ClinicalStore::tblWarn},
+    {"tblRem", &ClinicalStore::tblRem},
+}};
 
 template <class Store, std::size_t N>
 dao::Status openHandles(Store& store, const std::array<Handle<Store>, N>& handles, Schema schema) {

@@ -28,7 +28,29 @@ struct PersonalStore {
 
 struct ClinicalStore {
   dao::Database database;
+  dao::Recordset PhysicalExam;
+  dao::Recordset Doctors;
+  dao::Recordset drug;
+  dao::Recordset Tests;
   dao::Recordset Visit;
+  dao::Recordset Operation;
+  dao::Recordset Persantil;
+  dao::Recordset Vaccine;
+  dao::Recordset Gravid;
+  dao::Recordset GravidControl;
+  dao::Recordset Lens;
+  dao::Recordset LensStock;
+  dao::Recordset Hospitals;
+  dao::Recordset Motor;
+  dao::Recordset Echo;
+  dao::Recordset Angio;
+  dao::Recordset Efor;
+  dao::Recordset Analyze;
+  dao::Recordset Pathology;
+  dao::Recordset Referance;
+  dao::Recordset SanavelCenter;
+  dao::Recordset tblWarn;
+  dao::Recordset tblRem;
 };
 
 struct Stores {

@@ -58,6 +58,7 @@ TEST_F(SchemaTest, AnEmptyFolderGetsBothStores) {
   expectSchema(stores_.personal.database, personalSchema());
   expectSchema(stores_.clinical.database, clinicalSchema());
   EXPECT_EQ(stores_.personal.database.tables()->size(), 12u);
+  EXPECT_EQ(stores_.clinical.database.tables()->size(), 23u);
   EXPECT_TRUE(stores_.settings.has_value());
   EXPECT_TRUE(cards().empty());
 }
@@ -138,6 +139,47 @@ TEST_F(SchemaTest, EveryTableThatIsMissingComesBackAndTheOthersKeepTheirRows) {
     EXPECT_EQ(holds(cards(), patient), keepsCards);
     EXPECT_EQ(stores_.personal.Financier.RecordCount(), lost.name == "Financier" ? 0 : payers);
   }
+}
+
+// Names with apostrophes and misspellings are what the screens ask for.
+TEST_F(SchemaTest, ClinicalFieldsAreFoundUnderTheirOddNames) {
+  open();
+  const dao::Value longText(std::string(1'000'000, 'x') + "ğ");
+  struct Case {
+    dao::Recordset& table;
+    std::string_view field;
+    dao::Value value;
+  };
+  Case cases[] = {
+      {stores_.clinical.Operation, "anes'thetist1", "Dr. Öz"},
+      {stores_.clinical.Gravid, "baby's name", "Ece"},
+      {stores_.clinical.Echo, "Left V çıkış Yolu", std::string(255, 'y')},
+      {stores_.clinical.PhysicalExam, "Therapy", longText},
+      {stores_.clinical.Visit, "Visit numbers", longText},
+  };
+  for (Case& wanted : cases) {
+    SCOPED_TRACE(wanted.field);
+    ASSERT_TRUE(wanted.table.AddNew());
+    const bool ledger = &wanted.table == &stores_.clinical.Visit;
+    ASSERT_TRUE(ledger ? wanted.table.Fields("Spname").Set(std::string(80, 'k'))
+                       : wanted.table.Fields("Count").Set(1));
+    ASSERT_TRUE(wanted.table.Fields(wanted.field).Set(wanted.value));
+    ASSERT_TRUE(wanted.table.Update());
+    ASSERT_TRUE(wanted.table.MoveFirst());
+    EXPECT_EQ(wanted.table.Fields(wanted.field).Value(), wanted.value);
+  }
+}
+
+TEST_F(SchemaTest, AClinicalTableThatIsMissingComesBackEmpty) {
+  open();
+  ASSERT_TRUE(add(stores_.clinical.Doctors, "Doctor", "Dr. Işık"));
+  ASSERT_TRUE(add(stores_.clinical.Lens, "Count", 7));
+  ASSERT_TRUE(stores_.clinical.database.dropTable("Lens"));
+  CloseStores(stores_);
+  open();
+  expectSchema(stores_.clinical.database, clinicalSchema());
+  EXPECT_TRUE(stores_.clinical.Lens.empty());
+  EXPECT_TRUE(holds(stores_.clinical.Doctors, "Dr. Işık"));
 }
 
 TEST_F(SchemaTest, OpeningAgainChangesNothing) {
