@@ -32,8 +32,11 @@ void add(shell::ScreenDirectory& directory, std::string_view name) {
 
 shell::ScreenDirectory screens() {
   shell::ScreenDirectory directory;
+  add<shell::Logo>(directory, "Logo");
   add<shell::FrmOption>(directory, "FrmOption");
+  add<shell::FrmPass>(directory, "frmpass");
   add<shell::FrmAbout>(directory, "frmabout");
+  add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmMax>(directory, "frmmax");
   return directory;
 }

@@ -129,7 +129,7 @@ constexpr std::array optionRows{
 
 constexpr std::array dialogRows{
     CaptionRow{"buttamam", "Tamam"},          CaptionRow{"Butİptal", "iptal"},
-    CaptionRow{"butkapat", "kapat"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
+    CaptionRow{"butkapat", "Tamam"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
     CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
     CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
     CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},

@@ -68,6 +68,7 @@ void bind(QListView& view, forms::ListBox& list) {
   view.setModel(model);
   Binding& binding = attach(view, list, Follow::All,
                             [&, model](Aspect aspect) { refreshList(view, *model, list, aspect); });
+  model->setParent(&binding);  // gone with it: the list may be gone before the view
   if (list.choice() == forms::ListChoice::Several) listenToSeveral(binding, view, list);
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
                    [&](const QModelIndex& current) { list.setListIndex(current.row()); });
@@ -85,6 +86,7 @@ void bind(QTreeView& view, forms::ListView& list) {
     if (aspect == Aspect::Items || aspect == Aspect::Selection)
       showCurrent(view, list.selectedRow());
   });
+  model->setParent(&binding);
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
                    [&](const QModelIndex& current) { list.setSelectedRow(current.row()); });
   QObject::connect(&view, &QTreeView::doubleClicked, &binding, [&] { list.DblClick(); });
