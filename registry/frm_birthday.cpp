@@ -33,7 +33,7 @@ void FrmBirthday::listele(const text::DateTime& day) {
 }
 
 void dogumGunuHatirlat(shell::Station& istasyon) {
-  if (text::Val(istasyon.ayar("BDrem", "0")) != 1) return;
+  if (!istasyon.acik("BDrem")) return;
   FrmBirthday reminder(istasyon);
   reminder.Load();
   if (!reminder.Lvisim.rows().empty()) istasyon.host.showModal(reminder);

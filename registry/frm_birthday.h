@@ -1,8 +1,6 @@
 // The birthday reminder at opening.
 #pragma once
 
-#include <vector>
-
 #include "platform/forms/button.h"
 #include "platform/forms/list_control.h"
 #include "shell/station.h"

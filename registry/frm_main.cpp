@@ -1,7 +1,6 @@
 #include "registry/frm_main.h"
 
 #include <array>
-#include <filesystem>
 
 #include "platform/files/folders.h"
 #include "platform/text/number.h"
@@ -20,11 +19,7 @@ namespace {
 constexpr int tickMilliseconds = 50;
 constexpr int defaultWidth = 1240;
 constexpr int defaultHeight = 780;
-constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Netsıra", "Lresim"};
-
-bool isSet(const std::string& setting) {
-  return setting == "True" || setting == "true" || text::Val(setting) != 0;
-}
+constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Lresim"};
 
 }  // namespace
 
@@ -83,13 +78,12 @@ void FrmMain::Load() {
 }
 
 void FrmMain::Activate() {
-  Pexam.setVisible(isSet(istasyon.ayar("dexam", "0")));
+  Pexam.setVisible(istasyon.acik("dexam"));
   Liste.setToolTip(phrase(istasyon, shell::Phrase::NobodyExamined));
 }
 
 void FrmMain::Unload() {
   Timer1.setInterval(0);
-  kayitkontrol();
   alanlaribosalt();
   ayarlariyaz();
   shell::setkayityaz(istasyon, *this, shell::font_record::card).ignore();
@@ -155,8 +149,8 @@ void FrmMain::ayarlariyaz() {
 
 void FrmMain::sigaraGirisi() {
   const bool clinic = istasyon.BransNo == shell::brans::smoke;
-  const bool shown = clinic || (istasyon.BransKodu == shell::brans::koduDahiliye &&
-                                isSet(istasyon.ayar("smok", "0")));
+  const bool shown =
+      clinic || (istasyon.BransKodu == shell::brans::koduDahiliye && istasyon.acik("smok"));
   mnusigara.setVisible(shown);
   mnusigarabp.setVisible(shown);
   tbToolBar.setButtonVisible("smok", shown);

@@ -25,7 +25,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   ~FrmMain() override;
 
   // --- Menus
-  // -------------------------------------------------------------------------------------------------
   forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
   forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
   forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
@@ -93,7 +92,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem mnuhakkinda{MnuYardim, "mnuhakkinda"};
 
   // --- The card, in the order in which one dictates it
-  // ------------------------------------------------------------
   forms::TextBox Txtİsim{*this, "Txtİsim"};
   forms::ListBox Lstdat{*this, "Lstdat"};
   forms::TextBox TxtDTarihi{*this, "TxtDTarihi"};
@@ -135,7 +133,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::TextBox txtnot{*this, "txtnot", forms::TextLines::Multiple};
 
   // --- Beside the card
-  // -----------------------------------------------------------------------------------------
   forms::Panel Panofoto{*this, "Panofoto"};
   forms::Picture ImgFoto{*this, "ImgFoto"};
   forms::TextBox txtfoto{*this, "txtfoto"};
@@ -165,15 +162,12 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::Timer Timer1{*this, "Timer1"};
 
   // --- State that never shows
-  // ------------------------------------------------------------------------------------
   forms::TextBox TxtEskiİsim{*this, "TxtEskiİsim"};  // the old key
   forms::TextBox txtkey{*this, "txtkey"};            // "¬" hides the patient
   forms::Label idk{*this, "idk"};                    // the counter of the delayed search
-  forms::Label Netsıra{*this, "Netsıra"};            // the number of this station
   forms::Label Lresim{*this, "Lresim"};              // the splitter's place, setting CurX
 
   // --- The protocol
-  // ------------------------------------------------------------------------------------------------
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.personal.IDCard; }
   [[nodiscard]] std::string eskiAnahtar() const override { return TxtEskiİsim.text(); }
@@ -181,10 +175,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   void Load() override;
   void Activate() override;
-  [[nodiscard]] bool QueryUnload() override { return true; }
+  [[nodiscard]] bool QueryUnload() override { return kayitkontrol(); }
   void Unload() override;
 
-  void hastaoku() override;
+  bool hastaoku() override;
   void Eskialanmain() override { Eskialan(); }
   void kayityap();
   void Kaydet() override;
@@ -224,7 +218,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void menuleriBagla();
   void araclariKur();
   void kartiBagla();
-  void ekranBagla(forms::MenuItem& entry, std::string_view screen);
+  void ekranAc(const forms::MenuItem& entry, std::string_view screen);
   void tusBas(std::string_view key);
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);
@@ -236,7 +230,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void hastaSec(const std::string& name);
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
-  void secimdenOnce();
+  [[nodiscard]] bool secimdenOnce();
+  void hastayiGoster();
   void saatVurusu();
   void isimYazildi();
   void listeyiBaslat(dao::Fold fold);
@@ -273,6 +268,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   bool listeBekliyor_ = false;
   std::string aranan_;  // the text that the list stands for
   Extent panofoto_;
+  int cinsiyet_ = 2;  // the row of the sex that was chosen last
 };
 
 }  // namespace registry

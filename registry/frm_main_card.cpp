@@ -9,6 +9,7 @@
 #include "shell/age.h"
 #include "shell/list_completion.h"
 #include "shell/phrases.h"
+#include "shell/snapshot.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
 #include "stores/value_list.h"
@@ -31,14 +32,12 @@ void FrmMain::kartiBagla() {
   Txtİsim.LostFocus.connect([this] { isimBitti(); });
   Txtİsim.KeyUp.connect([this](forms::Key) { isimYazildi(); });
   Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
+  TxtDTarihi.GotFocus.connect([this] { shell::hepsinisec(*this); });
   TxtDTarihi.LostFocus.connect([this] { dogumBitti(); });
   Txtyaş.LostFocus.connect([this] { yasBitti(); });
   Txtyaş.KeyPress.connect([](char32_t& typed) { typed = typed == U'-' ? U'1' : typed; });
   ComCinsiyet.Change.connect([this] { cinsiyetYazildi(); });
-  ComCinsiyet.Click.connect([this] {
-    Cinsiyetrengi();
-    tuskontrol();
-  });
+  ComCinsiyet.Click.connect([this] { Cinsiyetrengi(); });
   TabStrip1.Click.connect([this] { sekmeSecildi(); });
   Butfoto.Click.connect([this] { fotoSec(); });
   txtfoto.Change.connect([this] { ResimBoyutla(); });
@@ -62,10 +61,14 @@ void FrmMain::Listeleriyaz() {
   }
 }
 
-void FrmMain::hastaoku() {
-  if (istasyon.SeciliHasta.empty()) return;
+bool FrmMain::hastaoku() {
   dao::Recordset& cards = tablo();
-  if (!cards.Seek("=", istasyon.SeciliHasta) || cards.NoMatch()) return;
+  const bool found =
+      !istasyon.SeciliHasta.empty() && cards.Seek("=", istasyon.SeciliHasta) && !cards.NoMatch();
+  if (!found) {
+    istasyon.SeciliHasta = TxtEskiİsim.text();
+    return false;
+  }
   const bool hidden = gizliMi(cards.Fields("Key").text());
   alanlariYukle();
   if (hidden) Txtİsim.setText("");
@@ -80,9 +83,10 @@ void FrmMain::hastaoku() {
   etkinlestir(mnusil, "Delete", !hidden);
   muayenetusuboya();
   durumYaz({});
+  return true;
 }
 
-// Steps 1 to 4 of a save: the row itself, under its old name when the user declines the new one.
+// Asks about a new name and seeks the row to write, which is the old name's.
 dao::Status FrmMain::kaydiBul() {
   const std::string old = TxtEskiİsim.text();
   if (!old.empty() && old != Txtİsim.text()) {
@@ -131,22 +135,21 @@ void FrmMain::kayityap() {
   }
   TxtEskiİsim.setText(Txtİsim.text());
   istasyon.SeciliHasta = Txtİsim.text();
-  hastaoku();
-  Eskialanmain();
+  hastayiGoster();
   durumYaz(phrase(istasyon, shell::Phrase::StateSaved) + text::shortTime(istasyon.clock.now()));
 }
 
-// The keyboard reaches Save without leaving the name field, so its question comes first.
+// A name that another patient has meanwhile, or that was never left, is asked about before it is
+// written.
 void FrmMain::Kaydet() {
-  if (activeControl() == &Txtİsim && isimBitti() == NameCheck::OtherPatientLoaded) return;
-  kayityap();
+  if (isimBitti() == NameCheck::Kept) kayityap();
 }
 
 dao::Status FrmMain::Forumalanlaritasi() {
   dao::Recordset& cards = tablo();
   const dao::Status moved = RecordScreen::Forumalanlaritasi();
   const std::string birth = text::trim(TxtDTarihi.text());
-  const bool isYear = text::isNumeric(birth) && text::length(birth) == 4;
+  const bool isYear = text::length(birth) == 4 && text::wholeNumber(birth);
   const auto date = isYear ? std::nullopt : text::parseDate(birth, istasyon.clock.today());
   const dao::Status dateSet =
       cards.Fields("Date of Birth").Set(date ? dao::Value(*date) : dao::Value());
@@ -165,16 +168,14 @@ void FrmMain::Yeni() {
 }
 
 void FrmMain::alanlaribosalt() {
-  RecordScreen::alanlaribosalt();
-  ComCinsiyet.setListIndex(unknownSex);
   TxtEskiİsim.setText("");
   Txtyaş.setText("");
+  ComCinsiyet.setListIndex(unknownSex);
+  RecordScreen::alanlaribosalt();
   Txtyaş.setVisible(false);
   txtyaşı.setCaption("");
   istasyon.SeciliHasta.clear();
   listeyiKapat();
-  etkinlestir(mnuyeni, "New", false);
-  etkinlestir(mnusil, "Delete", false);
   tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, shell::Visits::None));
   durumYaz({});
 }
@@ -192,7 +193,7 @@ void FrmMain::Sil() {
 
 bool FrmMain::kaydedilebilir() {
   return !text::trimmed(Txtİsim.text()).empty() &&
-         shell::gecerliDogum(TxtDTarihi.text(), istasyon.clock.today());
+         shell::gecerliDogum(text::trimmed(TxtDTarihi.text()), istasyon.clock.today());
 }
 
 void FrmMain::Cinsiyetrengi() {
@@ -201,9 +202,11 @@ void FrmMain::Cinsiyetrengi() {
                          : sex == male ? forms::OptionalColour(maleColour)
                                        : std::nullopt);
   BKadınDoğum.setEnabled(sex != male);
+  cinsiyet_ = sex;
 }
 
-// One letter is enough: the beginning of a row chooses the row.
+// One letter is enough: the beginning of a row chooses the row. Any other leaves the choice as it
+// was.
 void FrmMain::cinsiyetYazildi() {
   const std::string first = text::upper(text::left(ComCinsiyet.text(), 1));
   for (const int row : {female, male}) {
@@ -212,7 +215,7 @@ void FrmMain::cinsiyetYazildi() {
       return ComCinsiyet.setListIndex(row);
     }
   }
-  Cinsiyetrengi();
+  ComCinsiyet.listIndex() < 0 ? ComCinsiyet.setListIndex(cinsiyet_) : Cinsiyetrengi();
 }
 
 void FrmMain::sekmeSecildi() {

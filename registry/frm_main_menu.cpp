@@ -2,7 +2,6 @@
 #include <array>
 #include <utility>
 
-#include "registry/card_fields.h"
 #include "registry/frm_main.h"
 #include "shell/phrases.h"
 #include "shell/speciality.h"
@@ -90,13 +89,15 @@ void FrmMain::araclariKur() {
 }
 
 void FrmMain::menuleriBagla() {
-  for (const EntryScreen& row : entryScreens) ekranBagla(this->*row.entry, row.screen);
+  for (const EntryScreen& row : entryScreens) {
+    (this->*row.entry).Click.connect([this, &row] { ekranAc(this->*row.entry, row.screen); });
+  }
   mnuraporara.Click.connect([this] {
-    istasyon.ekranAc(istasyon.BransNo == shell::brans::pathology ? "frmsearchpat" : "frmsearchrad");
+    const bool pathology = istasyon.BransNo == shell::brans::pathology;
+    ekranAc(mnuraporara, pathology ? "frmsearchpat" : "frmsearchrad");
   });
   mnuyeni.Click.connect([this] {
-    kayitkontrol();
-    Yeni();
+    if (kayitkontrol()) Yeni();
   });
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
@@ -124,11 +125,9 @@ void FrmMain::menuleriBagla() {
   }
 }
 
-void FrmMain::ekranBagla(forms::MenuItem& entry, std::string_view screen) {
-  entry.Click.connect([this, &entry, screen] {
-    if (istasyon.screens.has(screen)) return istasyon.ekranAc(screen);
-    istasyon.bilgi(entry.caption().substr(1) + phrase(istasyon, shell::Phrase::NotInThisVersion));
-  });
+void FrmMain::ekranAc(const forms::MenuItem& entry, std::string_view screen) {
+  if (istasyon.screens.has(screen)) return istasyon.ekranAc(screen);
+  istasyon.bilgi(entry.caption().substr(1) + phrase(istasyon, shell::Phrase::NotInThisVersion));
 }
 
 void FrmMain::tusBas(std::string_view key) {
@@ -165,6 +164,7 @@ void FrmMain::muayenetusuboya() {
 }
 
 void FrmMain::tuskontrol() {
+  const bool wasChanged = mnukaydet.enabled();
   RecordScreen::tuskontrol();
   const bool clinical = kaydedilebilir();
   for (forms::MenuItem FrmMain::*entry : clinicalEntries) (this->*entry).setEnabled(clinical);
@@ -172,7 +172,8 @@ void FrmMain::tuskontrol() {
   tbToolBar.setButtonEnabled("smok", clinical);
   mnuonizleme.setEnabled(mnuyeni.enabled());
   mnuyazdır.setEnabled(mnuyeni.enabled());
-  if (mnukaydet.enabled()) durumYaz(phrase(istasyon, shell::Phrase::StateChanged));
+  if (mnukaydet.enabled()) return durumYaz(phrase(istasyon, shell::Phrase::StateChanged));
+  if (wasChanged) durumYaz({});
 }
 
 void FrmMain::yonEtkin(Direction direction, bool enabled) {
@@ -183,6 +184,7 @@ void FrmMain::yonEtkin(Direction direction, bool enabled) {
 // Stepping away from a changed card stores it without a question.
 void FrmMain::adim(Direction direction) {
   if (mnukaydet.enabled()) Kaydet();
+  if (mnukaydet.enabled()) return;  // refused: what was typed stays
   const bool back = direction == Direction::Back;
   dao::Recordset& cards = tablo();
   if (cards.empty()) return;
@@ -197,8 +199,7 @@ void FrmMain::adim(Direction direction) {
   }
   if (!found) return yonEtkin(direction, false);
   istasyon.SeciliHasta = cards.Fields("Name").text();
-  hastaoku();
-  Eskialanmain();
+  hastayiGoster();
   yonEtkin(back ? Direction::Forward : Direction::Back, true);
 }
 

@@ -72,8 +72,7 @@ void FrmMain::listeyiSurdur() {
   Lstdat.appendItems(isimler_.take());
   Lstdat.setVisibleRows(std::min(static_cast<int>(Lstdat.count()), mostRowsShown));
   Lstdat.setVisible(Lstdat.count() > 0);
-  if (done)
-    return durumYaz(phrase(istasyon, shell::Phrase::PatientCount) + std::to_string(Lstdat.count()));
+  if (done) return listeyiSay();
   listeBekliyor_ = true;
   istasyon.host.later([this, alive = yasiyor_] {
     if (*alive && listeBekliyor_) listeyiSurdur();
@@ -91,37 +90,39 @@ void FrmMain::listeyiKapat() {
   isimler_.stop();
   listeBekliyor_ = false;
   aranan_.clear();
+  idk.setCaption("6");
   Lstdat.clear();
   Lstdat.setVisible(false);
 }
 
 void FrmMain::hastaSec(const std::string& name) {
-  secimdenOnce();
-  istasyon.SeciliHasta = name;
-  hastaoku();
-  Eskialanmain();
-  Lstdat.setVisible(false);
+  if (secimdenOnce()) {
+    istasyon.SeciliHasta = name;
+    hastayiGoster();
+  }
+  listeyiKapat();
 }
 
-void FrmMain::secimdenOnce() {
-  if (!mnukaydet.enabled()) return;
-  if (TxtEskiİsim.text().empty()) return kayitkontrol();
+void FrmMain::hastayiGoster() {
+  if (hastaoku()) Eskialanmain();
+}
+
+bool FrmMain::secimdenOnce() {
+  if (!mnukaydet.enabled() || TxtEskiİsim.text().empty()) return kayitkontrol();
   // What stands in the name field was typed to find somebody; the other fields belong to the old
   // name.
-  const std::string typed = Txtİsim.text();
   Txtİsim.setText(TxtEskiİsim.text());
-  kayitkontrol();
+  return kayitkontrol();
 }
 
 FrmMain::NameCheck FrmMain::isimBitti() {
   Lstdat.setVisible(false);
+  const bool listed = Lstdat.count() == 1 && !isimler_.running() && aranan_ == Txtİsim.text();
+  const std::string only = listed ? Lstdat.items().front().text : std::string();
+  listeyiKapat();
   Txtİsim.setText(text::trim(Txtİsim.text()));
   if (Txtİsim.text().empty() || Txtİsim.text() == TxtEskiİsim.text()) return NameCheck::Kept;
-  const bool onlyOne = Lstdat.count() == 1 && !isimler_.running();
-  if (onlyOne && text::length(Txtİsim.text()) == text::length(Lstdat.items().front().text)) {
-    Txtİsim.setText(Lstdat.items().front().text);
-  }
-  listeyiKapat();
+  if (listed && text::length(Txtİsim.text()) == text::length(only)) Txtİsim.setText(only);
   if (adasSor() == NameCheck::OtherPatientLoaded) return NameCheck::OtherPatientLoaded;
   const bool sexChosen = ComCinsiyet.listIndex() == 0 || ComCinsiyet.listIndex() == 1;
   if (istasyon.BransKodu == shell::brans::koduKadinDogum && !sexChosen) ComCinsiyet.setListIndex(0);
@@ -133,9 +134,9 @@ FrmMain::NameCheck FrmMain::adasSor() {
   while (baskaHasta(Txtİsim.text())) {
     const std::string name = Txtİsim.text();
     if (!istasyon.evetMi(name + metinbul(istasyon, "msgisimtekrari"))) {
+      if (!TxtEskiİsim.text().empty() && !secimdenOnce()) return NameCheck::OtherPatientLoaded;
       istasyon.SeciliHasta = name;
-      hastaoku();
-      Eskialanmain();
+      hastayiGoster();
       return NameCheck::OtherPatientLoaded;
     }
     Txtİsim.setText(withMark(name));

@@ -185,7 +185,6 @@ constexpr std::array phrases{
     PhraseRow{"butikonseç", Phrase::LetterheadIcon},
     PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
     PhraseRow{"Imgicon", Phrase::LetterheadIcon},
-    PhraseRow{"LblDil", Phrase::Language},
 };
 
 }  // namespace

@@ -79,14 +79,16 @@ void FrmOption::ayarlariBagla() {
 void FrmOption::ayarlariOku() {
   (istasyon.ayar("Language") == "tr" ? OptTR : OptGB).setValue(true);
   const auto read = [this](const BoxSetting& row) {
-    (this->*row.box).setValue(text::Val(istasyon.ayar(row.key, "0")) != 0);
+    (this->*row.box).setValue(istasyon.acik(row.key));
   };
   std::ranges::for_each(passwordBoxes, read);
   std::ranges::for_each(otherBoxes, read);
-  (istasyon.ayar("nopen", "1") == "False" ? optkısıtlıaç : optaçma).setValue(true);
+  (istasyon.ayar("nopen", "1") == "True" ? optaçma : optkısıtlıaç).setValue(true);
   Comgönce.setText(istasyon.ayar("remday", "0"));
   txtbtime.setText(istasyon.ayar("btime", "12:00"));
   txtintapp.setText(istasyon.ayar("intapp", "30"));
+  // No backup at exit is promised before there is one.
+  chkçıkyedek.setEnabled(istasyon.screens.has("FrmSave"));
   chsigarabrakma.setEnabled(istasyon.BransKodu == brans::koduDahiliye);
 }
 

@@ -1,13 +1,13 @@
 // The Options screen's third tab: the letterhead.
 #include <algorithm>
 #include <array>
-#include <filesystem>
+#include <fstream>
+#include <iterator>
 
+#include "platform/files/atomic_write.h"
 #include "platform/text/number.h"
 #include "shell/frm_option.h"
 #include "shell/letterhead.h"
-#include "shell/phrases.h"
-#include "shell/text_lookup.h"
 
 namespace shell {
 
@@ -36,10 +36,9 @@ constexpr std::array<FormatButton, 7> formatButtons{{
 }};
 
 platform::Status copyFile(const std::string& from, const std::string& to) {
-  std::error_code error;
-  std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, error);
-  if (!error) return {};
-  return {platform::Fault::Other, to + ": " + error.message()};
+  std::ifstream file(from, std::ios::binary);
+  if (!file) return {platform::Fault::Missing, from + ": the file cannot be read."};
+  return files::writeAtomically(to, std::string{std::istreambuf_iterator<char>(file), {}});
 }
 
 }  // namespace

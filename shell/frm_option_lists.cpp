@@ -49,8 +49,8 @@ void FrmOption::ListKaydet() {
 }
 
 void FrmOption::ListSeçKaldır() {
-  secilen_ = nullptr;
   for (const ListRow& row : lists) (this->*row.combo).setListIndex(-1);
+  secilen_ = nullptr;
   mnuekle.setEnabled(false);
   mnudüzen.setEnabled(false);
   mnusil.setEnabled(false);
@@ -79,19 +79,18 @@ void FrmOption::listeyiDoldur(forms::ComboBox& combo) {
 void FrmOption::degerEkle() {
   if (secilen_ == nullptr) return;
   const std::string value =
-      istasyon.host.inputBox(metinbul(istasyon, "inpyenigir"), secilen_->caption(), "");
+      text::trim(istasyon.host.inputBox(metinbul(istasyon, "inpyenigir"), secilen_->caption(), ""));
   if (!value.empty())
-    degistir(stores::addValue(istasyon.stores.personal, secilenTablo(), text::trim(value)), value);
+    degistir(stores::addValue(istasyon.stores.personal, secilenTablo(), value), value);
 }
 
 void FrmOption::degerDegistir() {
   if (secilen_ == nullptr || secilen_->listIndex() < 0) return;
   const std::string old = secilen_->text();
-  const std::string value =
-      istasyon.host.inputBox(metinbul(istasyon, "inpduzeltmeler"), secilen_->caption(), old);
+  const std::string value = text::trim(
+      istasyon.host.inputBox(metinbul(istasyon, "inpduzeltmeler"), secilen_->caption(), old));
   if (value.empty() || value == old) return;
-  degistir(stores::changeValue(istasyon.stores.personal, secilenTablo(), old, text::trim(value)),
-           value);
+  degistir(stores::changeValue(istasyon.stores.personal, secilenTablo(), old, value), value);
 }
 
 void FrmOption::degerSil() {

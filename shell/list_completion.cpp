@@ -21,7 +21,7 @@ std::string comparable(std::string_view text) {
 }  // namespace
 
 void completeFromList(forms::ComboBox& combo, const forms::Key& key) {
-  if (steers(key.code) || key.control || key.alt) return;
+  if (combo.text().empty() || steers(key.code) || key.control || key.alt) return;
   const std::string typed = combo.text();
   const auto length = static_cast<std::ptrdiff_t>(text::length(typed));
   const std::string wanted = comparable(typed);

@@ -9,9 +9,9 @@ class PatientCard {
  public:
   virtual ~PatientCard() = default;
 
-  // Loads Station::SeciliHasta on the card; nothing happens when it is empty or has no card. The
-  // caller takes the snapshot with Eskialanmain afterwards.
-  virtual void hastaoku() = 0;
+  // Loads Station::SeciliHasta on the card; false, and the card stays as it is, when it is empty or
+  // has no card. The caller takes the snapshot with Eskialanmain afterwards.
+  virtual bool hastaoku() = 0;
   virtual void Eskialanmain() = 0;
 
   // What stands on the card: the birth field as typed (a date or a year) and the list index of the

@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 14> phraseRows{{
+constexpr std::array<Row, 13> phraseRows{{
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -25,7 +25,6 @@ constexpr std::array<Row, 14> phraseRows{{
     {Phrase::ChoosePhotograph, "Choose photograph", "Fotoğraf seç"},
     {Phrase::LetterheadPicture, "Letterhead picture", "Başlık resmi"},
     {Phrase::LetterheadIcon, "Letterhead icon", "Başlık ikonu"},
-    {Phrase::Language, "Language", "Dil"},
     {Phrase::OpeningFailed, "The practice could not be opened completely. ",
      "Kayıtlar tam olarak açılamadı. "},
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
@@ -43,7 +42,8 @@ std::string phrase(Station& istasyon, Phrase which) {
       }(),
       "the rows stand in the order of the enumerators");
   const Row& row = phraseRows.at(static_cast<std::size_t>(which));
-  return istasyon.ayar("Language") == "tr" ? row.turkish : row.english;
+  const std::string chosen = istasyon.ayar("Language", istasyon.Dil);
+  return chosen == "tr" ? row.turkish : row.english;
 }
 
 }  // namespace shell

@@ -20,7 +20,6 @@ enum class Phrase {
   ChoosePhotograph,
   LetterheadPicture,
   LetterheadIcon,
-  Language,
   OpeningFailed,
   StoreFailed
 };

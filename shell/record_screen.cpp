@@ -20,7 +20,11 @@ RecordScreen::RecordScreen(Station& station, std::string_view name)
 }
 
 void RecordScreen::alanlariBagla() {
-  for (const FieldRow& row : alanlar()) kontrol(row).Change.connect([this] { tuskontrol(); });
+  for (const FieldRow& row : alanlar()) {
+    kontrol(row).Change.connect([this] { tuskontrol(); });
+    auto* const combo = dynamic_cast<forms::ComboBox*>(&kontrol(row));
+    if (combo != nullptr) combo->Click.connect([this] { tuskontrol(); });
+  }
 }
 
 void RecordScreen::alanGenislikleri(const dao::Database& database, std::string_view table) {
@@ -41,18 +45,15 @@ void RecordScreen::alanlariYukle() {
     const dao::Field stored = tablo().Fields(row.column);
     if (row.stored == Stored::Text) kontrol(row).setText(text::trimmed(stored.text()));
     if (row.stored == Stored::ListIndex) {
-      static_cast<forms::ComboBox&>(kontrol(row))
-          .setListIndex(static_cast<int>(text::Val(stored.text())));
+      const auto index = text::wholeNumber(stored.text());
+      auto& combo = static_cast<forms::ComboBox&>(kontrol(row));
+      index ? combo.setListIndex(static_cast<int>(*index)) : combo.setText("");
     }
   }
 }
 
-void RecordScreen::alanlariBosalt() {
-  for (const FieldRow& row : alanlar()) kontrol(row).setText("");
-}
-
 void RecordScreen::alanlaribosalt() {
-  alanlariBosalt();
+  for (const FieldRow& row : alanlar()) kontrol(row).setText("");
   etkinlestir(mnuyeni, "New", false);
   etkinlestir(mnukaydet, "Save", false);
   etkinlestir(mnusil, "Delete", false);
@@ -74,10 +75,12 @@ void RecordScreen::tuskontrol() {
   etkinlestir(mnuyeni, "New", !bosMu(*this));
 }
 
-void RecordScreen::kayitkontrol() {
-  if (!mnukaydet.enabled()) return;
+bool RecordScreen::kayitkontrol() {
+  if (!mnukaydet.enabled()) return true;
   const auto question = eskiAnahtar().empty() ? "msgkayityapilsinmi" : "msgdegisiklikyapilsinmi";
-  if (istasyon.evetMi(metinbul(istasyon, question))) mnukaydet.Click();
+  if (!istasyon.evetMi(metinbul(istasyon, question))) return true;
+  mnukaydet.Click();
+  return !mnukaydet.enabled();
 }
 
 dao::Status RecordScreen::Forumalanlaritasi() {

@@ -3,7 +3,6 @@
 // questions are here.
 #pragma once
 
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -41,7 +40,8 @@ class RecordScreen : public forms::Form {
   // Re-evaluates Save and New; runs on every change of a field.
   virtual void tuskontrol();
   // Asks the save question when there is something to save; Yes saves, No lets the changes go.
-  void kayitkontrol();
+  // False when the save was refused, and the screen must stay as it is.
+  [[nodiscard]] bool kayitkontrol();
   // Copies the fields into the record buffer; the caller has called AddNew or Edit and calls Update
   // afterwards.
   virtual dao::Status Forumalanlaritasi();
@@ -63,7 +63,6 @@ class RecordScreen : public forms::Form {
   void alanGenislikleri(const dao::Database& database, std::string_view table);
   // Copies the current record onto the fields, trimmed; a Null column leaves its field blank.
   void alanlariYukle();
-  void alanlariBosalt();
   [[nodiscard]] forms::TextControl& kontrol(const FieldRow& row) { return row.control(*this); }
   // Enables or disables a menu entry and the toolbar button that mirrors it.
   void etkinlestir(forms::MenuItem& entry, std::string_view button, bool enabled);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "platform/text/fold.h"
+#include "platform/text/number.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
@@ -37,6 +39,11 @@ Station::Station(World world, std::string_view folder, std::string_view program)
 
 std::string Station::ayar(std::string_view key, std::string_view missing) const {
   return std::string(settings.get(applicationName, mainSection, key, missing));
+}
+
+bool Station::acik(std::string_view key) const {
+  const std::string value = ayar(key);
+  return text::equalsNoCase(value, "True") || text::Val(value) != 0;
 }
 
 void Station::ayarYaz(std::string_view key, std::string_view value) {

@@ -7,11 +7,15 @@ namespace shell {
 
 namespace {
 
+// Settings that cannot be written leave the choice to this run.
 void chooseLanguage(Station& istasyon) {
-  istasyon.Dil = istasyon.ayar("Language");
-  if (!istasyon.Dil.empty()) return;
-  istasyon.ayarYaz("Language", settings::userLanguage());
-  istasyon.Dil = istasyon.ayar("Language", "eng");
+  const std::string chosen = istasyon.ayar("Language");
+  if (!chosen.empty()) {
+    istasyon.Dil = chosen;
+  } else if (istasyon.Dil.empty()) {
+    istasyon.Dil = settings::userLanguage();
+    istasyon.settings.set(applicationName, mainSection, "Language", istasyon.Dil).ignore();
+  }
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 // A list of handlers that are called at once, in the order in which they were connected.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <utility>
-#include <vector>
 
 namespace forms {
 
@@ -15,13 +15,14 @@ class Event {
   // A handler stays for the life of the event: screens connect to their own controls.
   void connect(Handler handler) { handlers_.push_back(std::move(handler)); }
 
-  // By index, since a handler may connect another one while it runs.
+  // By index, since a handler may connect another one while it runs; a deque leaves it in its
+  // place.
   void operator()(Args... args) const {
     for (std::size_t i = 0; i < handlers_.size(); ++i) handlers_[i](args...);
   }
 
  private:
-  std::vector<Handler> handlers_;
+  std::deque<Handler> handlers_;
 };
 
 }  // namespace forms

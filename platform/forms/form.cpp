@@ -23,8 +23,8 @@ void Form::setFont(Font font) {
 }
 
 void Form::setActiveControl(Control& control) {
-  activeControl_ = &control;
-  notify(Aspect::Focus);
+  focusMoved(&control);
+  if (activeControl_ == &control) notify(Aspect::Focus);
 }
 
 void Form::focusMoved(Control* control) {

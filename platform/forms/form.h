@@ -32,6 +32,7 @@ class Form {
   void setFont(Font font);
 
   [[nodiscard]] Control* activeControl() const { return activeControl_; }
+  // As if the user had moved the focus; the window follows.
   void setActiveControl(Control& control);
   // The window reports that the user moved the focus: LostFocus of the old control, then GotFocus
   // of the new.

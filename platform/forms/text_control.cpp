@@ -48,11 +48,6 @@ void ComboBox::addItem(std::string_view item) {
   notify(Aspect::Items);
 }
 
-void ComboBox::setItem(std::size_t row, std::string_view item) {
-  items_.at(row) = std::string(item);
-  notify(Aspect::Items);
-}
-
 void ComboBox::removeItem(std::size_t row) {
   items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(row));
   listIndex_ = rowOf(text());

@@ -81,7 +81,6 @@ class ComboBox : public TextControl {
   [[nodiscard]] ComboStyle style() const { return style_; }
   [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
   void addItem(std::string_view item);
-  void setItem(std::size_t row, std::string_view item);
   void removeItem(std::size_t row);
   void setItems(std::vector<std::string> items);
   // Empties the list and drops the index; the text of an editable combo stays.

@@ -39,8 +39,11 @@ TEST_F(Birthdays, AreRemindedOfByMonthAndDay) {
   EXPECT_TRUE(desk.host.shown.empty()) << "an empty list does not show";
   desk.clock.time = text::DateTime::of(2028, 2, 24);
   EXPECT_EQ(remind("5"), std::vector<std::string>{"Artık"});
-  desk.clock.time = text::DateTime::of(2026, 12, 31);
-  EXPECT_TRUE(remind("no number").empty());
+  desk.clock.time = text::DateTime::of(2030, 11, 22);
+  EXPECT_EQ(remind("no number"), std::vector<std::string>{"Bugün"});
+  desk.newPatient("Ocak", "02.01.1990");
+  desk.clock.time = text::DateTime::of(2026, 12, 30);
+  EXPECT_EQ(remind("3"), std::vector<std::string>{"Ocak"});
 }
 
 }  // namespace

@@ -29,6 +29,11 @@ TEST_P(Opening, OfAStoreThatIsNoneSaysSoAndLeavesItAlone) {
   EXPECT_TRUE(desk.main.mnukaydet.enabled()) << "what was typed is still to be saved";
   EXPECT_NE(desk.main.sbDurum.panels()[2].find("kaydedilemedi"), std::string::npos);
   desk.main.mnugeri.Click();
+  EXPECT_EQ(desk.main.Txtİsim.text(), "Ali Can") << "a refused save is not stepped away from";
+  for (int i = 0; i < 2; ++i) desk.host.expect("Kayıt yapılsın mı?", host::Answer::Yes);
+  desk.main.mnuyeni.Click();
+  EXPECT_FALSE(desk.main.QueryUnload());
+  EXPECT_EQ(desk.main.Txtİsim.text(), "Ali Can");
   desk.main.mnusil.Click();
   std::ifstream file(path, std::ios::binary);
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), GetParam());

@@ -175,6 +175,38 @@ TEST_F(StoredPatient, ShowsItsVisitsOnTheToolbar) {
   EXPECT_EQ(main.tbToolBar.button("muayene")->image, "muayene");
 }
 
+TEST_F(StoredPatient, ARowChosenFromAListIsAChange) {
+  desk.newPatient("Ali Can", "1980");
+  main.ComKanGrubu.setListIndex(2);
+  EXPECT_TRUE(main.mnukaydet.enabled());
+  EXPECT_FALSE(main.sbDurum.panels()[2].empty());
+  main.ComKanGrubu.setText("");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+  EXPECT_EQ(main.sbDurum.panels()[2], "");
+}
+
+// A card without a sex, as another program may have stored it, shows none.
+TEST_F(StoredPatient, WithoutASexShowsNone) {
+  dao::Recordset& cards = desk.station.stores.personal.IDCard;
+  ASSERT_TRUE(cards.AddNew().ok());
+  ASSERT_TRUE(cards.Fields("Name").Set("Ece Su").ok());
+  ASSERT_TRUE(cards.Fields("Year of Birth").Set("1999").ok());
+  ASSERT_TRUE(cards.Update().ok());
+  desk.load("Ece Su");
+  EXPECT_EQ(main.ComCinsiyet.text(), "");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+}
+
+TEST_F(StoredPatient, ChosenAfterAnotherStationDeletedItLeavesTheCardAsItIs) {
+  desk.newPatient("Veli Can", "1980");
+  main.txtnot.setText("yarım");
+  desk.station.SeciliHasta = "Kimse Yok";
+  EXPECT_FALSE(main.hastaoku());
+  EXPECT_EQ(desk.station.SeciliHasta, "Veli Can");
+  EXPECT_EQ(main.txtnot.text(), "yarım");
+  EXPECT_TRUE(main.mnukaydet.enabled());
+}
+
 TEST_F(StoredPatient, TabsShowOnePanelAndItsFirstField) {
   main.TabStrip1.select("TSAdres");
   EXPECT_TRUE(main.PAdres.visible());
@@ -191,8 +223,9 @@ TEST(CardColours, FollowTheSex) {
   desk.main.ComCinsiyet.setText("Man");
   EXPECT_EQ(desk.main.Panofoto.backColour(), 0xC0C0FFU);
   EXPECT_FALSE(desk.main.BKadınDoğum.enabled());
-  desk.main.ComCinsiyet.setText("x");  // neither initial: nothing is chosen
-  EXPECT_EQ(desk.main.ComCinsiyet.listIndex(), -1);
+  desk.main.ComCinsiyet.setText("x");  // neither initial: the choice stays
+  EXPECT_EQ(desk.main.ComCinsiyet.listIndex(), 1);
+  EXPECT_EQ(desk.main.ComCinsiyet.text(), "M");
 }
 
 TEST_F(Card, ShutDownAsksSavesAndKeepsTheWindow) {

@@ -141,6 +141,54 @@ TEST_F(Namesakes, AreAskedForEvenWhenTheKeyboardSaves) {
   EXPECT_EQ(desk.column("Ali Can*", "Year of Birth"), "1999");
 }
 
+TEST_F(Namesakes, AreAskedForWhenTheFocusLeavesByATab) {
+  desk.newPatient("Ali Can", "1980");
+  main.mnuyeni.Click();
+  main.TxtDTarihi.setText("1999");
+  main.Txtİsim.setFocus();
+  main.Txtİsim.setText("Ali Can");
+  desk.host.expect("önceden girildi", host::Answer::Yes);
+  main.TabStrip1.select("TSNot");
+  EXPECT_EQ(main.Txtİsim.text(), "Ali Can*");
+}
+
+TEST_F(Namesakes, ThatAnotherStationStoredMeanwhileAreNotOverwritten) {
+  CardDesk other(folder.path());
+  main.mnuyeni.Click();
+  desk.typeName("Ali Can");
+  main.TxtDTarihi.setText("1999");
+  other.newPatient("Ali Can", "1950");
+  desk.host.expect("önceden girildi", host::Answer::Yes);
+  main.mnukaydet.press();
+  EXPECT_EQ(desk.column("Ali Can", "Year of Birth"), "1950");
+  EXPECT_EQ(desk.column("Ali Can*", "Year of Birth"), "1999");
+}
+
+TEST_F(Namesakes, LoadedInsteadAskAboutTheCardOnTheScreen) {
+  desk.newPatient("Ali Can", "1980");
+  desk.newPatient("Veli Can", "1970");
+  main.txtnot.setText("önemli");
+  desk.host.expect("önceden girildi", host::Answer::No);
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::Yes);
+  desk.typeName("Ali Can");
+  EXPECT_EQ(main.TxtDTarihi.text(), "1980");
+  EXPECT_EQ(desk.column("Veli Can", "Notes"), "önemli");
+}
+
+TEST_F(NameField, AListOfAnotherTextDoesNotChangeTheName) {
+  desk.newPatient("Ali Can", "1980");
+  main.mnuyeni.Click();
+  main.focusMoved(&main.Txtİsim);
+  main.Txtİsim.setText("Ali C");
+  main.Txtİsim.KeyUp(forms::Key{.code = 'C'});
+  desk.tick();
+  main.Txtİsim.setText("Ali Cem");  // typed before the next pause
+  main.focusMoved(&main.TxtDTarihi);
+  EXPECT_EQ(main.Txtİsim.text(), "Ali Cem");
+  desk.tick();
+  EXPECT_FALSE(main.Lstdat.visible());
+}
+
 TEST_F(Namesakes, OfANameThatFillsItsFieldFindRoomForTheMark) {
   std::string longName;
   for (int i = 0; i < 40; ++i) longName += "ğ";

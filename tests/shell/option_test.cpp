@@ -118,6 +118,16 @@ TEST_F(Options, AnOpeningPasswordIsSetByTickingItsBox) {
   options.acilistasifresor.MouseDown(eaten);
   EXPECT_TRUE(eaten);
   EXPECT_FALSE(options.acilistasifresor.value());
+  desk.host.modal["frmpass"] = [](forms::Form& form) {
+    for (int entry = 0; entry < 2; ++entry) {
+      dynamic_cast<forms::TextBox*>(form.find("txtsifre"))->setText("1234");
+      dynamic_cast<forms::CommandButton*>(form.find("buttamam"))->press();
+    }
+  };
+  desk.host.expect("Şifrenizi yeniden giriniz.", host::Answer::Ok);
+  options.acilistasifresor.MouseDown(eaten);
+  EXPECT_TRUE(options.acilistasifresor.value());
+  EXPECT_EQ(desk.station.ayar("openpass"), "1234");
 }
 
 }  // namespace

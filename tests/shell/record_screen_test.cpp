@@ -84,17 +84,17 @@ TEST_F(Fixture, ACharacterThatMovesToTheNeighbourIsNoChange) {
 }
 
 TEST_F(Fixture, TheQuestionTellsNewFromStored) {
-  screen->kayitkontrol();  // nothing to save: nothing asked
+  EXPECT_TRUE(screen->kayitkontrol());  // nothing to save: nothing asked
   screen->txtad.setText("Vakıf");
   desk.host.expect("Kayıt yapılsın mı?", host::Answer::No);
-  screen->kayitkontrol();
+  EXPECT_TRUE(screen->kayitkontrol());
   EXPECT_TRUE(screen->mnukaydet.enabled());
   desk.host.expect("Kayıt yapılsın mı?", host::Answer::Yes);
-  screen->kayitkontrol();
+  EXPECT_TRUE(screen->kayitkontrol());
   EXPECT_FALSE(screen->mnukaydet.enabled());
   screen->txtadres.setText("Çankaya");
   desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::No);
-  screen->kayitkontrol();
+  EXPECT_TRUE(screen->kayitkontrol());
   EXPECT_EQ(desk.host.asked.back().buttons, host::Buttons::YesNo);
   EXPECT_EQ(desk.host.asked.back().icon, host::Icon::Question);
 }

@@ -26,6 +26,22 @@ TEST(TextLookup, ChoosesTheLanguageOfTheDeskOnce) {
   EXPECT_EQ(desk.station.ayar("Language").size(), 2U);
 }
 
+// A first start on a desk whose settings cannot be written.
+TEST(TextLookup, GoesOnWhenTheChoiceCannotBeKept) {
+  struct Refusing : settings::MemoryBackend {
+    platform::Result<settings::Values> update(const settings::Change&) override {
+      return std::unexpected(platform::Status(platform::Fault::ReadOnly, "read-only"));
+    }
+  };
+  const support::TemporaryFolder folder;
+  support::Desk desk(folder.path());
+  settings::Settings refusing(std::make_unique<Refusing>());
+  shell::Station station({desk.host, desk.clock, refusing, desk.screens}, folder.path(), "Surgery");
+  EXPECT_FALSE(metinbul(station, "isim").empty());
+  EXPECT_EQ(station.Dil.size(), 2U);
+  EXPECT_TRUE(desk.host.errors.empty());
+}
+
 TEST(TextLookup, LeavesUnknownKeysAsTheyStand) {
   const support::TemporaryFolder folder;
   support::Desk desk(folder.path());

@@ -16,6 +16,12 @@ namespace support {
 
 class ScriptedHost : public host::Host {
  public:
+  // A question that was expected and never came fails the test too.
+  ~ScriptedHost() override {
+    EXPECT_TRUE(answers_.empty()) << "never asked: " << answers_.front().first;
+    EXPECT_TRUE(inputs.empty() && files.empty() && folders.empty());
+  }
+
   struct Asked {
     std::string text;
     std::string title;
@@ -27,7 +33,6 @@ class ScriptedHost : public host::Host {
   void expect(std::string part, host::Answer answer) {
     answers_.emplace_back(std::move(part), answer);
   }
-  [[nodiscard]] bool allAsked() const { return answers_.empty(); }
   std::vector<Asked> asked;
 
   std::deque<std::string> inputs;

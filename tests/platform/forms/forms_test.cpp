@@ -195,6 +195,33 @@ TEST(Form, AFieldThatSendsTheFocusBackKeepsIt) {
   EXPECT_EQ(gained, 0);
 }
 
+TEST(Form, AFocusSetByTheScreenLeavesTheOldFieldToo) {
+  Form form("f");
+  TextBox name(form, "name");
+  TextBox note(form, "note");
+  int& left = counted(name.LostFocus);
+  int& entered = counted(note.GotFocus);
+  name.setFocus();
+  note.setFocus();
+  form.focusMoved(&note);  // the window follows
+  EXPECT_EQ(left, 1);
+  EXPECT_EQ(entered, 1);
+}
+
+TEST(Event, AHandlerMayConnectAnother) {
+  Form form("f");
+  TextBox box(form, "txt");
+  int late = 0;
+  for (int i = 0; i < 3; ++i) {
+    box.Change.connect([&box, &late, text = std::string(100, 'x')] {
+      box.Change.connect([&late] { ++late; });
+      EXPECT_EQ(text.size(), 100U);
+    });
+  }
+  box.setText("a");
+  EXPECT_EQ(late, 3);
+}
+
 TEST(ScrollBar, StaysInItsRange) {
   Form form("f");
   ScrollBar bar(form, "Scl");
