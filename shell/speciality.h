@@ -21,6 +21,7 @@ struct Speciality {
 [[nodiscard]] std::span<const Speciality> specialities();
 
 namespace brans {
+inline constexpr int internalMedicine = 1;
 inline constexpr int polyclinic = 8;
 inline constexpr int pathology = 9;
 inline constexpr int smoke = 13;
