@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/richtext/utf8.h"
+#include "platform/text/utf8.h"
 
 namespace richtext {
 namespace {
@@ -108,7 +109,8 @@ int codePageOfCharset(int charset) {
 
 void CodePages::decode(int codePage, std::string_view bytes, std::string& utf8) {
   if (codePage == kSymbolCodePage) {
-    for (const char byte : bytes) appendCharacter(utf8, symbolOf(static_cast<unsigned char>(byte)));
+    for (const char byte : bytes)
+      ::text::appendCharacter(utf8, symbolOf(static_cast<unsigned char>(byte)));
     return;
   }
   if (std::ranges::all_of(bytes, isAscii)) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/richtext/utf8.h"
+#include "platform/text/utf8.h"
 
 namespace richtext {
 namespace {
@@ -128,7 +129,7 @@ void RtfInterpreter::flushBytes() {
 
 void RtfInterpreter::addCharacter(char32_t character) {
   std::string utf8;
-  appendCharacter(utf8, character);
+  ::text::appendCharacter(utf8, character);
   addText(utf8);
 }
 

@@ -3,24 +3,15 @@
 #include <unicode/utf8.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+
+#include "platform/text/utf8.h"
 
 namespace richtext {
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
-
 bool isTrail(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
-// The next code point; anything malformed is U+FFFD.
-char32_t nextCharacter(std::string_view text, std::size_t& offset) {
-  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-  UChar32 character = 0;
-  U8_NEXT_OR_FFFD(bytes, offset, text.size(), character);
-  return static_cast<char32_t>(character);
 }
 
 bool isPrintableAscii(char byte) {
@@ -63,33 +54,25 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-std::string cleaned(std::string_view text) {
-  if (std::ranges::all_of(text, isPrintableAscii)) return std::string(text);
+std::string cleaned(std::string_view raw) {
+  if (std::ranges::all_of(raw, isPrintableAscii)) return std::string(raw);
   std::string result;
-  result.reserve(text.size());
-  for (std::size_t offset = 0; offset < text.size();) {
-    const char32_t character = nextCharacter(text, offset);
+  result.reserve(raw.size());
+  for (std::size_t offset = 0; offset < raw.size();) {
+    const char32_t character = text::nextCharacter(raw, offset);
     if (isLineEnd(character)) {
       result += ' ';
     } else if (!isControl(character)) {
-      appendCharacter(result, character);
+      text::appendCharacter(result, character);
     }
   }
   return result;
 }
 
-void appendCharacter(std::string& text, char32_t character) {
-  const bool scalar = character <= 0x10FFFF && !(character >= 0xD800 && character <= 0xDFFF);
-  std::array<char, U8_MAX_LENGTH> bytes{};
-  std::size_t size = 0;
-  U8_APPEND_UNSAFE(bytes, size, scalar ? character : kReplacement);
-  text.append(bytes.data(), size);
-}
-
-std::u32string toCodePoints(std::string_view text) {
+std::u32string toCodePoints(std::string_view raw) {
   std::u32string result;
-  result.reserve(text.size());
-  for (std::size_t offset = 0; offset < text.size();) result += nextCharacter(text, offset);
+  result.reserve(raw.size());
+  for (std::size_t offset = 0; offset < raw.size();) result += text::nextCharacter(raw, offset);
   return result;
 }
 

@@ -1,4 +1,4 @@
-// The few UTF-8 steps that positions in characters need.
+// The UTF-8 steps that positions in characters need, beside those of platform/text.
 #pragma once
 
 #include <cstddef>
@@ -17,10 +17,8 @@ bool isUtf8(std::string_view bytes);
 
 // The text with malformed sequences as U+FFFD and without control characters but the tab; line ends
 // become blanks, because a run cannot hold them.
-std::string cleaned(std::string_view text);
+std::string cleaned(std::string_view raw);
 
-void appendCharacter(std::string& text, char32_t character);
-
-std::u32string toCodePoints(std::string_view text);
+std::u32string toCodePoints(std::string_view raw);
 
 }  // namespace richtext

@@ -4,6 +4,7 @@
 
 #include "platform/richtext/rtf_reader.h"
 #include "platform/richtext/utf8.h"
+#include "platform/text/utf8.h"
 #include "samples.h"
 
 namespace richtext {
@@ -39,7 +40,7 @@ TEST(RtfWriterTest, EveryCharacterComesBack) {
   std::string text;
   for (char32_t character = 0xA0; character < 0x11000; ++character) {
     if (character >= 0xD800 && character <= 0xDFFF) continue;
-    appendCharacter(text, character);
+    ::text::appendCharacter(text, character);
   }
   const Document document = Document::fromText(text);
   EXPECT_EQ(readRtf(writeRtf(document)).value_or(Document()), document);
