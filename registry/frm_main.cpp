@@ -108,8 +108,7 @@ void FrmMain::basliklariYenile() {
 void FrmMain::dilDegisti() {
   const int sex = ComCinsiyet.listIndex();
   shell::bransmenusu(istasyon, *this);
-  for (const forms::OptionButton* option :
-       {&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum, &BGöz, &BKBB, &BGenel}) {
+  for (const forms::OptionButton* option : branslar) {
     if (option->value()) shell::bransSec(istasyon, *this, option->name());
   }
   basliklariYenile();

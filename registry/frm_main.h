@@ -1,6 +1,7 @@
 // The patient card: the main window and the identity record of a patient.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <span>
 #include <string>
@@ -154,6 +155,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::OptionButton BKBB{*this, "BKBB", "brans"};
   forms::OptionButton BGenel{*this, "BGenel", "brans"};
 
+  const std::array<forms::OptionButton*, 7> branslar{&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum,
+                                                     &BGöz,      &BKBB,     &BGenel};
+
   forms::Panel Pexam{*this, "Pexam"};
   forms::TextBox txttarih{*this, "txttarih"};
   forms::ListBox Liste{*this, "Liste"};
@@ -231,7 +235,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
-  void hastayiGoster();
+  void hastayiGoster(const std::string& name);
   void saatVurusu();
   void isimYazildi();
   void listeyiBaslat(dao::Fold fold);

@@ -134,8 +134,7 @@ void FrmMain::kayityap() {
     return;
   }
   TxtEskiİsim.setText(Txtİsim.text());
-  istasyon.SeciliHasta = Txtİsim.text();
-  hastayiGoster();
+  hastayiGoster(Txtİsim.text());
   durumYaz(phrase(istasyon, shell::Phrase::StateSaved) + text::shortTime(istasyon.clock.now()));
 }
 

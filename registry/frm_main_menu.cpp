@@ -115,8 +115,7 @@ void FrmMain::menuleriBagla() {
   mnuhakkinda.setShortcut("F1");
   mnuonizleme.setVisible(istasyon.screens.has("frmprewive"));
   mnuyazdır.setVisible(istasyon.screens.has("frmprewive"));
-  for (forms::OptionButton* option :
-       {&Bdahiliye, &BCerrahi, &BÇocuk, &BKadınDoğum, &BGöz, &BKBB, &BGenel}) {
+  for (forms::OptionButton* option : branslar) {
     option->Click.connect([this, option] {
       shell::bransSec(istasyon, *this, option->name());
       sbDurum.setPanel(5, caption());
@@ -198,8 +197,7 @@ void FrmMain::adim(Direction direction) {
     found = (back ? cards.MovePrevious() : cards.MoveNext()) && !cards.Eof() && !cards.Bof();
   }
   if (!found) return yonEtkin(direction, false);
-  istasyon.SeciliHasta = cards.Fields("Name").text();
-  hastayiGoster();
+  hastayiGoster(cards.Fields("Name").text());
   yonEtkin(back ? Direction::Forward : Direction::Back, true);
 }
 

@@ -96,14 +96,12 @@ void FrmMain::listeyiKapat() {
 }
 
 void FrmMain::hastaSec(const std::string& name) {
-  if (secimdenOnce()) {
-    istasyon.SeciliHasta = name;
-    hastayiGoster();
-  }
+  if (secimdenOnce()) hastayiGoster(name);
   listeyiKapat();
 }
 
-void FrmMain::hastayiGoster() {
+void FrmMain::hastayiGoster(const std::string& name) {
+  istasyon.SeciliHasta = name;
   if (hastaoku()) Eskialanmain();
 }
 
@@ -135,8 +133,7 @@ FrmMain::NameCheck FrmMain::adasSor() {
     const std::string name = Txtİsim.text();
     if (!istasyon.evetMi(name + metinbul(istasyon, "msgisimtekrari"))) {
       if (!TxtEskiİsim.text().empty() && !secimdenOnce()) return NameCheck::OtherPatientLoaded;
-      istasyon.SeciliHasta = name;
-      hastayiGoster();
+      hastayiGoster(name);
       return NameCheck::OtherPatientLoaded;
     }
     Txtİsim.setText(withMark(name));
