@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/forms/control.h"
 #include "platform/forms/key.h"
+#include "platform/text/date.h"
 
 namespace forms {
 
@@ -67,6 +69,18 @@ class TextBox : public TextControl {
  private:
   TextLines lines_;
   TextEcho echo_;
+};
+
+// A date as it is typed, day before month; its owner decides what happens to a text that is none.
+class DateBox : public TextControl {
+ public:
+  using TextControl::TextControl;
+
+  // What the text spells; without a year it is the year of `today`.
+  [[nodiscard]] std::optional<text::DateTime> date(const text::DateTime& today) const {
+    return text::parseDate(text(), today);
+  }
+  void setDate(const text::DateTime& date) { setText(text::shortDate(date)); }
 };
 
 enum class ComboStyle { Editable, ListOnly };
