@@ -65,7 +65,10 @@ bool RecordScreen::tusBas(std::string_view key) {
 }
 
 void RecordScreen::alanlariBagla() {
-  for (const FieldRow& row : alanlar()) kontroluBagla(row.control(*this));
+  for (const FieldRow& row : alanlar()) {
+    kontroluBagla(row.control(*this));
+    if (!row.unit.empty()) kontrol(row).setUnit(row.unit);
+  }
 }
 
 void RecordScreen::kontroluBagla(forms::Control& control) {

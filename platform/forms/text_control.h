@@ -36,6 +36,10 @@ class TextControl : public Control {
 
   [[nodiscard]] std::string snapshotText() const override { return text_; }
 
+  // What stands behind the field: its unit, its normal range.
+  [[nodiscard]] const std::string& unit() const { return unit_; }
+  void setUnit(std::string_view unit) { unit_ = std::string(unit); }
+
   Event<> Change;
   Event<> DblClick;
   Event<Key> KeyUp;
@@ -49,6 +53,7 @@ class TextControl : public Control {
 
  private:
   std::string text_;
+  std::string unit_;
   std::size_t maxLength_ = 0;
   std::size_t selStart_ = 0;
   std::size_t selLength_ = 0;
