@@ -211,6 +211,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void araclariKur();
   void kartiBagla();
   void ekranAc(const forms::MenuItem& entry, std::string_view screen);
+  [[nodiscard]] bool kartSaklandi();
   bool tusBas(std::string_view key) override;
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);

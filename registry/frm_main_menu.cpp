@@ -1,9 +1,9 @@
 // Menus and toolbar of the main window: which entry does what.
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "registry/frm_main.h"
-#include "shell/phrases.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
 #include "stores/visit_ledger.h"
@@ -105,9 +105,18 @@ void FrmMain::menuleriBagla() {
   }
 }
 
+// A record belongs to a stored card: what was typed on the card is saved first, with the questions
+// that a save asks.
 void FrmMain::ekranAc(const forms::MenuItem& entry, std::string_view screen) {
-  if (istasyon.screens.has(screen)) return istasyon.ekranAc(screen);
-  istasyon.bilgi(entry.caption().substr(1) + phrase(istasyon, shell::Phrase::NotInThisVersion));
+  const bool clinical = std::ranges::any_of(
+      clinicalEntries, [&](forms::MenuItem FrmMain::*each) { return &(this->*each) == &entry; });
+  if (clinical && istasyon.screens.has(screen) && !kartSaklandi()) return;
+  istasyon.ekranAc(screen, entry.caption());
+}
+
+bool FrmMain::kartSaklandi() {
+  if (mnukaydet.enabled()) Kaydet();
+  return !mnukaydet.enabled() && !TxtEskiİsim.text().empty();
 }
 
 bool FrmMain::tusBas(std::string_view key) {
