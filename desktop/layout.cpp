@@ -17,6 +17,7 @@
 #include "desktop/bind/bind_button.h"
 #include "desktop/bind/bind_combo.h"
 #include "desktop/bind/bind_date.h"
+#include "desktop/bind/bind_grid.h"
 #include "desktop/bind/bind_label.h"
 #include "desktop/bind/bind_list.h"
 #include "desktop/bind/bind_picture.h"
@@ -92,6 +93,7 @@ QWidget* makeWidget(forms::Control& control, QWidget& parent) {
                               made<QLabel, forms::Label>,
                               made<HintList, forms::ListBox>,
                               made<QTreeView, forms::ListView>,
+                              made<GridTable, forms::Grid>,
                               made<PictureFrame, forms::Picture>,
                               made<QProgressBar, forms::ProgressBar>,
                               made<RichTextEdit, forms::RichTextBox>,
