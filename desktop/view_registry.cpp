@@ -5,13 +5,17 @@
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
+#include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
+#include "shell/dated_record_screen.h"
 
 namespace desktop {
 
 std::unique_ptr<QWidget> ViewRegistry::build(forms::Form& form) const {
   const auto found = builders_.find(form.name());
-  return found == builders_.end() ? genericView(form) : found->second(form);
+  if (found != builders_.end()) return found->second(form);
+  const bool record = dynamic_cast<shell::DatedRecordScreen*>(&form) != nullptr;
+  return record ? recordView(form) : genericView(form);
 }
 
 ViewRegistry programViews() {

@@ -17,7 +17,7 @@ QString textAt(const Texts& texts, int place) {
 }  // namespace
 
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
-  const auto row = static_cast<std::size_t>(index.row());
+  const auto row = static_cast<std::size_t>(mapped(index.row()));
   if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.count())
     return {};
   return qs(list_.items()[row].text);
@@ -25,7 +25,7 @@ QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
 
 void ListBoxModel::refresh() {
   const int now = static_cast<int>(list_.count());
-  if (now < rows_ || rows_ == 0) {
+  if (now < rows_ || rows_ == 0 || order_ == RowOrder::Reversed) {
     beginResetModel();
     rows_ = now;
     endResetModel();
