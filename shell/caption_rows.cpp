@@ -136,6 +136,12 @@ constexpr std::array dialogRows{
     CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
 };
 
+constexpr std::array drugRows{
+    CaptionRow{"frmdrug", "ilac", Window}, CaptionRow{"Lstilaç", "ilac"},
+    CaptionRow{"buttasi", "Ekle"},         CaptionRow{"lblRp", "recete"},
+    CaptionRow{"txtrecete", "recete"},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -145,7 +151,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows);
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, drugRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
