@@ -9,9 +9,8 @@ namespace {
 // order keeps the rows of a word together, so each word costs one search, as nothing but U+FFFF
 // comes behind all names. That is as quick as an index by patient, and no save pays for it.
 const std::string patientKeys =
-    "(WITH RECURSIVE word(key) AS ("
-    "SELECT * FROM (SELECT [spname] FROM [clinical].[Visit] ORDER BY [spname] LIMIT 1) "
-    "UNION ALL SELECT (SELECT [spname] FROM [clinical].[Visit] WHERE [spname] > "
+    "(WITH RECURSIVE word(key) AS (SELECT '' UNION ALL "
+    "SELECT (SELECT [spname] FROM [clinical].[Visit] WHERE [spname] > "
     "CASE instr(key, '\\') WHEN 0 THEN key ELSE left(key, instr(key, '\\')) || char(65535) END "
     "ORDER BY [spname] LIMIT 1) FROM word WHERE key IS NOT NULL) "
     "SELECT left(key, instr(key, '\\')) || ?1 FROM word WHERE instr(key, '\\') > 0)";
