@@ -64,13 +64,15 @@ TEST_F(NamedRows, KeepTheirNameWithoutConsentWhileTheCardIsSaved) {
 
 TEST_F(NamedRows, KeepTheirNameWhenTheCardIsRefused) {
   typeOver("Ayşe Su");
-  main.TxtTelefon1.setText(std::string(60, 'n'));  // wider than its field
+  dao::Database& personal = desk.station.stores.personal.database;
+  ASSERT_TRUE(personal.Execute(
+      "CREATE TRIGGER full BEFORE UPDATE ON [IDCard] BEGIN SELECT RAISE(ABORT, 'no'); END"));
   answer(host::Answer::Yes);
   EXPECT_NE(main.sbDurum.panels()[2].find("kaydedilemedi"), std::string::npos);
   EXPECT_EQ(holders(), "Ali Can|GenMed\\Ali Can|Ali Can|");
   EXPECT_EQ(main.TxtEskiİsim.text(), "Ali Can");
   EXPECT_TRUE(main.mnukaydet.enabled());
-  main.TxtTelefon1.setText("");
+  ASSERT_TRUE(personal.Execute("DROP TRIGGER full"));
   answer(host::Answer::Yes);
   EXPECT_EQ(holders(), "Ayşe Su|GenMed\\Ayşe Su|Ayşe Su|");
 }
