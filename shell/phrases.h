@@ -21,7 +21,8 @@ enum class Phrase {
   LetterheadPicture,
   LetterheadIcon,
   OpeningFailed,
-  StoreFailed
+  StoreFailed,
+  RecordGone
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -45,6 +45,7 @@ class PatientCascade {
   dao::Status isimdegistirkardiyoloji(const Change& change);
   dao::Status İsimdeğiştirpatoloji(const Change& change);
   dao::Status vizitdegistir(const Change& change);
+  dao::Status vizitSatırınıDeğiştir(const Change& keys);
   dao::Status uyarıyıDeğiştir(const Change& change);
   dao::Status vizitsil(std::string_view name);
   dao::Status smoksil(std::string_view name);

@@ -15,33 +15,37 @@ const std::string patientKeys =
     "ORDER BY [spname] LIMIT 1) FROM word WHERE key IS NOT NULL) "
     "SELECT left(key, instr(key, '\\')) || ?1 FROM word WHERE instr(key, '\\') > 0)";
 
-// The key of the row `own` under the name ?2.
-const std::string newKey = "left(own.[spname], instr(own.[spname], '\\')) || ?2";
-
-const std::string mergeLeftovers =
+constexpr auto mergeLeftover =
     "UPDATE [clinical].[Visit] AS own SET "
     "[Visit Numbers] = coalesce(own.[Visit Numbers], '') || coalesce(rest.[Visit Numbers], ''), "
     "[Visit Count] = coalesce(own.[Visit Count], 0) + coalesce(rest.[Visit Count], 0), "
     "[Last Visit Date] = max(coalesce(own.[Last Visit Date], rest.[Last Visit Date]), "
     "coalesce(rest.[Last Visit Date], own.[Last Visit Date])) "
-    "FROM [clinical].[Visit] AS rest WHERE own.[spname] IN " +
-    patientKeys + " AND rest.[spname] = " + newKey;
-
-const std::string removeLeftovers =
-    "DELETE FROM [clinical].[Visit] WHERE [spname] IN (SELECT " + newKey +
-    " FROM [clinical].[Visit] AS own WHERE own.[spname] IN " + patientKeys + ")";
-
-const std::string moveRows = "UPDATE [clinical].[Visit] AS own SET [spname] = " + newKey +
-                             " WHERE own.[spname] IN " + patientKeys;
+    "FROM [clinical].[Visit] AS rest WHERE own.[spname] = ?1 AND rest.[spname] = ?2";
 
 }  // namespace
 
 dao::Status PatientCascade::vizitdegistir(const Change& change) {
-  const std::vector<dao::Value> names{change.old, change.now};
-  if (change.sameKey) return run(moveRows, names);
-  dao::Status status = run(mergeLeftovers, names);
-  if (status) status = run(removeLeftovers, names);
-  return status ? run(moveRows, names) : status;
+  auto rows = personal_.OpenRecordset(
+      "SELECT [spname] FROM [clinical].[Visit] WHERE [spname] IN " + patientKeys, {change.old});
+  if (!rows) return rows.error();
+  dao::Status status;
+  for (; status && !rows->Eof(); rows->MoveNext().ignore()) {
+    const std::string key = rows->Fields("spname").text();
+    const std::string word = key.substr(0, key.find('\\') + 1);
+    status = vizitSatırınıDeğiştir({key, word + change.now, change.sameKey});
+  }
+  return status;
+}
+
+// Numbers that were left under the new name come behind the patient's own: whoever lists them sorts
+// them by day.
+dao::Status PatientCascade::vizitSatırınıDeğiştir(const Change& keys) {
+  if (!keys.sameKey) {
+    const dao::Status merged = run(mergeLeftover, {keys.old, keys.now});
+    if (!merged) return merged;
+  }
+  return renameKey("Visit", "spname", keys);
 }
 
 dao::Status PatientCascade::vizitsil(std::string_view name) {
