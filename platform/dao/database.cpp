@@ -44,6 +44,10 @@ std::string Database::path() const {
   return engine_ ? engine_->path().string() : "";
 }
 
+bool Database::sameKey(std::string_view one, std::string_view other) const {
+  return isOpen() ? engine_->collator().compare(one, other) == 0 : one == other;
+}
+
 Result<Recordset> Database::OpenRecordset(std::string_view source,
                                           const std::vector<Value>& parameters) {
   if (!isOpen()) return std::unexpected(closed());

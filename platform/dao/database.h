@@ -75,6 +75,9 @@ class Database {
   [[nodiscard]] Order order() const;
   [[nodiscard]] std::string path() const;
 
+  // Whether both texts are one key in the store's order.
+  [[nodiscard]] bool sameKey(std::string_view one, std::string_view other) const;
+
   // A table name gives a table-type recordset; a text that begins with SELECT gives a read-only set
   // of the rows that it finds now. "like" takes * ? # [a-z] [!x]; left, len and DateValue are
   // there; texts stand in single or double quotes, names with blanks in [brackets]. Missing when
