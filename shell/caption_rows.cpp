@@ -148,7 +148,7 @@ constexpr std::array examRows{
     CaptionRow{"TabStrip1", "Muayene", Plain, "FrmExam"},
     CaptionRow{"pgenel", "Genel"},
     CaptionRow{"pözel", "ozel"},
-    CaptionRow{"FKado", "Kadın Doğum"},
+    CaptionRow{"FKado", "kadindogum"},
     CaptionRow{"FGoz", "goz"},
     CaptionRow{"FKBB", "KBB"},
     CaptionRow{"FKalp", "Kardiyoloji"},
