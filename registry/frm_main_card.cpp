@@ -81,7 +81,7 @@ bool FrmMain::hastaoku() {
   yasGoster();
   listeyiKapat();
   etkinlestir(mnusil, "Delete", !hidden);
-  muayenetusuboya();
+  ButtonsForPatient();
   durumYaz({});
   return true;
 }
@@ -175,7 +175,7 @@ void FrmMain::alanlaribosalt() {
   txtyaşı.setCaption("");
   istasyon.SeciliHasta.clear();
   listeyiKapat();
-  tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, shell::Visits::None));
+  ButtonsForPatient();
   durumYaz({});
 }
 

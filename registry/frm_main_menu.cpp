@@ -109,6 +109,8 @@ void FrmMain::menuleriBagla() {
   mnukes.Click.connect([this] { istasyon.host.sendKeys("+{DELETE}"); });
   mnukopyala.Click.connect([this] { istasyon.host.sendKeys("^{INSERT}"); });
   mnuyapıştır.Click.connect([this] { istasyon.host.sendKeys("+{INSERT}"); });
+  mnutamir.Click.connect([this] { Tamir2(); });
+  mnugebekart.Click.connect([this] { Command1(); });
   mnugeri.setShortcut("Ctrl+PgUp");
   mnuileri.setShortcut("Ctrl+PgDown");
   mnubul.setShortcut("Ctrl+F");
@@ -119,7 +121,8 @@ void FrmMain::menuleriBagla() {
     option->Click.connect([this, option] {
       shell::bransSec(istasyon, *this, option->name());
       sbDurum.setPanel(5, caption());
-      muayenetusuboya();
+      ButtonsForPatient();
+      gunlukListele();
     });
   }
 }
@@ -138,7 +141,7 @@ void FrmMain::tusBas(std::string_view key) {
   if (key == "smok") return mnusigarabp.press();
   if (key == "keyclose") return isimSifresi();
   if (key == "keyopen") return isimleriAc(false);
-  if (key == "idpass") return istasyon.ekranAc("Frmkey");
+  if (key == "idpass") return gizlileriSec();
   for (const auto& [button, entry] : ownButtons) {
     if (key == button) return (this->*entry).press();
   }
@@ -152,7 +155,7 @@ void FrmMain::muayenetus() {
   if (entry != nullptr && entry->enabled()) entry->Click();
 }
 
-void FrmMain::muayenetusuboya() {
+void FrmMain::ButtonsForPatient() {
   dao::Recordset& visit = istasyon.stores.clinical.Visit;
   const bool found = visit.isOpen() &&
                      visit.Seek("=", istasyon.BransAdi + "\\" + TxtEskiİsim.text()) &&

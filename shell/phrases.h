@@ -21,7 +21,14 @@ enum class Phrase {
   LetterheadPicture,
   LetterheadIcon,
   OpeningFailed,
-  StoreFailed
+  StoreFailed,
+  Stop,
+  HiddenCount,  // a number follows
+  SaveAllCards,
+  CardsSaved,  // a number follows
+  CardsFromPregnancies,
+  CardsAdded,      // a number follows
+  CardsPassedOver  // a number follows
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

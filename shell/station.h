@@ -2,6 +2,7 @@
 // can hold two stations on one folder in one process.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -43,7 +44,9 @@ struct Station {
   std::string KartYedegi;     // the snapshot of the card
   std::string MuayeneYedegi;  // the snapshot of the examination
   std::string OncekiTarih;    // the date field's value when it took the focus
-  int SifreSonucu = 0;        // 1 when the password dialog accepted
+  // The day whose record the examination screen selects when it opens; none for the latest.
+  std::optional<text::DateTime> SeciliTarih;
+  int SifreSonucu = 0;  // 1 when the password dialog accepted
 
   stores::Stores stores;
 

@@ -9,6 +9,7 @@
 
 namespace desktop {
 
+// The rows of a list of which several can be chosen carry a check mark.
 class ListBoxModel : public QAbstractListModel {
   Q_OBJECT
  public:

@@ -24,6 +24,11 @@ void ListBox::appendItems(std::vector<std::string> texts) {
   notify(Aspect::Items);
 }
 
+void ListBox::addItems(std::vector<ListItem> items) {
+  for (ListItem& item : items) items_.push_back(std::move(item));
+  notify(Aspect::Items);
+}
+
 void ListBox::removeItem(std::size_t row) {
   items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(row));
   listIndex_ = -1;
@@ -49,8 +54,9 @@ std::string ListBox::text() const {
 }
 
 void ListBox::setSelected(std::size_t row, bool selected) {
-  items_.at(row).selected = selected;
+  if (std::exchange(items_.at(row).selected, selected) == selected) return;
   notify(Aspect::Selection);
+  ItemCheck();
 }
 
 void ListBox::setVisibleRows(int rows) {
