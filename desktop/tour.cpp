@@ -140,6 +140,7 @@ class Tour {
   // Stays for the pictures behind: the panel takes room from the card.
   void daysList() {
     main_.Pexam.setVisible(true);
+    main_.Pexam.setCaption(main_.Liste.caption() + " (3)");
     main_.Liste.clear();
     main_.Liste.appendItems({"Ayşe Yıldırım", "Mehmet Ali Karaosmanoğlu", "Zeynep Şahin"});
   }

@@ -10,6 +10,20 @@
 
 namespace registry {
 
+namespace {
+
+// What the store says of a name, as the data of its row.
+constexpr long shown = 0;
+constexpr long hidden = 1;
+constexpr long otherMark = 2;  // says nothing to anybody; written empty with the next choice
+
+long storedState(std::string_view key) {
+  const std::string_view mark = text::trimmed(key);
+  return mark.empty() ? shown : mark == hiddenMark ? hidden : otherMark;
+}
+
+}  // namespace
+
 FrmKey::FrmKey(shell::Station& station) : Form("Frmkey"), istasyon(station) {
   txtara.Change.connect([this] { Listele(); });
   Lstkey.ItemCheck.connect([this] { say(); });
@@ -58,11 +72,11 @@ void FrmKey::surdur() {
 std::vector<forms::ListItem> FrmKey::yeniSatirlar() {
   std::vector<forms::ListItem> items;
   for (const dao::PrefixRow& row : okuyan_->rows().subspan(alinan_)) {
-    const bool stored = text::trimmed(row.extra) == hiddenMark;
+    const long stored = storedState(row.extra);
     const auto changed = degisen_.find(row.name);
     items.push_back({.text = std::string(row.name),
-                     .data = stored ? 1 : 0,
-                     .selected = changed == degisen_.end() ? stored : changed->second});
+                     .data = stored,
+                     .selected = changed == degisen_.end() ? stored == hidden : changed->second});
   }
   alinan_ += items.size();
   return items;
@@ -70,7 +84,7 @@ std::vector<forms::ListItem> FrmKey::yeniSatirlar() {
 
 void FrmKey::secimiTopla() {
   for (const forms::ListItem& item : Lstkey.items()) {
-    if (item.selected != (item.data == 1)) {
+    if (item.data != (item.selected ? hidden : shown)) {
       degisen_.insert_or_assign(item.text, item.selected);
     } else {
       degisen_.erase(item.text);
@@ -79,9 +93,9 @@ void FrmKey::secimiTopla() {
 }
 
 void FrmKey::say() {
-  const auto hidden = std::ranges::count(Lstkey.items(), true, &forms::ListItem::selected);
+  const auto chosen = std::ranges::count(Lstkey.items(), true, &forms::ListItem::selected);
   Lsayi.setCaption(phrase(istasyon, shell::Phrase::PatientCount) + std::to_string(Lstkey.count()) +
-                   "   " + phrase(istasyon, shell::Phrase::HiddenCount) + std::to_string(hidden));
+                   "   " + phrase(istasyon, shell::Phrase::HiddenCount) + std::to_string(chosen));
 }
 
 void FrmKey::tamam() {
@@ -91,27 +105,24 @@ void FrmKey::tamam() {
   istasyon.bilgi(phrase(istasyon, shell::Phrase::StoreFailed) + written.text());
 }
 
-// All or nothing. Only rows that change are written; a mark that says nothing to anybody goes.
+// All or nothing. Only rows that change are written.
 dao::Status FrmKey::yaz() {
-  dao::Database& personal = istasyon.stores.personal.database;
-  auto transaction = personal.beginTransaction();
+  auto transaction = istasyon.stores.personal.database.beginTransaction();
   if (!transaction) return transaction.error();
-  for (const auto& [name, hidden] : degisen_) {
-    const dao::Status marked = isaretle(name, hidden);
+  for (const auto& [name, hide] : degisen_) {
+    const dao::Status marked = isaretle(name, hide);
     if (!marked) return marked;
   }
-  const auto cleaned = personal.Execute(
-      "UPDATE [IDCard] SET [Key] = '' WHERE trim([Key]) NOT IN ('', ?)", {hiddenMark});
-  return cleaned ? transaction->commit() : cleaned.error();
+  return transaction->commit();
 }
 
 // A patient whom another station deleted meanwhile needs no mark.
-dao::Status FrmKey::isaretle(const std::string& name, bool hidden) {
+dao::Status FrmKey::isaretle(const std::string& name, bool hide) {
   dao::Recordset& cards = istasyon.stores.personal.IDCard;
   const dao::Status sought = cards.Seek("=", name);
   if (!sought || cards.NoMatch()) return sought;
   dao::Status status = cards.Edit();
-  if (status) status = cards.Fields("Key").Set(hidden ? hiddenMark : std::string_view());
+  if (status) status = cards.Fields("Key").Set(hide ? hiddenMark : std::string_view());
   if (status) status = cards.Update();
   if (!status) cards.CancelUpdate();
   return status;

@@ -22,7 +22,7 @@ class FrmKey : public forms::Form {
   ~FrmKey() override { *yasiyor_ = false; }
 
   forms::TextBox txtara{*this, "txtara"};  // narrows the list to the names that begin with it
-  // A selected name is hidden. The data of a row is 1 when the store hides it.
+  // A selected name is to be hidden; the data of a row is what the store says of it.
   forms::ListBox Lstkey{*this, "Lstkey", forms::ListOrder::AsAdded, forms::ListChoice::Several};
   forms::Label Lsayi{*this, "Lsayi"};
   forms::CommandButton buttamam{*this, "buttamam"};
@@ -42,7 +42,7 @@ class FrmKey : public forms::Form {
   void say();
   void tamam();
   [[nodiscard]] dao::Status yaz();
-  [[nodiscard]] dao::Status isaretle(const std::string& name, bool hidden);
+  [[nodiscard]] dao::Status isaretle(const std::string& name, bool hide);
 
   shell::Station& istasyon;
   std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);

@@ -26,19 +26,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   explicit FrmMain(Station& istasyon);
   ~FrmMain() override;
 
-  // --- Menus
-  forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
-  forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
-  forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
-  forms::MenuItem çizgi2{MnuDosya, "çizgi2", forms::MenuKind::Separator};
-  forms::MenuItem mnucik{MnuDosya, "mnucik"};
-
-  forms::MenuItem MnuDuzen{*this, "MnuDuzen"};
-  forms::MenuItem mnugerial{MnuDuzen, "mnugerial"};
-  forms::MenuItem mnukes{MnuDuzen, "mnukes"};
-  forms::MenuItem mnukopyala{MnuDuzen, "mnukopyala"};
-  forms::MenuItem mnuyapıştır{MnuDuzen, "mnuyapıştır"};
-
+  // --- Menus, behind those that every record screen has
   forms::MenuItem MnuKayit{*this, "MnuKayit"};
   forms::MenuItem mnugeri{MnuKayit, "mnugeri"};
   forms::MenuItem mnuileri{MnuKayit, "mnuileri"};
@@ -201,8 +189,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void Listeleriyaz() override;
   void dilDegisti() override;
   void sigaraGirisi() override;
-  // Shows on the toolbar whether the patient has a visit in the present speciality.
-  void ButtonsForPatient();
+  void ButtonsForPatient() override;
   // Opens the examination of the present speciality.
   void muayenetus();
 
@@ -210,6 +197,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void datlisteleTUR();
   [[nodiscard]] std::string dogum() const override { return TxtDTarihi.text(); }
   [[nodiscard]] int cinsiyet() const override { return ComCinsiyet.listIndex(); }
+  [[nodiscard]] std::string kanGrubu() const override { return ComKanGrubu.text(); }
   [[nodiscard]] std::string fotograf() const override { return txtfoto.text(); }
   [[nodiscard]] const std::string& baslik() const override { return caption(); }
 
@@ -235,7 +223,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void araclariKur();
   void kartiBagla();
   void ekranAc(const forms::MenuItem& entry, std::string_view screen);
-  void tusBas(std::string_view key);
+  bool tusBas(std::string_view key) override;
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);
 
@@ -287,9 +275,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void klasorleriAc();
   void ayarlarioku();
   void ayarlariyaz();
-  void basliklariYenile();
+  void basliklariYenile() override;
   void hakkindaYaz();
-  void durumYaz(std::string text) { sbDurum.setPanel(3, std::move(text)); }
+  void durumYaz(std::string text) override { sbDurum.setPanel(3, std::move(text)); }
 
   NameSearch isimler_;
   // Tasks that were put off look whether the card is still there.
@@ -299,7 +287,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   std::vector<std::string> gunluk_;  // the full names behind the rows of the day's list
   text::DateTime gun_;               // the day that it shows
   text::DateTime bugun_;             // today, when it was last looked at
-  int vurus_ = 0;                    // ticks since the program came up
+  unsigned vurus_ = 0;               // ticks since the program came up
   Extent panofoto_;
   int cinsiyet_ = 2;  // the row of the sex that was chosen last
 };

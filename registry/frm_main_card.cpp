@@ -118,7 +118,7 @@ dao::Status FrmMain::kartiYaz() {
 // A value that its list refuses, such as one wider than the list's column, stays on the card alone.
 void FrmMain::listelereEkle() {
   for (const ListField& row : listFields()) {
-    const std::string value = text::left(text::trim(row.control(*this).text()), row.cut);
+    const std::string value = text::left(text::trim(row.control(*this).snapshotText()), row.cut);
     stores::addValue(istasyon.stores.personal, row.table, value).ignore();
   }
 }
@@ -128,14 +128,10 @@ void FrmMain::kayityap() {
   Txtİsim.setText(text::trim(Txtİsim.text()));
   const dao::Status found = kaydiBul();
   const dao::Status written = found ? kartiYaz() : found;
-  if (!written) {
-    durumYaz(phrase(istasyon, shell::Phrase::StateNotSaved) + written.text());
-    istasyon.host.beep();
-    return;
-  }
+  if (!written) return kaydedilemedi(written);
   TxtEskiİsim.setText(Txtİsim.text());
   hastayiGoster(Txtİsim.text());
-  durumYaz(phrase(istasyon, shell::Phrase::StateSaved) + text::shortTime(istasyon.clock.now()));
+  kaydedildi();
 }
 
 // A name that another patient has meanwhile, or that was never left, is asked about before it is

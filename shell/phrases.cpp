@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 20> phraseRows{{
+constexpr std::array<Row, 21> phraseRows{{
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -27,6 +27,8 @@ constexpr std::array<Row, 20> phraseRows{{
     {Phrase::OpeningFailed, "The practice could not be opened completely. ",
      "Kayıtlar tam olarak açılamadı. "},
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
+    {Phrase::RecordGone, "this record was deleted at another station",
+     "bu kayıt başka bir istasyonda silinmiş"},
     {Phrase::Stop, "Stop", "Durdur"},
     {Phrase::HiddenCount, "hidden: ", "gizli: "},
     {Phrase::SaveAllCards, "Save All Cards Anew", "Tüm Kartları Yeniden Kaydet"},

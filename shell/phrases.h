@@ -22,6 +22,7 @@ enum class Phrase {
   LetterheadIcon,
   OpeningFailed,
   StoreFailed,
+  RecordGone,
   Stop,
   HiddenCount,  // a number follows
   SaveAllCards,

@@ -40,10 +40,12 @@ struct Station {
   std::string BransAdi = "GenMed";
   std::string SeciliHasta;  // the name of the patient on the card; empty when there is none
 
-  std::string AlanYedegi;     // the generic snapshot
-  std::string KartYedegi;     // the snapshot of the card
-  std::string MuayeneYedegi;  // the snapshot of the examination
-  std::string OncekiTarih;    // the date field's value when it took the focus
+  std::string AlanYedegi;      // the generic snapshot
+  std::string KartYedegi;      // the snapshot of the card
+  std::string MuayeneYedegi;   // the snapshot of the examination
+  std::string OncekiTarih;     // the date field's value when it took the focus
+  std::string AktarilanMetin;  // what the prescription or the request screen hands back; empty
+                               // until it is accepted
   // The day whose record the examination screen selects when it opens; none for the latest.
   std::optional<text::DateTime> SeciliTarih;
   int SifreSonucu = 0;  // 1 when the password dialog accepted

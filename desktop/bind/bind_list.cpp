@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include "desktop/bind/list_models.h"
 
@@ -58,11 +59,24 @@ class SpaceBar : public QObject {
   forms::ListBox& list_;
 };
 
+// The frame of an empty box has to be seen on a dark ground too.
+class BoxedRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->palette.setColor(QPalette::Window, option->palette.color(QPalette::PlaceholderText));
+  }
+};
+
 // A check mark shows more than a colour, and a hundred thousand rows are as quick as ten.
 void checkRows(Binding& binding, QListView& view, forms::ListBox& list) {
   QObject::connect(&view, &QListView::clicked, &binding,
                    [&list](const QModelIndex& index) { toggle(index, list); });
   new SpaceBar(view, list, &binding);
+  view.setItemDelegate(new BoxedRows(&view));
 }
 
 ListBoxModel* giveModel(QListView& view, const forms::ListBox& list) {

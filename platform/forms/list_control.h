@@ -35,6 +35,8 @@ class ListBox : public Control {
   void appendItems(std::vector<std::string> texts);
   // The same with data and selection.
   void addItems(std::vector<ListItem> items);
+  // Other rows, in the order given; the index is dropped, and the widget is told once.
+  void setItems(std::vector<ListItem> items);
   void removeItem(std::size_t row);
   void clear();
 
