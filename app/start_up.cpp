@@ -6,6 +6,7 @@
 #include "exam/frm_exam.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
+#include "registry/frm_key.h"
 #include "registry/frm_max.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
@@ -39,6 +40,7 @@ shell::ScreenDirectory screens() {
   add<shell::FrmPass>(directory, "frmpass");
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
+  add<registry::FrmKey>(directory, "Frmkey");
   add<registry::FrmMax>(directory, "frmmax");
   add<exam::FrmExam>(directory, "FrmExam");
   add<exam::FrmDrug>(directory, "frmdrug");

@@ -10,6 +10,7 @@
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
 #include "platform/forms/menu.h"
+#include "shell/frm_progress.h"
 
 namespace desktop {
 
@@ -100,7 +101,9 @@ class Tour {
     fillCard();
     takeTabs(album_, host_, main_, suffix);
     nameList(suffix);
+    daysList();
     takeVariants(suffix);
+    progress(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -134,6 +137,23 @@ class Tour {
     main_.Lstdat.clear();
   }
 
+  // Stays for the pictures behind: the panel takes room from the card.
+  void daysList() {
+    main_.Pexam.setVisible(true);
+    main_.Pexam.setCaption(main_.Liste.caption() + " (3)");
+    main_.Liste.clear();
+    main_.Liste.appendItems({"Ayşe Yıldırım", "Mehmet Ali Karaosmanoğlu", "Zeynep Şahin"});
+  }
+
+  void progress(const QString& suffix) {
+    shell::FrmProgress screen(istasyon_, {main_.mnutamir.caption(), 2000, [] { return 740; }});
+    screen.Load();
+    host_.show(screen);
+    takeTabs(album_, host_, screen, suffix);
+    host_.close(screen);
+    settle();
+  }
+
   void takeVariants(const QString& suffix) {
     QWidget& window = *host_.windowOf(main_);
     window.resize(smallestSize);
@@ -143,6 +163,8 @@ class Tour {
     applyAppearance(Shade::Dark);
     takeTabs(album_, host_, main_, QStringLiteral("-dark") + suffix);
     takeScreen("FrmOption", QStringLiteral("-dark") + suffix);
+    takeScreen("Frmkey", QStringLiteral("-dark") + suffix);
+    progress(QStringLiteral("-dark") + suffix);
     applyAppearance(shade);
     takeEnlarged(window, suffix);
   }
@@ -154,6 +176,8 @@ class Tour {
     QApplication::setFont(large);
     window.resize(usualSize * enlarged);
     takeTabs(album_, host_, main_, QStringLiteral("-150") + suffix);
+    takeScreen("Frmkey", QStringLiteral("-150") + suffix);
+    progress(QStringLiteral("-150") + suffix);
     QApplication::setFont(usual);
     window.resize(usualSize);
   }

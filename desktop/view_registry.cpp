@@ -26,6 +26,8 @@ ViewRegistry programViews() {
   views.add("Logo", splashView);
   views.add("Frmbirthday", birthdayView);
   views.add("frmpass", passwordView);
+  views.add("Frmkey", hiddenNamesView);
+  views.add("frmprogress", progressView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);

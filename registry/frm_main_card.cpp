@@ -181,7 +181,7 @@ void FrmMain::alanlaribosalt() {
   txtyaşı.setCaption("");
   istasyon.SeciliHasta.clear();
   listeyiKapat();
-  tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, shell::Visits::None));
+  ButtonsForPatient();
   durumYaz({});
 }
 

@@ -92,6 +92,8 @@ void FrmMain::menuleriBagla() {
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
   mnubul.Click.connect([this] { Txtİsim.setFocus(); });
+  mnutamir.Click.connect([this] { Tamir2(); });
+  mnugebekart.Click.connect([this] { Command1(); });
   mnugeri.setShortcut("Ctrl+PgUp");
   mnuileri.setShortcut("Ctrl+PgDown");
   mnubul.setShortcut("Ctrl+F");
@@ -101,6 +103,7 @@ void FrmMain::menuleriBagla() {
       shell::bransSec(istasyon, *this, option->name());
       sbDurum.setPanel(5, caption());
       ButtonsForPatient();
+      gunlukListele();
     });
   }
 }
@@ -128,7 +131,7 @@ bool FrmMain::tusBas(std::string_view key) {
   if (key == "smok") return mnusigarabp.press(), true;
   if (key == "keyclose") return isimSifresi(), true;
   if (key == "keyopen") return isimleriAc(false), true;
-  if (key == "idpass") return istasyon.ekranAc("Frmkey"), true;
+  if (key == "idpass") return gizlileriSec(), true;
   return false;
 }
 

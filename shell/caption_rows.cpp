@@ -128,12 +128,21 @@ constexpr std::array optionRows{
 };
 
 constexpr std::array dialogRows{
-    CaptionRow{"buttamam", "Tamam"},          CaptionRow{"Butİptal", "iptal"},
-    CaptionRow{"butkapat", "Tamam"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
-    CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
-    CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
-    CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
-    CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"buttamam", "Tamam"},
+    CaptionRow{"Butİptal", "iptal"},
+    CaptionRow{"butkapat", "Tamam"},
+    CaptionRow{"Frmbirthday", "dogumgunu", Window},
+    CaptionRow{"Lvisim", "dogumgunu"},
+    CaptionRow{"frmpass", "sifre", Window},
+    CaptionRow{"txtsifre", "sifre"},
+    CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
+    CaptionRow{"frmmax", "fotograf", Window},
+    CaptionRow{"frmabout", "hakkinda", Window},
+    CaptionRow{"SclYatay", "Yatay"},
+    CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"Frmkey", "isimgizle", Window},
+    CaptionRow{"txtara", "Ara", Plain, "Frmkey"},
+    CaptionRow{"Lstkey", "isim"},
 };
 
 constexpr std::array examRows{
@@ -230,6 +239,9 @@ constexpr std::array phrases{
     PhraseRow{"butikonseç", Phrase::LetterheadIcon},
     PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
     PhraseRow{"Imgicon", Phrase::LetterheadIcon},
+    PhraseRow{"butdurdur", Phrase::Stop},
+    PhraseRow{"mnutamir", Phrase::SaveAllCards},
+    PhraseRow{"mnugebekart", Phrase::CardsFromPregnancies},
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -46,7 +47,9 @@ struct Station {
   std::string OncekiTarih;     // the date field's value when it took the focus
   std::string AktarilanMetin;  // what the prescription or the request screen hands back; empty
                                // until it is accepted
-  int SifreSonucu = 0;         // 1 when the password dialog accepted
+  // The day whose record the examination screen selects when it opens; none for the latest.
+  std::optional<text::DateTime> SeciliTarih;
+  int SifreSonucu = 0;  // 1 when the password dialog accepted
 
   stores::Stores stores;
 

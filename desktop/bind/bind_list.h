@@ -11,6 +11,9 @@
 namespace desktop {
 
 void bind(QListView& view, forms::ListBox& list, RowOrder order = RowOrder::AsListed);
+// For a list whose rows open something: a click or Enter takes the row, also the same one again;
+// moving the mark takes nothing.
+void bindTaken(QListView& view, forms::ListBox& list);
 void bind(QTreeView& view, forms::ListView& list);
 
 }  // namespace desktop

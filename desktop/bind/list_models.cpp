@@ -18,9 +18,12 @@ QString textAt(const Texts& texts, int place) {
 
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(mapped(index.row()));
-  if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.count())
-    return {};
-  return qs(list_.items()[row].text);
+  if (row >= list_.count()) return {};
+  const forms::ListItem& item = list_.items()[row];
+  if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return qs(item.text);
+  if (role == Qt::CheckStateRole && list_.choice() == forms::ListChoice::Several)
+    return item.selected ? Qt::Checked : Qt::Unchecked;
+  return {};
 }
 
 void ListBoxModel::refresh() {

@@ -24,6 +24,11 @@ void ListBox::appendItems(std::vector<std::string> texts) {
   notify(Aspect::Items);
 }
 
+void ListBox::addItems(std::vector<ListItem> items) {
+  for (ListItem& item : items) items_.push_back(std::move(item));
+  notify(Aspect::Items);
+}
+
 void ListBox::setItems(std::vector<ListItem> items) {
   items_ = std::move(items);
   listIndex_ = -1;
@@ -55,8 +60,9 @@ std::string ListBox::text() const {
 }
 
 void ListBox::setSelected(std::size_t row, bool selected) {
-  items_.at(row).selected = selected;
+  if (std::exchange(items_.at(row).selected, selected) == selected) return;
   notify(Aspect::Selection);
+  ItemCheck();
 }
 
 void ListBox::setVisibleRows(int rows) {

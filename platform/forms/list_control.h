@@ -33,6 +33,8 @@ class ListBox : public Control {
   std::size_t addItem(std::string_view text, long data = 0);
   // Appends many rows at once, in their order; the widget is told once.
   void appendItems(std::vector<std::string> texts);
+  // The same with data and selection.
+  void addItems(std::vector<ListItem> items);
   // Other rows, in the order given; the index is dropped, and the widget is told once.
   void setItems(std::vector<ListItem> items);
   void removeItem(std::size_t row);
@@ -43,6 +45,7 @@ class ListBox : public Control {
   void setListIndex(int row);
   // The text of the focused row, empty when there is none.
   [[nodiscard]] std::string text() const;
+  // A different selection of the row fires ItemCheck.
   void setSelected(std::size_t row, bool selected);
 
   // How many rows the drop-down shows without scrolling; 0 leaves it to the window.
@@ -51,6 +54,7 @@ class ListBox : public Control {
 
   Event<> Click;
   Event<> DblClick;
+  Event<> ItemCheck;
 
  private:
   ListOrder order_;

@@ -79,11 +79,43 @@ TEST(ListBinding, SeveralRowsAreMarkedTogether) {
   form.several.setSelected(1, true);
   QListView view;
   bind(view, form.several);
-  EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), 1);
-  view.selectionModel()->select(view.model()->index(3, 0), QItemSelectionModel::Select);
-  view.selectionModel()->select(view.model()->index(1, 0), QItemSelectionModel::Deselect);
-  EXPECT_TRUE(form.several.items()[3].selected);
-  EXPECT_FALSE(form.several.items()[1].selected);
+  int changes = 0;
+  form.several.ItemCheck.connect([&] { ++changes; });
+  const auto checked = [&](int row) {
+    return view.model()->index(row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>() ==
+           Qt::Checked;
+  };
+  EXPECT_TRUE(checked(1));
+  support::showActive(view);
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                    view.visualRect(view.model()->index(3, 0)).center());
+  view.setCurrentIndex(view.model()->index(1, 0));
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_TRUE(form.several.items()[3].selected && checked(3));
+  EXPECT_FALSE(form.several.items()[1].selected || checked(1));
+  EXPECT_EQ(changes, 2);
+}
+
+TEST(ListBinding, ARowIsTakenByAClickOrEnterAndAgain) {
+  ListForm form;
+  form.one.appendItems(names(3));
+  QListView view;
+  bindTaken(view, form.one);
+  std::vector<int> taken;
+  form.one.Click.connect([&] { taken.push_back(form.one.listIndex()); });
+  support::showActive(view);
+  view.setFocus();
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_TRUE(taken.empty());
+  const auto click = [&] {
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                      view.visualRect(view.model()->index(2, 0)).center());
+  };
+  click();
+  click();
+  QTest::keyClick(&view, Qt::Key_Up);
+  QTest::keyClick(&view, Qt::Key_Return);
+  EXPECT_EQ(taken, (std::vector<int>{2, 2, 1}));
 }
 
 TEST(ListBinding, AListViewShowsColumnsAndRows) {
