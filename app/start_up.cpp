@@ -5,6 +5,7 @@
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_max.h"
+#include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
@@ -38,6 +39,7 @@ shell::ScreenDirectory screens() {
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmMax>(directory, "frmmax");
+  add<search::FrmFind>(directory, "FrmFind");
   return directory;
 }
 

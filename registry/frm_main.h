@@ -184,6 +184,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   bool hastaoku() override;
   void Eskialanmain() override { Eskialan(); }
+  void hastaSec(const std::string& name) override;
+  [[nodiscard]] bool gizliMi(std::string_view key) const override;
   void kayityap();
   void Kaydet() override;
   void Sil() override;
@@ -231,7 +233,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   NameCheck isimBitti();
   NameCheck adasSor();
   [[nodiscard]] bool baskaHasta(const std::string& name);
-  void hastaSec(const std::string& name);
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
@@ -242,7 +243,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void listeyiSurdur();
   void listeyiSay();
   void listeyiKapat();
-  [[nodiscard]] bool gizliMi(std::string_view key) const;
   void isimleriAc(bool unlocked);
   void isimSifresi();
 

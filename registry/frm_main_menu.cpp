@@ -17,7 +17,7 @@ struct EntryScreen {
 };
 
 // The screen behind each entry, by its name in the screen directory.
-constexpr std::array<EntryScreen, 36> entryScreens{{
+constexpr std::array<EntryScreen, 37> entryScreens{{
     {&FrmMain::mnumuayene1, "FrmExam"},
     {&FrmMain::MnuMuayene2, "FrmExam"},
     {&FrmMain::MnuMuayene3, "FrmExam"},
@@ -45,6 +45,7 @@ constexpr std::array<EntryScreen, 36> entryScreens{{
     {&FrmMain::mnumuayenetarihleri, "frmexamdate"},
     {&FrmMain::mnulensstok, "frmlensstock"},
     {&FrmMain::mnubekdoğum, "frmsearchgrav"},
+    {&FrmMain::mnubul, "FrmFind"},
     {&FrmMain::mnumuayeneara, "frmsearch"},
     {&FrmMain::mnutestara, "frmsearchtest"},
     {&FrmMain::mnuameliyatara, "frmsearchgen"},
@@ -102,7 +103,6 @@ void FrmMain::menuleriBagla() {
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
   mnucik.Click.connect([this] { istasyon.host.close(*this); });
-  mnubul.Click.connect([this] { Txtİsim.setFocus(); });
   // Undo, cut, copy and paste belong to the focused field: the window sends them the usual
   // keystrokes.
   mnugerial.Click.connect([this] { istasyon.host.sendKeys("^z"); });

@@ -136,6 +136,14 @@ constexpr std::array dialogRows{
     CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
 };
 
+constexpr std::array findRows{
+    CaptionRow{"FrmFind", "Bul", Window}, CaptionRow{"PDoğum", "dogumtarihi"},
+    CaptionRow{"PFiltre", "Filtreler"},   CaptionRow{"Frame1", "Listele"},
+    CaptionRow{"BulList", "Listele"},     CaptionRow{"ButTümListe", "tumliste"},
+    CaptionRow{"butbul", "Bul"},          CaptionRow{"ButFiltre", "Filtreler"},
+    CaptionRow{"ButGit", "Git"},          CaptionRow{"PBar", "Ara"},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -145,7 +153,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows);
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, findRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -185,6 +193,9 @@ constexpr std::array phrases{
     PhraseRow{"butikonseç", Phrase::LetterheadIcon},
     PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
     PhraseRow{"Imgicon", Phrase::LetterheadIcon},
+    PhraseRow{"Lbulunan", Phrase::PatientCount},
+    PhraseRow{"ButTemizle", Phrase::ClearFilters},
+    PhraseRow{"ButDur", Phrase::StopSearch},
 };
 
 }  // namespace

@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 13> phraseRows{{
+constexpr std::array<Row, 18> phraseRows{{
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -28,6 +28,12 @@ constexpr std::array<Row, 13> phraseRows{{
     {Phrase::OpeningFailed, "The practice could not be opened completely. ",
      "Kayıtlar tam olarak açılamadı. "},
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
+    {Phrase::NobodyFound, "Nobody fits all filters. Go back and clear some of them.",
+     "Tüm filtrelere uyan hasta yok. Geri dönüp bazı filtreleri boşaltınız."},
+    {Phrase::SearchStopped, "stopped", "durduruldu"},
+    {Phrase::CardIsGone, ": the card is no longer there", ": kart artık yok"},
+    {Phrase::ClearFilters, "Clear", "Temizle"},
+    {Phrase::StopSearch, "Stop", "Durdur"},
 }};
 
 }  // namespace

@@ -21,7 +21,12 @@ enum class Phrase {
   LetterheadPicture,
   LetterheadIcon,
   OpeningFailed,
-  StoreFailed
+  StoreFailed,
+  NobodyFound,
+  SearchStopped,
+  CardIsGone,  // a name stands in front
+  ClearFilters,
+  StopSearch
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
