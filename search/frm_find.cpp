@@ -40,6 +40,7 @@ FrmFind::FrmFind(shell::Station& station)
   ListFiltre.setVisible(false);
   PBar.setVisible(false);
   ButDur.setVisible(false);
+  for (forms::CommandButton* button : {&butbul, &ButGit, &buttamam}) button->setDefault();
   filtreleriBagla();
   dugmeleriBagla();
   sayiyiYaz();
