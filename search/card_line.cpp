@@ -17,12 +17,12 @@ constexpr std::array headingKeys{"isim",   "dogumtarihi", "Cinsiyet", "dogumyeri
 
 std::string birth(dao::Recordset& card) {
   const auto date = text::parseIso(card.Fields("Date of Birth").view());
-  return date ? text::shortDate(*date) : card.Fields("Year of Birth").text();
+  return date ? text::shortDate(*date) : std::string(card.Fields("Year of Birth").view());
 }
 
-std::string telephone(dao::Recordset& card) {
-  std::string first = card.Fields("Telephone1").text();
-  return first.empty() ? card.Fields("Telephone2").text() : first;
+std::string_view telephone(dao::Recordset& card) {
+  const std::string_view first = card.Fields("Telephone1").view();
+  return first.empty() ? card.Fields("Telephone2").view() : first;
 }
 
 }  // namespace
@@ -40,15 +40,20 @@ std::vector<std::string> CardLine::headings(shell::Station& istasyon) {
   return words;
 }
 
-forms::ListView::Row CardLine::of(dao::Recordset& card) const {
-  std::string name = card.Fields("Name").text();
+void CardLine::write(dao::Recordset& card, forms::ListView::Row& row) const {
+  row.cells.resize(headingKeys.size());
+  row.key = card.Fields("Name").view();
   const auto sex = text::wholeNumber(card.Fields("Sex").view());
   const bool known = sex && *sex >= 0 && std::cmp_less(*sex, sexes_.size());
-  return {.cells = {shell::RecordScreen::sisim(name), birth(card),
-                    known ? sexes_[static_cast<std::size_t>(*sex)] : std::string(),
-                    card.Fields("Place of Birth").text(), card.Fields("Profession").text(),
-                    card.Fields("email").text(), telephone(card), card.Fields("Notes").text()},
-          .key = std::move(name)};
+  auto cell = row.cells.begin();
+  *cell++ = shell::RecordScreen::sisim(row.key);
+  *cell++ = birth(card);
+  *cell++ = known ? std::string_view(sexes_[static_cast<std::size_t>(*sex)]) : "";
+  *cell++ = card.Fields("Place of Birth").view();
+  *cell++ = card.Fields("Profession").view();
+  *cell++ = card.Fields("email").view();
+  *cell++ = telephone(card);
+  *cell++ = card.Fields("Notes").view();
 }
 
 }  // namespace search

@@ -21,8 +21,9 @@ class CardLine {
   [[nodiscard]] static std::span<const std::string_view> columns();
   [[nodiscard]] static std::vector<std::string> headings(shell::Station& istasyon);
 
-  // The key of the row is the stored name; the row shows it without the marks of namesakes.
-  [[nodiscard]] forms::ListView::Row of(dao::Recordset& card) const;
+  // Over what the row holds, whose memory is used again. The key of the row is the stored name; the
+  // row shows it without the marks of namesakes.
+  void write(dao::Recordset& card, forms::ListView::Row& row) const;
 
  private:
   std::array<std::string, 2> sexes_;

@@ -6,9 +6,9 @@ namespace search {
 
 namespace {
 
-constexpr std::size_t pageRows = 512;
+constexpr std::size_t pageRows = 1024;
 // Seeking one card costs about as much as reading the wanted columns of so many on the way.
-constexpr std::size_t cardsPerSeek = 12;
+constexpr std::size_t cardsPerSeek = 40;
 
 enum Place { NamePlace, KeyPlace };
 
@@ -42,8 +42,8 @@ std::string CardScan::selectText() const {
 }
 
 dao::Result<dao::Recordset> CardScan::nextPage() {
-  if (walked_ == 0) return personal_.OpenRecordset(selectText());
-  return personal_.OpenRecordset(selectText(), {dao::Value(last_)});
+  if (walked_ == 0) return personal_.OpenForward(selectText());
+  return personal_.OpenForward(selectText(), {dao::Value(last_)});
 }
 
 dao::Result<bool> CardScan::step() {
@@ -51,12 +51,17 @@ dao::Result<bool> CardScan::step() {
   if (!page) return std::unexpected(page.error());
   std::size_t rows = 0;
   std::size_t found = 0;
-  for (; !page->Eof(); page->MoveNext().ignore(), ++rows) {
-    if (!fits(*page)) continue;
-    ++found;
-    if (const dao::Status handed = hand(*page); !handed) return std::unexpected(handed);
+  while (!page->Eof()) {
+    ++rows;
+    if (rows == pageRows) last_ = page->Fields(NamePlace).view();
+    dao::Status status;
+    if (fits(*page)) {
+      ++found;
+      status = hand(*page);
+    }
+    if (status) status = page->MoveNext();
+    if (!status) return std::unexpected(std::move(status));
   }
-  if (rows > 0 && page->MoveLast()) last_ = page->Fields(NamePlace).text();
   walked_ += rows;
   if (!conditions_.empty()) {
     const bool many = found * cardsPerSeek > rows;

@@ -143,6 +143,7 @@ class FrmFind : public forms::Form {
   void dilimle(std::function<dao::Result<bool>()> step, std::function<void()> sliceEnd,
                std::function<void()> end);
   void durdur();
+  forms::ListView::Row& yeniSatir();
   void satirlariEkle();
   void ilerle(std::size_t done, std::size_t total);
   void sayiyiYaz();
@@ -155,7 +156,9 @@ class FrmFind : public forms::Form {
   std::vector<std::string>* adresler_;  // the list of the caller that picks addresses
   dao::Recordset kartlar_;
   Slices is_;
-  std::vector<forms::ListView::Row> yeniSatirlar_;
+  // The rows of a slice; the memory of those before is used again.
+  std::vector<forms::ListView::Row> satirlar_;
+  std::size_t yeni_ = 0;
   std::size_t toplam_ = 0;  // cards of the table when the window was opened
   int dilim_ = 0;
   bool denetliyor_ = false;  // the check of the date moves the focus itself

@@ -48,9 +48,8 @@ CardScan FrmFind::tarama(Filters filters, dao::Fold fold, std::span<const std::s
 void FrmFind::listele(Filters filters, dao::Fold fold) {
   listeyiAc();
   const auto scan = std::make_shared<CardScan>(tarama(
-      filters, fold, CardLine::columns(), [this, line = CardLine(istasyon)](dao::Recordset& card) {
-        yeniSatirlar_.push_back(line.of(card));
-      }));
+      filters, fold, CardLine::columns(),
+      [this, line = CardLine(istasyon)](dao::Recordset& card) { line.write(card, yeniSatir()); }));
   dilimle([scan] { return scan->step(); },
           [this, scan] {
             satirlariEkle();
@@ -79,7 +78,7 @@ void FrmFind::SonuçlarıListele() {
         if (*next == ListFiltre.count()) return true;
         const std::string& name = ListFiltre.items()[(*next)++].text;
         if (kartiBul(name) && !gizliMi(kartlar_.Fields("Key").view()))
-          yeniSatirlar_.push_back(line.of(kartlar_));
+          line.write(kartlar_, yeniSatir());
         return false;
       },
       [this, next] {
@@ -123,9 +122,13 @@ void FrmFind::durdur() {
   LDurum.setCaption(phrase(istasyon, shell::Phrase::SearchStopped));
 }
 
+forms::ListView::Row& FrmFind::yeniSatir() {
+  if (yeni_ == satirlar_.size()) satirlar_.emplace_back();
+  return satirlar_[yeni_++];
+}
+
 void FrmFind::satirlariEkle() {
-  BulList.appendRows(yeniSatirlar_);
-  yeniSatirlar_.clear();
+  BulList.appendRows(std::span(satirlar_).first(std::exchange(yeni_, 0)));
   sayiyiYaz();
   if (BulList.selectedRow() < 0) BulList.setSelectedRow(0);
 }

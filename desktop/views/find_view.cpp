@@ -27,7 +27,7 @@ using search::FrmFind;
 constexpr int charactersBesideEachOther = 92;
 constexpr int progressCharacters = 28;
 // In characters: name, birth, sex, place, profession, e-mail, telephone; the notes take the rest.
-constexpr std::array columnCharacters{26, 12, 8, 16, 18, 24, 16};
+constexpr std::array columnCharacters{24, 12, 6, 15, 17, 22, 20};
 
 // Two columns of boxes beside each other, or below each other where the room is narrow.
 class BoxColumns : public QWidget {
@@ -108,7 +108,9 @@ QWidget* filterBoxes(FrmFind& form, QWidget& parent) {
              &form.TxtMail});
   addFields(*right, form.PKurum,
             {&form.ComKurum, &form.TxtÇalışan, &form.TxtSicil, &form.comgorev, &form.comyakinlik});
-  addFields(*right, form.PNot, {&form.txtnot});
+  // The box itself says what this one is.
+  auto* const note = new QVBoxLayout(box(form.PNot, *right));
+  note->addWidget(makeWidget(form.txtnot, *note->parentWidget()));
   right->addStretch(1);
   return boxes;
 }
@@ -158,8 +160,9 @@ QWidget* resultPage(FrmFind& form, QWidget& parent) {
   auto* const list = new HintTable(page);
   bind(*list, form.BulList);
   for (int column = 0; std::cmp_less(column, columnCharacters.size()); ++column) {
-    list->horizontalHeader()->resizeSection(
-        column, characters(*list, columnCharacters[static_cast<std::size_t>(column)]));
+    const int wanted = characters(*list, columnCharacters[static_cast<std::size_t>(column)]);
+    QHeaderView& header = *list->horizontalHeader();
+    header.resizeSection(column, std::max(wanted, header.sectionSizeHint(column) + gap::normal));
   }
   auto* const column = new QVBoxLayout(page);
   column->setContentsMargins(gap::large, gap::large, gap::large, gap::normal);
