@@ -65,6 +65,7 @@ TEST_F(Card, ANameIsFoundByItsFirstLetters) {
 // From the card to another patient without the mouse.
 TEST_F(Card, TheFinderBringsAPatientOntoTheCard) {
   registerPatient("Ayşe Yıldız", "12.03.1991", "k");
+  press(Qt::Key_N, Qt::ControlModifier);
   registerPatient("Işıl Çınar", "1980", "k");
   const auto inFinder = [this](auto keys) {
     QTimer::singleShot(0, qApp, [this, keys] {
