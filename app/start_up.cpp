@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "exam/frm_drug.h"
+#include "exam/frm_exam.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_max.h"
@@ -39,6 +41,8 @@ shell::ScreenDirectory screens() {
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmMax>(directory, "frmmax");
+  add<exam::FrmExam>(directory, "FrmExam");
+  add<exam::FrmDrug>(directory, "frmdrug");
   add<search::FrmFind>(directory, "FrmFind");
   return directory;
 }

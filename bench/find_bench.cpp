@@ -6,7 +6,8 @@
 #include <malloc.h>
 #include <time.h>
 
-#include "bench/support.h"
+#include "bench/bench_desk.h"
+#include "bench/lines.h"
 #include "platform/dao/engine.h"
 #include "platform/text/number.h"
 #include "search/frm_find.h"

@@ -4,17 +4,18 @@
 // Each line compares the card with the least work that gives the same records: for the list of
 // names that is dao::PrefixReader alone, walking the same index; for a load and a save it is the
 // record alone. Ours and baseline are measured in turn; the medians are shown.
-#include "bench/support.h"
+#include "bench/bench_desk.h"
+#include "bench/lines.h"
 #include "platform/text/number.h"
 #include "registry/card_fields.h"
 #include "shell/text_lookup.h"
+#include "tools/practice.h"
 
 namespace {
 
 using namespace bench;
 
 constexpr std::size_t rounds = 7;
-
 struct Listing {
   double total = 0;
   double longestSlice = 0;

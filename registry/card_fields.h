@@ -12,7 +12,7 @@ namespace registry {
 
 // The seven list fields, in the order in which a save adds new values to their tables.
 struct ListField {
-  forms::TextControl& (*control)(forms::Form& form);
+  forms::Control& (*control)(forms::Form& form);
   std::string_view table;  // its one column has the same name
   int cut;
 };

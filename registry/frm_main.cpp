@@ -11,6 +11,7 @@
 #include "shell/phrases.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
+#include "shell/window_settings.h"
 
 namespace registry {
 
@@ -19,6 +20,7 @@ namespace {
 constexpr int tickMilliseconds = 50;
 constexpr int defaultWidth = 1240;
 constexpr int defaultHeight = 780;
+constexpr auto windowName = "Main";
 constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Lresim"};
 
 }  // namespace
@@ -98,8 +100,7 @@ void FrmMain::klasorleriAc() {
 }
 
 void FrmMain::basliklariYenile() {
-  shell::basliklariyaz(istasyon, *this);
-  shell::alanBasliklari(istasyon, *this, alanlar());
+  RecordScreen::basliklariYenile();
   hakkindaYaz();
 }
 
@@ -117,7 +118,7 @@ void FrmMain::dilDegisti() {
   Listeleriyaz();
   ComCinsiyet.setListIndex(sex);
   yasGoster();
-  muayenetusuboya();
+  ButtonsForPatient();
   if (!changed) Eskialanmain();
 }
 
@@ -127,22 +128,15 @@ void FrmMain::hakkindaYaz() {
 }
 
 void FrmMain::ayarlarioku() {
-  if (const auto w = text::wholeNumber(istasyon.ayar("Main Width")); w && *w > 0 && *w < 20000)
-    width = static_cast<int>(*w);
-  if (const auto h = text::wholeNumber(istasyon.ayar("Main Height")); h && *h > 0 && *h < 20000)
-    height = static_cast<int>(*h);
-  windowState = istasyon.ayar("Main WindowState", "2") == "2" ? forms::WindowState::Maximised
-                                                              : forms::WindowState::Normal;
+  shell::pencereOku(istasyon, *this, shell::mainSection, windowName, forms::WindowState::Maximised);
   Lresim.setCaption(istasyon.ayar("CurX", "1200"));
   PResim.setPath(istasyon.ayar("Picture"));
   sigaraGirisi();
 }
 
 void FrmMain::ayarlariyaz() {
-  if (windowState == forms::WindowState::Minimised) return;
-  istasyon.ayarYaz("Main Width", std::to_string(width));
-  istasyon.ayarYaz("Main Height", std::to_string(height));
-  istasyon.ayarYaz("Main WindowState", windowState == forms::WindowState::Maximised ? "2" : "0");
+  const platform::Status kept = shell::pencereYaz(istasyon, *this, shell::mainSection, windowName);
+  if (!kept) istasyon.host.runtimeError(kept);
   istasyon.ayarYaz("CurX", Lresim.caption());
 }
 

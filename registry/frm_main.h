@@ -25,19 +25,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   explicit FrmMain(Station& istasyon);
   ~FrmMain() override;
 
-  // --- Menus
-  forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
-  forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
-  forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
-  forms::MenuItem çizgi2{MnuDosya, "çizgi2", forms::MenuKind::Separator};
-  forms::MenuItem mnucik{MnuDosya, "mnucik"};
-
-  forms::MenuItem MnuDuzen{*this, "MnuDuzen"};
-  forms::MenuItem mnugerial{MnuDuzen, "mnugerial"};
-  forms::MenuItem mnukes{MnuDuzen, "mnukes"};
-  forms::MenuItem mnukopyala{MnuDuzen, "mnukopyala"};
-  forms::MenuItem mnuyapıştır{MnuDuzen, "mnuyapıştır"};
-
+  // --- Menus, behind those that every record screen has
   forms::MenuItem MnuKayit{*this, "MnuKayit"};
   forms::MenuItem mnugeri{MnuKayit, "mnugeri"};
   forms::MenuItem mnuileri{MnuKayit, "mnuileri"};
@@ -199,8 +187,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void Listeleriyaz() override;
   void dilDegisti() override;
   void sigaraGirisi() override;
-  // Shows on the toolbar whether the patient has a visit in the present speciality.
-  void muayenetusuboya();
+  void ButtonsForPatient() override;
   // Opens the examination of the present speciality.
   void muayenetus();
 
@@ -208,6 +195,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void datlisteleTUR();
   [[nodiscard]] std::string dogum() const override { return TxtDTarihi.text(); }
   [[nodiscard]] int cinsiyet() const override { return ComCinsiyet.listIndex(); }
+  [[nodiscard]] std::string kanGrubu() const override { return ComKanGrubu.text(); }
   [[nodiscard]] std::string fotograf() const override { return txtfoto.text(); }
   [[nodiscard]] const std::string& baslik() const override { return caption(); }
 
@@ -225,7 +213,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void araclariKur();
   void kartiBagla();
   void ekranAc(const forms::MenuItem& entry, std::string_view screen);
-  void tusBas(std::string_view key);
+  [[nodiscard]] bool kartSaklandi();
+  bool tusBas(std::string_view key) override;
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);
 
@@ -246,8 +235,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void isimleriAc(bool unlocked);
   void isimSifresi();
 
+  void yeniIsmiSor();
   [[nodiscard]] dao::Status kartiYaz();
-  [[nodiscard]] dao::Status kaydiBul();
+  [[nodiscard]] dao::Status satiriYaz(const std::string& key);
+  [[nodiscard]] dao::Status hastayiSil(const std::string& name);
   void listelereEkle();
 
   void yasGoster();
@@ -262,9 +253,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void klasorleriAc();
   void ayarlarioku();
   void ayarlariyaz();
-  void basliklariYenile();
+  void basliklariYenile() override;
   void hakkindaYaz();
-  void durumYaz(std::string text) { sbDurum.setPanel(3, std::move(text)); }
+  void durumYaz(std::string text) override { sbDurum.setPanel(3, std::move(text)); }
 
   NameSearch isimler_;
   // Tasks that were put off look whether the card is still there.

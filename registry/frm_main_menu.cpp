@@ -1,11 +1,12 @@
 // Menus and toolbar of the main window: which entry does what.
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "registry/frm_main.h"
-#include "shell/phrases.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
+#include "stores/visit_ledger.h"
 
 namespace registry {
 
@@ -68,25 +69,14 @@ constexpr std::array clinicalEntries{
     &FrmMain::mnueko,       &FrmMain::mnuefor,         &FrmMain::mnuanjiyo,
     &FrmMain::mnutest,      &FrmMain::mnusigara,       &FrmMain::mnumuayenetarihleri};
 
-constexpr std::array<std::pair<std::string_view, forms::MenuItem FrmMain::*>, 3> ownButtons{{
-    {"Geri", &FrmMain::mnugeri},
-    {"ileri", &FrmMain::mnuileri},
-    {"Exit", &FrmMain::mnucik},
-}};
-
 }  // namespace
 
 void FrmMain::araclariKur() {
-  const auto group = [this](std::initializer_list<const char*> keys) {
-    for (const char* key : keys) tbToolBar.addButton(key, key);
-    tbToolBar.addSeparator();
-  };
-  group({"New", "Save", "Delete"});
-  group({"Geri", "ileri", "Find"});
-  group({"muayene", "smok"});
-  group({"keyclose", "keyopen", "idpass"});
+  tusGrubu({"New", "Save", "Delete"});
+  tusGrubu({"Geri", "ileri", "Find"});
+  tusGrubu({"muayene", "smok"});
+  tusGrubu({"keyclose", "keyopen", "idpass"});
   tbToolBar.addButton("Exit", "Exit");
-  tbToolBar.ButtonClick.connect([this](std::string_view key) { tusBas(key); });
 }
 
 void FrmMain::menuleriBagla() {
@@ -102,46 +92,44 @@ void FrmMain::menuleriBagla() {
   });
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
-  mnucik.Click.connect([this] { istasyon.host.close(*this); });
-  // Undo, cut, copy and paste belong to the focused field: the window sends them the usual
-  // keystrokes.
-  mnugerial.Click.connect([this] { istasyon.host.sendKeys("^z"); });
-  mnukes.Click.connect([this] { istasyon.host.sendKeys("+{DELETE}"); });
-  mnukopyala.Click.connect([this] { istasyon.host.sendKeys("^{INSERT}"); });
-  mnuyapıştır.Click.connect([this] { istasyon.host.sendKeys("+{INSERT}"); });
   mnugeri.setShortcut("Ctrl+PgUp");
   mnuileri.setShortcut("Ctrl+PgDown");
   mnubul.setShortcut("Ctrl+F");
   mnuhakkinda.setShortcut("F1");
-  mnuonizleme.setVisible(istasyon.screens.has("frmprewive"));
-  mnuyazdır.setVisible(istasyon.screens.has("frmprewive"));
   for (forms::OptionButton* option : branslar) {
     option->Click.connect([this, option] {
       shell::bransSec(istasyon, *this, option->name());
       sbDurum.setPanel(5, caption());
-      muayenetusuboya();
+      ButtonsForPatient();
     });
   }
 }
 
+// A record belongs to a stored card: what was typed on the card is saved first, with the questions
+// that a save asks.
 void FrmMain::ekranAc(const forms::MenuItem& entry, std::string_view screen) {
-  if (istasyon.screens.has(screen)) return istasyon.ekranAc(screen);
-  istasyon.bilgi(entry.caption().substr(1) + phrase(istasyon, shell::Phrase::NotInThisVersion));
+  const bool clinical = std::ranges::any_of(
+      clinicalEntries, [&](forms::MenuItem FrmMain::*each) { return &(this->*each) == &entry; });
+  if (clinical && istasyon.screens.has(screen) && !kartSaklandi()) return;
+  istasyon.ekranAc(screen, entry.caption());
 }
 
-void FrmMain::tusBas(std::string_view key) {
-  if (key == "New") return mnuyeni.press();
-  if (key == "Save") return mnukaydet.press();
-  if (key == "Delete") return mnusil.press();
-  if (key == "Find") return mnubul.press();
-  if (key == "muayene") return muayenetus();
-  if (key == "smok") return mnusigarabp.press();
-  if (key == "keyclose") return isimSifresi();
-  if (key == "keyopen") return isimleriAc(false);
-  if (key == "idpass") return istasyon.ekranAc("Frmkey");
-  for (const auto& [button, entry] : ownButtons) {
-    if (key == button) return (this->*entry).press();
-  }
+bool FrmMain::kartSaklandi() {
+  if (mnukaydet.enabled()) Kaydet();
+  return !mnukaydet.enabled() && !TxtEskiİsim.text().empty();
+}
+
+bool FrmMain::tusBas(std::string_view key) {
+  if (RecordScreen::tusBas(key)) return true;
+  if (key == "Geri") return mnugeri.press(), true;
+  if (key == "ileri") return mnuileri.press(), true;
+  if (key == "Find") return mnubul.press(), true;
+  if (key == "muayene") return muayenetus(), true;
+  if (key == "smok") return mnusigarabp.press(), true;
+  if (key == "keyclose") return isimSifresi(), true;
+  if (key == "keyopen") return isimleriAc(false), true;
+  if (key == "idpass") return istasyon.ekranAc("Frmkey"), true;
+  return false;
 }
 
 void FrmMain::muayenetus() {
@@ -152,27 +140,22 @@ void FrmMain::muayenetus() {
   if (entry != nullptr && entry->enabled()) entry->Click();
 }
 
-void FrmMain::muayenetusuboya() {
-  dao::Recordset& visit = istasyon.stores.clinical.Visit;
-  const bool found = visit.isOpen() &&
-                     visit.Seek("=", istasyon.BransAdi + "\\" + TxtEskiİsim.text()) &&
-                     !visit.NoMatch();
-  const auto visits =
-      found && !TxtEskiİsim.text().empty() ? shell::Visits::Some : shell::Visits::None;
+void FrmMain::ButtonsForPatient() {
+  const std::string& patient = TxtEskiİsim.text();
+  const bool any = !patient.empty() &&
+                   stores::hasLedgerRow(
+                       istasyon.stores.clinical.Visit,
+                       stores::ledgerKey(istasyon.BransAdi, stores::kind::examination, patient));
+  const auto visits = any ? shell::Visits::Some : shell::Visits::None;
   tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, visits));
 }
 
 void FrmMain::tuskontrol() {
-  const bool wasChanged = mnukaydet.enabled();
   RecordScreen::tuskontrol();
   const bool clinical = kaydedilebilir();
   for (forms::MenuItem FrmMain::*entry : clinicalEntries) (this->*entry).setEnabled(clinical);
   tbToolBar.setButtonEnabled("muayene", clinical);
   tbToolBar.setButtonEnabled("smok", clinical);
-  mnuonizleme.setEnabled(mnuyeni.enabled());
-  mnuyazdır.setEnabled(mnuyeni.enabled());
-  if (mnukaydet.enabled()) return durumYaz(phrase(istasyon, shell::Phrase::StateChanged));
-  if (wasChanged) durumYaz({});
 }
 
 void FrmMain::yonEtkin(Direction direction, bool enabled) {

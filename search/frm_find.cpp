@@ -4,6 +4,7 @@
 #include "platform/text/fold.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/blood_groups.h"
 #include "shell/captions.h"
 #include "shell/font_record.h"
 #include "shell/list_completion.h"
@@ -14,8 +15,6 @@ namespace search {
 
 namespace {
 
-constexpr std::array bloodGroups{"0 Rh(+)", "0 Rh(-)", "A Rh(+)",  "A Rh(-)",
-                                 "B Rh(+)", "B Rh(-)", "AB Rh(+)", "AB Rh(-)"};
 constexpr int defaultWidth = 1100;
 constexpr int defaultHeight = 720;
 
@@ -100,7 +99,7 @@ void FrmFind::Unload() {
 
 void FrmFind::Listeleriyaz() {
   ComCinsiyet.setItems({metinbul(istasyon, "kadin"), metinbul(istasyon, "Erkek")});
-  ComKanGrubu.setItems({bloodGroups.begin(), bloodGroups.end()});
+  ComKanGrubu.setItems({shell::bloodGroups.begin(), shell::bloodGroups.end()});
   for (const FilterList& list : filterLists()) {
     static_cast<forms::ComboBox&>(list.control(*this))
         .setItems(stores::values(istasyon.stores.personal, list.table));

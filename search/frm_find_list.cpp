@@ -162,8 +162,8 @@ void FrmFind::git() {
   const std::string name(BulList.selectedKey());
   if (name.empty()) return;
   if (!kartiBul(name)) {
-    LDurum.setCaption(shell::RecordScreen::sisim(name) +
-                      phrase(istasyon, shell::Phrase::CardIsGone));
+    LDurum.setCaption(shell::RecordScreen::sisim(name) + ": " +
+                      phrase(istasyon, shell::Phrase::RecordGone));
     return istasyon.host.beep();
   }
   istasyon.host.close(*this);

@@ -136,6 +136,30 @@ constexpr std::array dialogRows{
     CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
 };
 
+constexpr std::array examRows{
+    CaptionRow{"mnureçete", "recete", Menu},
+    CaptionRow{"mnuistem", "istem", Menu},
+    CaptionRow{"mnugözlük", "gozlukrecetesi", Menu},
+    CaptionRow{"mnuresim", "Resim", Menu},
+    CaptionRow{"mnufilm", "Film", Menu},
+    CaptionRow{"mnuwarn", "warning", Menu},
+    CaptionRow{"mnumuayenedökümü", "muayenedokumu", Menu},
+    CaptionRow{"Lstmuayeneler", "Tarihler"},
+    CaptionRow{"TabStrip1", "Muayene", Plain, "FrmExam"},
+    CaptionRow{"pgenel", "Genel"},
+    CaptionRow{"pözel", "ozel"},
+    CaptionRow{"FKado", "kadindogum"},
+    CaptionRow{"FGoz", "goz"},
+    CaptionRow{"FKBB", "KBB"},
+    CaptionRow{"FKalp", "Kardiyoloji"},
+};
+
+constexpr std::array drugRows{
+    CaptionRow{"frmdrug", "ilac", Window}, CaptionRow{"Lstilaç", "ilac"},
+    CaptionRow{"buttasi", "Ekle"},         CaptionRow{"lblRp", "recete"},
+    CaptionRow{"txtrecete", "recete"},
+};
+
 constexpr std::array findRows{
     CaptionRow{"FrmFind", "Bul", Window}, CaptionRow{"PDoğum", "dogumtarihi"},
     CaptionRow{"PFiltre", "Filtreler"},   CaptionRow{"Frame1", "Listele"},
@@ -153,7 +177,8 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, findRows);
+constexpr auto allRows =
+    joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows, findRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -178,13 +203,34 @@ constexpr std::array toolTips{
     KeyedCaption{"Align Left", "solayasla"},
     KeyedCaption{"Center", "Ortala"},
     KeyedCaption{"Align Right", "sagayasla"},
+    KeyedCaption{"recete", "recete"},
+    KeyedCaption{"istem", "istem"},
+    KeyedCaption{"test", "testsonuclari"},
+    KeyedCaption{"operation", "Ameliyat"},
+    KeyedCaption{"fizikgelişme", "fizikgelisme"},
+    KeyedCaption{"motmengelişme", "motormentalgel"},
+    KeyedCaption{"asi", "asi"},
+    KeyedCaption{"Gebe", "gebetakip"},
+    KeyedCaption{"Lens", "Lens"},
+    KeyedCaption{"glass", "gozlukrecetesi"},
+    KeyedCaption{"angio", "Anjiyo"},
+    KeyedCaption{"echo", "Eko"},
+    KeyedCaption{"efor", "Efor"},
+    KeyedCaption{"resim", "Resim"},
+    KeyedCaption{"film", "Film"},
+    KeyedCaption{"dokum", "muayenedokumu"},
 };
 
 constexpr std::array tabs{
-    KeyedCaption{"TSKişisel", "kisisel"},      KeyedCaption{"TSAdres", "Adres"},
-    KeyedCaption{"TSKurum", "Kurum"},          KeyedCaption{"TSNot", "Notlar"},
-    KeyedCaption{"TSAyarlar", "genelayarlar"}, KeyedCaption{"TSListeler", "Listeler"},
+    KeyedCaption{"TSKişisel", "kisisel"},
+    KeyedCaption{"TSAdres", "Adres"},
+    KeyedCaption{"TSKurum", "Kurum"},
+    KeyedCaption{"TSNot", "Notlar"},
+    KeyedCaption{"TSAyarlar", "genelayarlar"},
+    KeyedCaption{"TSListeler", "Listeler"},
     KeyedCaption{"TSBaşlık", "baslik"},
+    KeyedCaption{"TSGenel", "Genel"},
+    KeyedCaption{"TSÖzel", "ozel"},
 };
 
 constexpr std::array phrases{

@@ -25,8 +25,12 @@ class PatientCard {
   // sex.
   [[nodiscard]] virtual std::string dogum() const = 0;
   [[nodiscard]] virtual int cinsiyet() const = 0;
+  [[nodiscard]] virtual std::string kanGrubu() const = 0;
   // The path of the photograph.
   [[nodiscard]] virtual std::string fotograf() const = 0;
+
+  // Shows on the toolbar whether the patient has visits in the present speciality.
+  virtual void ButtonsForPatient() = 0;
 
   // What the Options screen sets off on the main window: all words anew, lists filled anew, the
   // smoking clinic's entry shown or hidden.

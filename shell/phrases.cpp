@@ -28,10 +28,11 @@ constexpr std::array<Row, 18> phraseRows{{
     {Phrase::OpeningFailed, "The practice could not be opened completely. ",
      "Kayıtlar tam olarak açılamadı. "},
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
+    {Phrase::RecordGone, "this record was deleted at another station",
+     "bu kayıt başka bir istasyonda silinmiş"},
     {Phrase::NobodyFound, "Nobody fits all filters. Go back and clear some of them.",
      "Tüm filtrelere uyan hasta yok. Geri dönüp bazı filtreleri boşaltınız."},
     {Phrase::SearchStopped, "stopped", "durduruldu"},
-    {Phrase::CardIsGone, ": the card is no longer there", ": kart artık yok"},
     {Phrase::ClearFilters, "Clear", "Temizle"},
     {Phrase::StopSearch, "Stop", "Durdur"},
 }};

@@ -22,9 +22,9 @@ enum class Phrase {
   LetterheadIcon,
   OpeningFailed,
   StoreFailed,
+  RecordGone,
   NobodyFound,
   SearchStopped,
-  CardIsGone,  // a name stands in front
   ClearFilters,
   StopSearch
 };

@@ -6,31 +6,84 @@
 #include "platform/text/fold.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/captions.h"
+#include "shell/font_record.h"
+#include "shell/menu_icons.h"
+#include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/text_lookup.h"
+#include "shell/window_settings.h"
 
 namespace shell {
 
+namespace {
+
+constexpr std::array pictureFields{"txtp1", "txtp2", "txtp3", "txtp4", "txtp5", "txtp6"};
+
+bool filled(const forms::Form& form, std::string_view control) {
+  const forms::Control* const field = form.find(control);
+  return field != nullptr && !field->snapshotText().empty();
+}
+
+}  // namespace
+
 RecordScreen::RecordScreen(Station& station, std::string_view name)
     : Form(name), istasyon(station) {
+  menuleriBagla();
+  tbToolBar.ButtonClick.connect([this](std::string_view key) { tusBas(key); });
+}
+
+void RecordScreen::menuleriBagla() {
   mnuyeni.setShortcut("Ctrl+N");
   mnukaydet.setShortcut("Ctrl+S");
+  mnuyazdır.setShortcut("Ctrl+P");
   mnukaydet.Click.connect([this] { Kaydet(); });
   mnusil.Click.connect([this] { Sil(); });
+  mnucik.Click.connect([this] { istasyon.host.close(*this); });
+  // Undo, cut, copy and paste belong to the focused field: the window sends them the usual
+  // keystrokes.
+  mnugerial.Click.connect([this] { istasyon.host.sendKeys("^z"); });
+  mnukes.Click.connect([this] { istasyon.host.sendKeys("+{DELETE}"); });
+  mnukopyala.Click.connect([this] { istasyon.host.sendKeys("^{INSERT}"); });
+  mnuyapıştır.Click.connect([this] { istasyon.host.sendKeys("+{INSERT}"); });
+  const bool pages = istasyon.screens.has("frmprewive");
+  for (forms::MenuItem* entry : {&çizgi1, &mnuonizleme, &mnuyazdır}) entry->setVisible(pages);
+}
+
+void RecordScreen::tusGrubu(std::initializer_list<const char*> keys) {
+  for (const char* key : keys) tbToolBar.addButton(key, key);
+  tbToolBar.addSeparator();
+}
+
+bool RecordScreen::tusBas(std::string_view key) {
+  if (key == "New") return mnuyeni.press(), true;
+  if (key == "Save") return mnukaydet.press(), true;
+  if (key == "Delete") return mnusil.press(), true;
+  if (key == "Print") return mnuyazdır.press(), true;
+  if (key == "Exit") return mnucik.press(), true;
+  return false;
 }
 
 void RecordScreen::alanlariBagla() {
   for (const FieldRow& row : alanlar()) {
-    kontrol(row).Change.connect([this] { tuskontrol(); });
-    auto* const combo = dynamic_cast<forms::ComboBox*>(&kontrol(row));
-    if (combo != nullptr) combo->Click.connect([this] { tuskontrol(); });
+    kontroluBagla(row.control(*this));
+    if (!row.unit.empty()) kontrol(row).setUnit(row.unit);
   }
+}
+
+void RecordScreen::kontroluBagla(forms::Control& control) {
+  if (auto* const field = dynamic_cast<forms::TextControl*>(&control))
+    field->Change.connect([this] { tuskontrol(); });
+  if (auto* const combo = dynamic_cast<forms::ComboBox*>(&control))
+    combo->Click.connect([this] { tuskontrol(); });
+  if (auto* const box = dynamic_cast<forms::CheckBox*>(&control))
+    box->Click.connect([this] { tuskontrol(); });
 }
 
 void RecordScreen::alanGenislikleri(const dao::Database& database, std::string_view table) {
   const auto columns = database.fields(table);
   for (const FieldRow& row : alanlar()) {
-    if (row.stored != Stored::Text) continue;
+    if (row.stored != Stored::Text && row.stored != Stored::Amount) continue;
     if (row.cut > 0) kontrol(row).setMaxLength(static_cast<std::size_t>(row.cut));
     if (row.cut > 0 || !columns) continue;
     const auto column = std::ranges::find_if(*columns, [&](const dao::FieldInfo& info) {
@@ -40,73 +93,62 @@ void RecordScreen::alanGenislikleri(const dao::Database& database, std::string_v
   }
 }
 
-void RecordScreen::alanlariYukle() {
-  for (const FieldRow& row : alanlar()) {
-    const dao::Field stored = tablo().Fields(row.column);
-    if (row.stored == Stored::Text) kontrol(row).setText(text::trimmed(stored.text()));
-    if (row.stored == Stored::ListIndex) {
-      const auto index = text::wholeNumber(stored.text());
-      auto& combo = static_cast<forms::ComboBox&>(kontrol(row));
-      index ? combo.setListIndex(static_cast<int>(*index)) : combo.setText("");
-    }
-  }
+void RecordScreen::Load() {
+  basliklariYenile();
+  if (yaziKaydi() > 0) Setkayitlarioku(istasyon, *this, yaziKaydi());
+  AyarOku();
+  menuikon(*this);
 }
 
-void RecordScreen::alanlaribosalt() {
-  for (const FieldRow& row : alanlar()) kontrol(row).setText("");
-  etkinlestir(mnuyeni, "New", false);
-  etkinlestir(mnukaydet, "Save", false);
-  etkinlestir(mnusil, "Delete", false);
-}
-
-std::string RecordScreen::YeniAlanlar() {
-  std::string texts;
-  for (const FieldRow& row : alanlar()) texts += kontrol(row).text();
-  return texts;
-}
-
-void RecordScreen::Eskialan() {
-  yedek() = YeniAlanlar();
-  etkinlestir(mnukaydet, "Save", false);
-}
-
-void RecordScreen::tuskontrol() {
-  etkinlestir(mnukaydet, "Save", kaydedilebilir() && YeniAlanlar() != yedek());
-  etkinlestir(mnuyeni, "New", !bosMu(*this));
-}
-
-bool RecordScreen::kayitkontrol() {
-  if (!mnukaydet.enabled()) return true;
-  const auto question = eskiAnahtar().empty() ? "msgkayityapilsinmi" : "msgdegisiklikyapilsinmi";
-  if (!istasyon.evetMi(metinbul(istasyon, question))) return true;
-  mnukaydet.Click();
+bool RecordScreen::QueryUnload() {
+  if (mnukaydet.enabled()) mnukaydet.Click();
   return !mnukaydet.enabled();
 }
 
-dao::Status RecordScreen::Forumalanlaritasi() {
-  dao::Status first;
-  for (const FieldRow& row : alanlar()) {
-    const dao::Status moved = alaniTasi(row);
-    if (!moved && first) first = moved;
-  }
-  return first;
+void RecordScreen::Unload() {
+  if (yaziKaydi() > 0) setkayityaz(istasyon, *this, yaziKaydi()).ignore();
+  Ayaryaz();
 }
 
-dao::Status RecordScreen::alaniTasi(const FieldRow& row) {
-  forms::TextControl& field = kontrol(row);
-  if (row.stored == Stored::Screen) return {};
-  if (row.stored == Stored::ListIndex) {
-    return tablo()
-        .Fields(row.column)
-        .Set(std::to_string(static_cast<forms::ComboBox&>(field).listIndex()));
-  }
-  const std::string trimmed = text::trim(field.text());
-  return tablo().Fields(row.column).Set(row.cut > 0 ? text::left(trimmed, row.cut) : trimmed);
+void RecordScreen::basliklariYenile() {
+  basliklariyaz(istasyon, *this);
+  alanBasliklari(istasyon, *this, alanlar());
+}
+
+void RecordScreen::AyarOku() {
+  pencereOku(istasyon, *this, istasyon.BransAdi, ayarAdi());
+}
+
+// Where a window was is not worth a message.
+void RecordScreen::Ayaryaz() {
+  pencereYaz(istasyon, *this, istasyon.BransAdi, ayarAdi()).ignore();
+}
+
+void RecordScreen::ResimVar() {
+  const bool pictures = std::ranges::any_of(
+      pictureFields, [this](const char* field) { return filled(*this, field); });
+  tbToolBar.setButtonImage("resim", pictures ? "picturev" : "picture");
+  tbToolBar.setButtonImage("film", filled(*this, "txtmov") ? "filmv" : "film");
 }
 
 void RecordScreen::etkinlestir(forms::MenuItem& entry, std::string_view button, bool enabled) {
   entry.setEnabled(enabled);
   tbToolBar.setButtonEnabled(button, enabled);
+}
+
+void RecordScreen::kaydedildi() {
+  durumYaz(phrase(istasyon, Phrase::StateSaved) + text::shortTime(istasyon.clock.now()));
+}
+
+void RecordScreen::kaydedilemedi(const dao::Status& refused) {
+  durumYaz(phrase(istasyon, Phrase::StateNotSaved) + refused.text());
+  istasyon.host.beep();
+}
+
+void RecordScreen::isimDegistiSor(forms::TextControl& field, const std::string& old) {
+  if (old.empty() || old == field.text()) return;
+  if (!istasyon.evetMi(old + ", " + field.text() + metinbul(istasyon, "msgisimdegisti")))
+    field.setText(old);
 }
 
 std::string RecordScreen::sisim(std::string_view name) {

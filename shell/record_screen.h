@@ -1,8 +1,9 @@
 // The protocol of every screen that shows one stored record at a time. A screen gives its field
-// rows, its table and what is peculiar to it; load, store, clear, snapshot, dirty test and the two
-// questions are here.
+// rows, its table and what is peculiar to it; load, store, clear, snapshot, dirty test, the two
+// questions and closing are here.
 #pragma once
 
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,13 +32,15 @@ class RecordScreen : public forms::Form {
   virtual void Kaydet() = 0;
   virtual void Sil() = 0;
   virtual void alanlaribosalt();
+  // Shows the stored record of that key. False, and the screen stays as it is, when there is none.
+  virtual bool alanlaritasi(const dao::Value& key);
 
   // The fields' texts in row order, with no separator: what the snapshot holds and is compared
   // with.
   [[nodiscard]] virtual std::string YeniAlanlar();
   // Takes the snapshot and disables Save.
   void Eskialan();
-  // Re-evaluates Save and New; runs on every change of a field.
+  // Re-evaluates Save, New and what follows New; runs on every change of a field.
   virtual void tuskontrol();
   // Asks the save question when there is something to save; Yes saves, No lets the changes go.
   // False when the save was refused, and the screen must stay as it is.
@@ -46,14 +49,38 @@ class RecordScreen : public forms::Form {
   // afterwards.
   virtual dao::Status Forumalanlaritasi();
 
+  // The window's size and state, kept for the speciality.
+  virtual void AyarOku();
+  virtual void Ayaryaz();
+  // Shows on the toolbar whether a picture or a film is linked to the record.
+  void ResimVar();
+
+  void Load() override;
+  // A changed record is stored without a question; the window stays when that is refused.
+  [[nodiscard]] bool QueryUnload() override;
+  void Unload() override;
+
   // Without the marks that tell namesakes apart.
   [[nodiscard]] static std::string sisim(std::string_view name);
 
-  // The file menu and toolbar that every record screen has.
+  // The menus and the toolbar that every record screen has. Preview and print are there when the
+  // program has pages.
   forms::MenuItem MnuDosya{*this, "MnuDosya"};
   forms::MenuItem mnuyeni{MnuDosya, "mnuyeni"};
   forms::MenuItem mnukaydet{MnuDosya, "mnukaydet"};
   forms::MenuItem mnusil{MnuDosya, "mnusil"};
+  forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
+  forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
+  forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
+  forms::MenuItem çizgi2{MnuDosya, "çizgi2", forms::MenuKind::Separator};
+  forms::MenuItem mnucik{MnuDosya, "mnucik"};
+
+  forms::MenuItem MnuDuzen{*this, "MnuDuzen"};
+  forms::MenuItem mnugerial{MnuDuzen, "mnugerial"};
+  forms::MenuItem mnukes{MnuDuzen, "mnukes"};
+  forms::MenuItem mnukopyala{MnuDuzen, "mnukopyala"};
+  forms::MenuItem mnuyapıştır{MnuDuzen, "mnuyapıştır"};
+
   forms::Toolbar tbToolBar{*this, "tbToolBar"};
 
  protected:
@@ -63,16 +90,48 @@ class RecordScreen : public forms::Form {
   void alanGenislikleri(const dao::Database& database, std::string_view table);
   // Copies the current record onto the fields, trimmed; a Null column leaves its field blank.
   void alanlariYukle();
-  [[nodiscard]] forms::TextControl& kontrol(const FieldRow& row) { return row.control(*this); }
+  // Copies one column of the current record onto its field.
+  void alaniYukle(const FieldRow& row);
+  // The control of a row that holds a text; a row of any other kind has none.
+  [[nodiscard]] forms::TextControl& kontrol(const FieldRow& row) {
+    return static_cast<forms::TextControl&>(row.control(*this));
+  }
+  // Adds buttons and, behind them, a gap.
+  void tusGrubu(std::initializer_list<const char*> keys);
   // Enables or disables a menu entry and the toolbar button that mirrors it.
   void etkinlestir(forms::MenuItem& entry, std::string_view button, bool enabled);
+  // Presses the entry that a toolbar button stands for; false for a button of the screen's own.
+  virtual bool tusBas(std::string_view key);
+
+  // Asks whether the record that was stored under `old` is to get the name that stands in the field
+  // now; on No the old one is put back.
+  void isimDegistiSor(forms::TextControl& field, const std::string& old);
+
   // One more condition for Save, besides a difference from the snapshot.
   [[nodiscard]] virtual bool kaydedilebilir() { return true; }
+  // Whether anything is on the screen that New could clear.
+  [[nodiscard]] virtual bool temizlenebilir();
+  // What else of a record is shown, once its fields are; the snapshot is taken afterwards.
+  virtual void kayitYuklendi() {}
+  // The number of the screen's font record; 0 when it keeps none.
+  [[nodiscard]] virtual int yaziKaydi() const { return 0; }
+  // In front of the window's keys in the settings.
+  [[nodiscard]] virtual std::string ayarAdi() const { return istasyon.BransAdi; }
+  virtual void basliklariYenile();
+
+  // The line that tells how the record stands.
+  virtual void durumYaz(std::string text) = 0;
+  void kaydedildi();
+  // The screen keeps what was typed; the reason is told.
+  void kaydedilemedi(const dao::Status& refused);
 
   Station& istasyon;
 
  private:
+  void menuleriBagla();
+  void kontroluBagla(forms::Control& control);
   dao::Status alaniTasi(const FieldRow& row);
+  [[nodiscard]] std::string saklanan(const FieldRow& row);
 };
 
 }  // namespace shell

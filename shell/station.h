@@ -2,6 +2,7 @@
 // can hold two stations on one folder in one process.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,11 +41,13 @@ struct Station {
   std::string BransAdi = "GenMed";
   std::string SeciliHasta;  // the name of the patient on the card; empty when there is none
 
-  std::string AlanYedegi;     // the generic snapshot
-  std::string KartYedegi;     // the snapshot of the card
-  std::string MuayeneYedegi;  // the snapshot of the examination
-  std::string OncekiTarih;    // the date field's value when it took the focus
-  int SifreSonucu = 0;        // 1 when the password dialog accepted
+  std::string AlanYedegi;      // the generic snapshot
+  std::string KartYedegi;      // the snapshot of the card
+  std::string MuayeneYedegi;   // the snapshot of the examination
+  std::string OncekiTarih;     // the date field's value when it took the focus
+  std::string AktarilanMetin;  // what the prescription or the request screen hands back; empty
+                               // until it is accepted
+  int SifreSonucu = 0;         // 1 when the password dialog accepted
 
   stores::Stores stores;
 
@@ -67,9 +70,11 @@ struct Station {
   host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon);
   [[nodiscard]] bool evetMi(std::string_view question);
   void bilgi(std::string_view text);
-  // Opens a screen by its name and waits until it is closed; says so when this version has no such
-  // screen.
-  void ekranAc(std::string_view name);
+  // Opens a screen by its name and waits until it is closed. `prepare` sets up the loaded screen
+  // before it is seen. When this version has no such screen, says so under the caption of the menu
+  // entry that asked for it, else under the screen's name.
+  using Prepare = std::function<void(forms::Form&)>;
+  void ekranAc(std::string_view name, std::string_view entry = {}, const Prepare& prepare = {});
 };
 
 inline constexpr std::string_view applicationName = "Sanavel";

@@ -46,7 +46,7 @@ void refreshList(QListView& view, ListBoxModel& model, const forms::ListBox& lis
   if (list.choice() == forms::ListChoice::Several) {
     showSelected(view, list);
   } else {
-    showCurrent(view, list.listIndex());
+    showCurrent(view, model.mapped(list.listIndex()));
   }
 }
 
@@ -75,8 +75,8 @@ void bindRows(QAbstractItemView& view, forms::ListView& list) {
 
 }  // namespace
 
-void bind(QListView& view, forms::ListBox& list) {
-  auto* const model = new ListBoxModel(list, &view);
+void bind(QListView& view, forms::ListBox& list, RowOrder order) {
+  auto* const model = new ListBoxModel(list, order, &view);
   view.setUniformItemSizes(true);
   view.setEditTriggers(QAbstractItemView::NoEditTriggers);
   view.setModel(model);
@@ -85,7 +85,9 @@ void bind(QListView& view, forms::ListBox& list) {
   model->setParent(&binding);  // gone with it: the list may be gone before the view
   if (list.choice() == forms::ListChoice::Several) listenToSeveral(binding, view, list);
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
-                   [&](const QModelIndex& current) { list.setListIndex(current.row()); });
+                   [&list, model](const QModelIndex& current) {
+                     list.setListIndex(model->mapped(current.row()));
+                   });
   QObject::connect(&view, &QListView::doubleClicked, &binding, [&] { list.DblClick(); });
 }
 

@@ -6,11 +6,12 @@
 #include <QTreeView>
 
 #include "desktop/bind/binding.h"
+#include "desktop/bind/list_models.h"
 #include "platform/forms/list_control.h"
 
 namespace desktop {
 
-void bind(QListView& view, forms::ListBox& list);
+void bind(QListView& view, forms::ListBox& list, RowOrder order = RowOrder::AsListed);
 void bind(QTreeView& view, forms::ListView& list);
 // For lists of any length: a tree lays all its rows out again at each addition, a table does not.
 void bind(QTableView& view, forms::ListView& list);

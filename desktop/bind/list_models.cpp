@@ -5,7 +5,7 @@
 namespace desktop {
 
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
-  const auto row = static_cast<std::size_t>(index.row());
+  const auto row = static_cast<std::size_t>(mapped(index.row()));
   if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.count())
     return {};
   return qs(list_.items()[row].text);
@@ -13,7 +13,7 @@ QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
 
 void ListBoxModel::refresh() {
   const int now = static_cast<int>(list_.count());
-  if (now < rows_ || rows_ == 0) {
+  if (now < rows_ || rows_ == 0 || order_ == RowOrder::Reversed) {
     beginResetModel();
     rows_ = now;
     endResetModel();

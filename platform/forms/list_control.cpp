@@ -24,6 +24,12 @@ void ListBox::appendItems(std::vector<std::string> texts) {
   notify(Aspect::Items);
 }
 
+void ListBox::setItems(std::vector<ListItem> items) {
+  items_ = std::move(items);
+  listIndex_ = -1;
+  notify(Aspect::Items);
+}
+
 void ListBox::removeItem(std::size_t row) {
   items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(row));
   listIndex_ = -1;

@@ -35,6 +35,8 @@ class ListBox : public Control {
   std::size_t addItem(std::string_view text, long data = 0);
   // Appends many rows at once, in their order; the widget is told once.
   void appendItems(std::vector<std::string> texts);
+  // Other rows, in the order given; the index is dropped, and the widget is told once.
+  void setItems(std::vector<ListItem> items);
   void removeItem(std::size_t row);
   void clear();
 

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/forms/control.h"
 #include "platform/forms/key.h"
+#include "platform/text/date.h"
 
 namespace forms {
 
@@ -34,6 +36,10 @@ class TextControl : public Control {
 
   [[nodiscard]] std::string snapshotText() const override { return text_; }
 
+  // What stands behind the field: its unit, its normal range.
+  [[nodiscard]] const std::string& unit() const { return unit_; }
+  void setUnit(std::string_view unit) { unit_ = std::string(unit); }
+
   Event<> Change;
   Event<> DblClick;
   Event<Key> KeyUp;
@@ -47,6 +53,7 @@ class TextControl : public Control {
 
  private:
   std::string text_;
+  std::string unit_;
   std::size_t maxLength_ = 0;
   std::size_t selStart_ = 0;
   std::size_t selLength_ = 0;
@@ -67,6 +74,18 @@ class TextBox : public TextControl {
  private:
   TextLines lines_;
   TextEcho echo_;
+};
+
+// A date as it is typed, day before month; its owner decides what happens to a text that is none.
+class DateBox : public TextControl {
+ public:
+  using TextControl::TextControl;
+
+  // What the text spells; without a year it is the year of `today`.
+  [[nodiscard]] std::optional<text::DateTime> date(const text::DateTime& today) const {
+    return text::parseDate(text(), today);
+  }
+  void setDate(const text::DateTime& date) { setText(text::shortDate(date)); }
 };
 
 enum class ComboStyle { Editable, ListOnly };

@@ -20,8 +20,9 @@ const std::vector<Part> table{
     {"stores", {"platform/dao", "platform/files"}},
     {"shell", {"stores", "platform/host", "platform/settings", "shell/vocabulary"}},
     {"registry", {"shell"}},
+    {"exam", {"shell"}},
     {"search", {"shell"}},
-    {"app", {"registry", "search"}},
+    {"app", {"registry", "exam", "search"}},
     {"tools", {"shell"}},
     {"desktop", {"app", "tools"}},
 };

@@ -65,7 +65,7 @@ TEST_F(NewPatient, FillsEveryFieldOfTheCard) {
   desk.typeName("Tüm Alanlar");
   int number = 0;
   for (const shell::FieldRow& row : registry::cardFields()) {
-    forms::TextControl& field = row.control(main);
+    auto& field = dynamic_cast<forms::TextControl&>(row.control(main));
     const bool special = &field == &main.Txtİsim || &field == &main.TxtDTarihi ||
                          &field == &main.ComCinsiyet || &field == &main.txtkey;
     if (!special) field.setText("d" + std::to_string(++number));

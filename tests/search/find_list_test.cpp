@@ -173,7 +173,7 @@ TEST_F(FindList, ACardThatWasDeletedMeanwhileIsSaidToBeGone) {
   ASSERT_TRUE(cards.Delete());
   finder.ButGit.press();
   EXPECT_TRUE(desk.host.closed.empty());
-  EXPECT_EQ(finder.LDurum.caption(), "Ali: kart artık yok");
+  EXPECT_EQ(finder.LDurum.caption(), "Ali: bu kayıt başka bir istasyonda silinmiş");
 }
 
 TEST_F(FindList, AStoreThatCannotBeReadIsSaidToBe) {

@@ -45,6 +45,7 @@ class FrmSmall : public shell::RecordScreen {
     Eskialan();
   }
   void Sil() override {}
+  void durumYaz(std::string) override {}
   void yukle() { alanlariYukle(); }
   std::string key;
 };

@@ -1,10 +1,9 @@
-// What the benchmarks share: a desk where nobody sits, a folder of their own, times and lines.
+// A desk without people, a folder that goes away, and a clock: what measurements of the card need.
 #pragma once
 
 #include <stdlib.h>
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdio>
 #include <deque>
@@ -23,8 +22,6 @@
 namespace bench {
 
 using Milliseconds = std::chrono::duration<double, std::milli>;
-
-inline constexpr double frame = 16;  // milliseconds until a window seems to stand still
 
 // A desk where nobody sits: put-off tasks wait until the measurement asks for them.
 class EmptyDesk : public host::Host {
@@ -77,7 +74,7 @@ struct Desk {
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "registry-bench-XXXXXX");
+    std::string pattern = (std::filesystem::temp_directory_path() / "bench-XXXXXX");
     if (::mkdtemp(pattern.data()) != nullptr) path_ = pattern;
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
@@ -109,39 +106,6 @@ double timed(Work work) {
 inline double median(std::vector<double> times) {
   std::ranges::sort(times);
   return times[times.size() / 2];
-}
-
-struct Line {
-  std::string what;
-  double ours = 0;
-  std::optional<double> baseline;
-  std::string goal;
-  bool reached = true;
-};
-
-inline void printHeadings() {
-  std::printf("%-44s %12s %12s %7s   %s\n", "what (medians)", "ours ms", "baseline ms", "ratio",
-              "goal");
-}
-
-inline void print(const Line& line) {
-  std::printf("%-44s %12.3f ", line.what.c_str(), line.ours);
-  if (line.baseline) {
-    std::printf("%12.3f %7.2f", *line.baseline, line.ours / *line.baseline);
-  } else {
-    std::printf("%12s %7s", "-", "-");
-  }
-  std::printf("   %s: %s\n", line.goal.c_str(), line.reached ? "reached" : "MISSED");
-}
-
-inline Line belowFrame(std::string what, double ours) {
-  return {std::move(what), ours, std::nullopt, "below 16 ms", ours < frame};
-}
-
-inline Line atMost(std::string what, double ours, double baseline, double ratio) {
-  std::array<char, 32> goal{};
-  std::snprintf(goal.data(), goal.size(), "ratio below %.1f", ratio);
-  return {std::move(what), ours, baseline, goal.data(), ours < ratio * baseline};
 }
 
 }  // namespace bench

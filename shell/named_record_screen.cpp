@@ -1,0 +1,67 @@
+#include "shell/named_record_screen.h"
+
+#include "platform/dao/database.h"
+#include "platform/text/utf8.h"
+#include "shell/text_lookup.h"
+
+namespace shell {
+
+NamedRecordScreen::NamedRecordScreen(Station& station, std::string_view name,
+                                     std::string_view oldKey)
+    : RecordScreen(station, name), txteski(*this, oldKey) {
+  txteski.setVisible(false);
+  mnuyeni.Click.connect([this] {
+    if (kayitkontrol()) alanlaribosalt();
+  });
+}
+
+bool NamedRecordScreen::kaydedilebilir() {
+  return !text::trimmed(isimAlani().text()).empty();
+}
+
+void NamedRecordScreen::alanlaribosalt() {
+  txteski.setText("");
+  RecordScreen::alanlaribosalt();
+  Eskialan();
+  isimAlani().setFocus();
+}
+
+void NamedRecordScreen::Kaydet() {
+  isimAlani().setText(text::trim(isimAlani().text()));
+  isimDegistiSor(isimAlani(), txteski.text());
+  const dao::Status written = kaydiYaz();
+  if (!written) return kaydedilemedi(written);
+  txteski.setText(isimAlani().text());
+  listeDegisti();
+  Eskialan();
+  etkinlestir(mnusil, "Delete", true);
+  kaydedildi();
+}
+
+// Under the old name, or as a new row when there is none. A key that another record has is refused
+// by the table.
+dao::Status NamedRecordScreen::kaydiYaz() {
+  auto transaction = veritabani().beginTransaction();
+  if (!transaction) return transaction.error();
+  const bool stored =
+      !txteski.text().empty() && tablo().Seek("=", txteski.text()) && !tablo().NoMatch();
+  dao::Status done = stored ? tablo().Edit() : tablo().AddNew();
+  if (done) done = Forumalanlaritasi();
+  if (done) done = tablo().Update();
+  if (done) return transaction->commit();
+  tablo().CancelUpdate();
+  return done;
+}
+
+void NamedRecordScreen::Sil() {
+  const std::string old = txteski.text();
+  if (old.empty() || !tablo().Seek("=", old) || tablo().NoMatch()) return;
+  if (!istasyon.evetMi(old + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  const bool there = tablo().Seek("=", old) && !tablo().NoMatch();
+  const dao::Status deleted = there ? tablo().Delete() : dao::Status();
+  if (!deleted) return istasyon.host.runtimeError(deleted);
+  listeDegisti();
+  alanlaribosalt();
+}
+
+}  // namespace shell
