@@ -8,6 +8,7 @@
 #include "registry/frm_birthday.h"
 #include "registry/frm_key.h"
 #include "registry/frm_max.h"
+#include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
@@ -44,6 +45,7 @@ shell::ScreenDirectory screens() {
   add<registry::FrmMax>(directory, "frmmax");
   add<exam::FrmExam>(directory, "FrmExam");
   add<exam::FrmDrug>(directory, "frmdrug");
+  add<search::FrmFind>(directory, "FrmFind");
   return directory;
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/main/main_window.h"
 #include "desktop/views/dialog_views.h"
 #include "desktop/views/drug_view.h"
+#include "desktop/views/find_view.h"
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
@@ -31,6 +32,7 @@ ViewRegistry programViews() {
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);
+  views.add("FrmFind", findView);
   return views;
 }
 

@@ -176,6 +176,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   bool hastaoku() override;
   void Eskialanmain() override { Eskialan(); }
+  void hastaSec(const std::string& name) override;
+  [[nodiscard]] bool gizliMi(std::string_view key) const override;
   void kayityap();
   void Kaydet() override;
   void Sil() override;
@@ -232,7 +234,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   NameCheck isimBitti();
   NameCheck adasSor();
   [[nodiscard]] bool baskaHasta(const std::string& name);
-  void hastaSec(const std::string& name);
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
@@ -244,7 +245,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void listeyiSurdur();
   void listeyiSay();
   void listeyiKapat();
-  [[nodiscard]] bool gizliMi(std::string_view key) const;
   void isimleriAc(bool unlocked);
   void isimSifresi();
   void gizlileriSec();

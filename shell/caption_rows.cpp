@@ -169,6 +169,14 @@ constexpr std::array drugRows{
     CaptionRow{"txtrecete", "recete"},
 };
 
+constexpr std::array findRows{
+    CaptionRow{"FrmFind", "Bul", Window}, CaptionRow{"PDoğum", "dogumtarihi"},
+    CaptionRow{"PFiltre", "Filtreler"},   CaptionRow{"Frame1", "Listele"},
+    CaptionRow{"BulList", "Listele"},     CaptionRow{"ButTümListe", "tumliste"},
+    CaptionRow{"butbul", "Bul"},          CaptionRow{"ButFiltre", "Filtreler"},
+    CaptionRow{"ButGit", "Git"},          CaptionRow{"PBar", "Ara"},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -178,7 +186,8 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows);
+constexpr auto allRows =
+    joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows, findRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -242,6 +251,9 @@ constexpr std::array phrases{
     PhraseRow{"butdurdur", Phrase::Stop},
     PhraseRow{"mnutamir", Phrase::SaveAllCards},
     PhraseRow{"mnugebekart", Phrase::CardsFromPregnancies},
+    PhraseRow{"Lbulunan", Phrase::PatientCount},
+    PhraseRow{"ButTemizle", Phrase::ClearFilters},
+    PhraseRow{"ButDur", Phrase::Stop},
 };
 
 }  // namespace

@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 21> phraseRows{{
+constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -36,7 +36,11 @@ constexpr std::array<Row, 21> phraseRows{{
     {Phrase::CardsFromPregnancies, "Add Cards from Pregnancies", "Gebeliklerden Kart Ekle"},
     {Phrase::CardsAdded, "Cards added: ", "Eklenen kart: "},
     {Phrase::CardsPassedOver, "Cards that could not be saved: ", "Kaydedilemeyen kart: "},
-}};
+    {Phrase::NobodyFound, "Nobody fits all filters. Go back and clear some of them.",
+     "Tüm filtrelere uyan hasta yok. Geri dönüp bazı filtreleri boşaltınız."},
+    {Phrase::SearchStopped, "stopped", "durduruldu"},
+    {Phrase::ClearFilters, "Clear", "Temizle"},
+});
 
 }  // namespace
 

@@ -28,8 +28,11 @@ enum class Phrase {
   SaveAllCards,
   CardsSaved,  // a number follows
   CardsFromPregnancies,
-  CardsAdded,      // a number follows
-  CardsPassedOver  // a number follows
+  CardsAdded,       // a number follows
+  CardsPassedOver,  // a number follows
+  NobodyFound,
+  SearchStopped,
+  ClearFilters
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

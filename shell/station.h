@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/host/clock.h"
 #include "platform/host/host.h"
@@ -52,6 +53,9 @@ struct Station {
   int SifreSonucu = 0;  // 1 when the password dialog accepted
 
   stores::Stores stores;
+
+  // The list of the caller that opens the finder to pick addresses; null at all other times.
+  std::vector<std::string>* AdresListesi = nullptr;
 
   // The patient card, while the main window is loaded.
   PatientCard* kart = nullptr;

@@ -87,6 +87,20 @@ ListBoxModel* giveModel(QListView& view, const forms::ListBox& list, RowOrder or
   return model;
 }
 
+void bindRows(QAbstractItemView& view, forms::ListView& list) {
+  auto* const model = new ListViewModel(list, &view);
+  view.setModel(model);
+  Binding& binding = attach(view, list, Follow::All, [&view, &list, model](Aspect aspect) {
+    if (aspect == Aspect::Items) model->refresh();
+    if (aspect == Aspect::Items || aspect == Aspect::Selection)
+      showCurrent(view, list.selectedRow());
+  });
+  model->setParent(&binding);
+  QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
+                   [&](const QModelIndex& current) { list.setSelectedRow(current.row()); });
+  QObject::connect(&view, &QAbstractItemView::doubleClicked, &binding, [&] { list.DblClick(); });
+}
+
 }  // namespace
 
 void bind(QListView& view, forms::ListBox& list, RowOrder order) {
@@ -124,20 +138,14 @@ void bindTaken(QListView& view, forms::ListBox& list) {
 }
 
 void bind(QTreeView& view, forms::ListView& list) {
-  auto* const model = new ListViewModel(list, &view);
   view.setUniformRowHeights(true);
   view.setRootIsDecorated(false);
   view.setAlternatingRowColors(true);
-  view.setModel(model);
-  Binding& binding = attach(view, list, Follow::All, [&view, &list, model](Aspect aspect) {
-    if (aspect == Aspect::Items) model->refresh();
-    if (aspect == Aspect::Items || aspect == Aspect::Selection)
-      showCurrent(view, list.selectedRow());
-  });
-  model->setParent(&binding);
-  QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
-                   [&](const QModelIndex& current) { list.setSelectedRow(current.row()); });
-  QObject::connect(&view, &QTreeView::doubleClicked, &binding, [&] { list.DblClick(); });
+  bindRows(view, list);
+}
+
+void bind(QTableView& view, forms::ListView& list) {
+  bindRows(view, list);
 }
 
 }  // namespace desktop

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListView>
+#include <QTableView>
 #include <QTreeView>
 
 #include "desktop/bind/binding.h"
@@ -15,5 +16,7 @@ void bind(QListView& view, forms::ListBox& list, RowOrder order = RowOrder::AsLi
 // moving the mark takes nothing.
 void bindTaken(QListView& view, forms::ListBox& list);
 void bind(QTreeView& view, forms::ListView& list);
+// For lists of any length: a tree lays all its rows out again at each addition, a table does not.
+void bind(QTableView& view, forms::ListView& list);
 
 }  // namespace desktop
