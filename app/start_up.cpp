@@ -2,6 +2,10 @@
 
 #include <memory>
 
+#include "documents/frm_pattern.h"
+#include "documents/frm_preview1.h"
+#include "documents/frm_prewive.h"
+#include "documents/frm_printer.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_max.h"
@@ -38,6 +42,10 @@ shell::ScreenDirectory screens() {
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmMax>(directory, "frmmax");
+  add<documents::FrmPattern>(directory, "frmpattern");
+  add<documents::FrmPrewive>(directory, "frmprewive");
+  add<documents::FrmPreview1>(directory, "frmpreview1");
+  add<documents::FrmPrinter>(directory, "frmprinter");
   return directory;
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
+#include "desktop/views/print_views.h"
 #include "desktop/views/splash_view.h"
 
 namespace desktop {
@@ -23,6 +24,10 @@ ViewRegistry programViews() {
   views.add("frmpass", passwordView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
+  views.add("frmpattern", patternView);
+  views.add("frmprewive", prewiveView);
+  views.add("frmpreview1", preview1View);
+  views.add("frmprinter", printerView);
   return views;
 }
 

@@ -15,6 +15,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnusil", "Sil", Menu},
     CaptionRow{"mnuonizleme", "onizleme", Menu},
     CaptionRow{"mnuyazdır", "yazdir", Menu},
+    CaptionRow{"mnuşablon", "sablon", Menu},
     CaptionRow{"mnucik", "cik", Menu},
     CaptionRow{"MnuDuzen", "duzen", Menu},
     CaptionRow{"mnugerial", "gerial", Menu},
@@ -128,12 +129,30 @@ constexpr std::array optionRows{
 };
 
 constexpr std::array dialogRows{
-    CaptionRow{"buttamam", "Tamam"},          CaptionRow{"Butİptal", "iptal"},
-    CaptionRow{"butkapat", "Tamam"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
-    CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
-    CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
-    CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
-    CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"buttamam", "Tamam"},
+    CaptionRow{"Butİptal", "iptal"},
+    CaptionRow{"butkapat", "Tamam"},
+    CaptionRow{"Frmbirthday", "dogumgunu", Window},
+    CaptionRow{"Lvisim", "dogumgunu"},
+    CaptionRow{"frmpass", "sifre", Window},
+    CaptionRow{"txtsifre", "sifre"},
+    CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
+    CaptionRow{"frmmax", "fotograf", Window},
+    CaptionRow{"frmabout", "hakkinda", Window},
+    CaptionRow{"SclYatay", "Yatay"},
+    CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"Sclyatay", "Yatay"},
+    CaptionRow{"frmpattern", "sablon", Window},
+    CaptionRow{"List1", "sablon", Plain, "frmpattern"},
+    CaptionRow{"txtimza", "imza"},
+    CaptionRow{"butfont", "yazitipi", Ellipsis},
+    CaptionRow{"ButYardım", "yardim"},
+    CaptionRow{"frmprinter", "yazdir", Window},
+    CaptionRow{"picgor", "onizleme"},
+    CaptionRow{"Picture1", "onizleme"},
+    CaptionRow{"SV1", "dusey"},
+    CaptionRow{"SH1", "Yatay"},
+    CaptionRow{"txtsize", "Boyut"},
 };
 
 template <std::size_t... Sizes>
@@ -159,6 +178,10 @@ constexpr std::array toolTips{
     KeyedCaption{"keyopen", "isimsifrele"},
     KeyedCaption{"idpass", "listeduzenle"},
     KeyedCaption{"Exit", "cik"},
+    KeyedCaption{"exitt", "cik"},
+    KeyedCaption{"print", "yazdir"},
+    KeyedCaption{"pre", "Geri"},
+    KeyedCaption{"post", "ileri"},
     KeyedCaption{"Undo", "gerial"},
     KeyedCaption{"Cut", "Kes"},
     KeyedCaption{"Copy", "Kopyala"},
@@ -185,6 +208,12 @@ constexpr std::array phrases{
     PhraseRow{"butikonseç", Phrase::LetterheadIcon},
     PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
     PhraseRow{"Imgicon", Phrase::LetterheadIcon},
+    PhraseRow{"ComYazıcı", Phrase::PrinterName},
+    PhraseRow{"mnugörünüm", Phrase::View},
+    PhraseRow{"mnubüyüt", Phrase::ZoomIn},
+    PhraseRow{"mnuküçült", Phrase::ZoomOut},
+    PhraseRow{"mnusayfaeni", Phrase::FitWidth},
+    PhraseRow{"pageno", Phrase::PageNumber},
 };
 
 }  // namespace

@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 13> phraseRows{{
+constexpr std::array<Row, 25> phraseRows{{
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -28,6 +28,20 @@ constexpr std::array<Row, 13> phraseRows{{
     {Phrase::OpeningFailed, "The practice could not be opened completely. ",
      "Kayıtlar tam olarak açılamadı. "},
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
+    {Phrase::PrinterName, "Printer", "Yazıcı"},
+    {Phrase::SaveAsPdf, "Save as a PDF file", "PDF dosyası olarak kaydet"},
+    {Phrase::NoPrinter, "Nothing can be printed here.", "Burada yazdırma yapılamıyor."},
+    {Phrase::View, "View", "Görünüm"},
+    {Phrase::ZoomIn, "Zoom in", "Büyüt"},
+    {Phrase::ZoomOut, "Zoom out", "Küçült"},
+    {Phrase::FitWidth, "Page width", "Sayfa genişliği"},
+    {Phrase::PageNumber, "Page", "Sayfa"},
+    {Phrase::SampleHeading, "Dr. Ayşe Demir\nInternal Medicine",
+     "Dr. Ayşe Demir\nİç Hastalıkları Uzmanı"},
+    {Phrase::SamplePatient, "Zeynep Yılmaz", "Zeynep Yılmaz"},
+    {Phrase::SampleText, "The text of the report stands here,\nline below line.",
+     "Raporun metni burada yer alır,\nsatır satır."},
+    {Phrase::SampleSignature, "Your sincerely\nDr. Ayşe Demir", "Saygılarımla\nDr. Ayşe Demir"},
 }};
 
 }  // namespace

@@ -21,7 +21,19 @@ enum class Phrase {
   LetterheadPicture,
   LetterheadIcon,
   OpeningFailed,
-  StoreFailed
+  StoreFailed,
+  PrinterName,
+  SaveAsPdf,
+  NoPrinter,
+  View,
+  ZoomIn,
+  ZoomOut,
+  FitWidth,
+  PageNumber,
+  SampleHeading,  // of two lines
+  SamplePatient,
+  SampleText,
+  SampleSignature  // of two lines
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

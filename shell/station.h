@@ -12,6 +12,10 @@
 #include "shell/screen_directory.h"
 #include "stores/stores.h"
 
+namespace page {
+class Printer;
+}
+
 namespace shell {
 
 struct Station {
@@ -45,7 +49,13 @@ struct Station {
   std::string OncekiTarih;    // the date field's value when it took the focus
   int SifreSonucu = 0;        // 1 when the password dialog accepted
 
+  std::string OnizlemeSonucu;  // "1" when the preview asks for printing
+  int SablonNo = 0;            // the template that the dialog of templates chose,
+  std::string SablonImzasi;    // and the signature
+
   stores::Stores stores;
+  // Where pages are printed; not owned. Null where nobody can print.
+  page::Printer* yazici = nullptr;
 
   // The patient card, while the main window is loaded.
   PatientCard* kart = nullptr;
