@@ -82,7 +82,7 @@ void FrmPreview1::ayarYaz(std::string_view key, const std::string& value) {
 }
 
 void FrmPreview1::tusBas(std::string_view key) {
-  if (key == "print") istasyon.OnizlemeSonucu = printAsked;
+  if (key == "print") istasyon.OnizlemeSonucu = std::string(printAsked);
   if (key == "print" || key == "exitt") return istasyon.host.close(*this);
   if (key == "pre") pageno.setText(std::to_string(sayfa() - 1));
   if (key == "post") pageno.setText(std::to_string(sayfa() + 1));

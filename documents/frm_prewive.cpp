@@ -44,7 +44,7 @@ FrmPrewive::FrmPrewive(shell::Station& station) : Form("frmprewive"), istasyon(s
   mnuküçült.setShortcut("-");
   mnusayfaeni.setShortcut("*");
   mnuyazdır.Click.connect([this] {
-    istasyon.OnizlemeSonucu = printAsked;
+    istasyon.OnizlemeSonucu = std::string(printAsked);
     istasyon.host.close(*this);
   });
   mnucik.Click.connect([this] { istasyon.host.close(*this); });

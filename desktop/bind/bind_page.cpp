@@ -11,7 +11,6 @@ namespace desktop {
 namespace {
 
 constexpr int wheelStep = 2;  // of the eighths of a degree that a wheel reports, per pixel
-constexpr int shadow = 3;
 
 }  // namespace
 
@@ -34,7 +33,6 @@ void PageWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), palette().color(QPalette::Mid));
   if (page_ == nullptr || frame_.isEmpty()) return;
-  painter.fillRect(frame_.translated(shadow, shadow), palette().color(QPalette::Shadow));
   // Paper is white, whatever the windows look like.
   painter.fillRect(frame_, Qt::white);
   painter.setClipRect(frame_);

@@ -1,5 +1,6 @@
 #include "desktop/print/qt_printer.h"
 
+#include <QFileInfo>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -65,6 +66,10 @@ platform::Status QtPrinter::print(const std::string& title, const page::Target& 
 // The file takes its place when it is whole: a full disk leaves what was there.
 platform::Status QtPrinter::printFile(const std::string& title, const std::string& file,
                                       const page::Pages& pages) {
+  // Only a file is replaced: to put one in the place of a device would harm the machine.
+  const QFileInfo there(qs(file));
+  if (there.exists() && !there.isFile())
+    return {platform::Fault::Unsupported, file + ": this is not a file."};
   QSaveFile target(qs(file));
   if (!target.open(QIODevice::WriteOnly)) return failed(file, target.errorString());
   {

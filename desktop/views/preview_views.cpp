@@ -89,8 +89,12 @@ std::unique_ptr<QWidget> preview1View(forms::Form& form) {
   bind(*of, preview.lblsayfa);
   QLineEdit* const page = number(preview.pageno, *numbers);
   QLineEdit* const size = number(preview.txtsize, *numbers);
+  QLabel* const pageCaption = captionFor(*page);
+  QLabel* const sizeCaption = captionFor(*size);
+  for (QLabel* const label : {pageCaption, of, sizeCaption})
+    label->setContentsMargins(gap::small, 0, gap::small, 0);
   for (QWidget* const shown :
-       std::initializer_list<QWidget*>{captionFor(*page), page, of, captionFor(*size), size})
+       std::initializer_list<QWidget*>{pageCaption, page, of, sizeCaption, size})
     numbers->addWidget(shown);
   auto* const body = new QWidget(window.get());
   window->setCentralWidget(body);

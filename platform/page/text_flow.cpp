@@ -12,6 +12,14 @@ namespace page {
 namespace {
 
 constexpr int tabStop = twipsPerInch / 2;
+// More bytes than a line usually has.
+constexpr std::size_t atOnce = 400;
+
+struct WordPiece {
+  std::string text;
+  Font font;
+  int width = 0;
+};
 
 bool isEmpty(const richtext::Paragraph& paragraph) {
   return paragraph.runs.size() == 1 && paragraph.runs.front().text.empty();
@@ -40,7 +48,9 @@ class LineBreaker {
  private:
   void addRun(const richtext::Run& run) {
     std::string_view rest = run.text;
+    manyMayFit_ = true;
     while (!rest.empty() && !stopped_) {
+      if (std::exchange(manyMayFit_, false)) rest.remove_prefix(addWords(rest, run.format));
       const std::string_view word = rest.substr(0, rest.find_first_of(" \t"));
       if (!word.empty()) addToWord(word, run.format);
       rest.remove_prefix(word.size());
@@ -50,9 +60,30 @@ class LineBreaker {
     }
   }
 
+  // As many words as are sure to fit, measured as one text: shaping letters is slow, and most lines
+  // take most of their words here.
+  std::size_t addWords(std::string_view text, const Font& font) {
+    text = text.substr(0, std::min(text.find('\t'), atOnce));
+    for (int attempt = 0; attempt < 2; ++attempt) {
+      text = text.substr(0, text.find_last_of(' ') + 1);
+      if (text.empty()) return 0;
+      const int wide = metrics_.width(text, font);
+      const int room = width_ - x_ - wordWidth_;
+      if (wide <= room) {
+        endWord();
+        place(std::string(text), wide, font);
+        return text.size();
+      }
+      text = text.substr(0, text.size() * static_cast<std::size_t>(std::max(room, 0)) /
+                                static_cast<std::size_t>(std::max(wide, 1)));
+    }
+    return 0;
+  }
+
   void addToWord(std::string_view text, const Font& font) {
-    word_.push_back({.x = wordWidth_, .text = std::string(text), .font = font});
-    wordWidth_ += metrics_.width(text, font);
+    const int wide = metrics_.width(text, font);
+    word_.push_back({.text = std::string(text), .font = font, .width = wide});
+    wordWidth_ += wide;
   }
 
   std::size_t addTab() {
@@ -63,17 +94,18 @@ class LineBreaker {
 
   std::size_t addBlanks(std::string_view text, const Font& font) {
     const std::size_t blanks = std::min(text.find_first_not_of(' '), text.size());
-    place(std::string(blanks, ' '), font);
+    const std::string gap(blanks, ' ');
+    place(gap, metrics_.width(gap, font), font);
     return blanks;
   }
 
   void endWord() {
     if (x_ + wordWidth_ > width_ && x_ > 0) endLine();
-    for (FlowPiece& piece : std::exchange(word_, {})) {
+    for (WordPiece& piece : std::exchange(word_, {})) {
       if (wordWidth_ > width_) {
         placeInParts(piece.text, piece.font);
       } else {
-        place(std::move(piece.text), piece.font);
+        place(std::move(piece.text), piece.width, piece.font);
       }
     }
     wordWidth_ = 0;
@@ -85,16 +117,16 @@ class LineBreaker {
       const std::size_t begin = at;
       (void)text::nextCharacter(text, at);
       const std::string_view character = text.substr(begin, at - begin);
-      if (x_ > 0 && x_ + metrics_.width(character, font) > width_) endLine();
-      place(std::string(character), font);
+      const int wide = metrics_.width(character, font);
+      if (x_ > 0 && x_ + wide > width_) endLine();
+      place(std::string(character), wide, font);
     }
   }
 
   // Neighbours of one font become one piece, which prints faster and can be searched for as a
   // whole.
-  void place(std::string text, const Font& font) {
+  void place(std::string text, int width, const Font& font) {
     raise(font);
-    const int width = metrics_.width(text, font);
     if (!apart_ && !line_.pieces.empty() && line_.pieces.back().font == font) {
       line_.pieces.back().text += text;
     } else {
@@ -115,6 +147,7 @@ class LineBreaker {
     line_ = {};
     x_ = 0;
     apart_ = false;
+    manyMayFit_ = true;
   }
 
   const Metrics& metrics_;
@@ -122,9 +155,10 @@ class LineBreaker {
   const std::function<bool(const FlowLine&)>& visit_;
   FlowLine line_;
   int x_ = 0;
-  std::vector<FlowPiece> word_;
+  std::vector<WordPiece> word_;
   int wordWidth_ = 0;
-  bool apart_ = false;  // a tab parts what follows from what stands before
+  bool apart_ = false;      // a tab parts what follows from what stands before
+  bool manyMayFit_ = true;  // a run or a line begins
   bool stopped_ = false;
 };
 
