@@ -7,6 +7,7 @@
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
+#include "desktop/views/print_views.h"
 #include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
 #include "shell/dated_record_screen.h"
@@ -33,6 +34,10 @@ ViewRegistry programViews() {
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);
   views.add("FrmFind", findView);
+  views.add("frmpattern", patternView);
+  views.add("frmprewive", prewiveView);
+  views.add("frmpreview1", preview1View);
+  views.add("frmprinter", printerView);
   return views;
 }
 

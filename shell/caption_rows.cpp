@@ -15,6 +15,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnusil", "Sil", Menu},
     CaptionRow{"mnuonizleme", "onizleme", Menu},
     CaptionRow{"mnuyazdır", "yazdir", Menu},
+    CaptionRow{"mnuşablon", "sablon", Menu},
     CaptionRow{"mnucik", "cik", Menu},
     CaptionRow{"MnuDuzen", "duzen", Menu},
     CaptionRow{"mnugerial", "gerial", Menu},
@@ -143,6 +144,18 @@ constexpr std::array dialogRows{
     CaptionRow{"Frmkey", "isimgizle", Window},
     CaptionRow{"txtara", "Ara", Plain, "Frmkey"},
     CaptionRow{"Lstkey", "isim"},
+    CaptionRow{"Sclyatay", "Yatay"},
+    CaptionRow{"frmpattern", "sablon", Window},
+    CaptionRow{"List1", "sablon", Plain, "frmpattern"},
+    CaptionRow{"txtimza", "imza"},
+    CaptionRow{"butfont", "yazitipi", Ellipsis},
+    CaptionRow{"ButYardım", "yardim"},
+    CaptionRow{"frmprinter", "yazdir", Window},
+    CaptionRow{"picgor", "onizleme"},
+    CaptionRow{"Picture1", "onizleme"},
+    CaptionRow{"SV1", "dusey"},
+    CaptionRow{"SH1", "Yatay"},
+    CaptionRow{"txtsize", "Boyut"},
 };
 
 constexpr std::array examRows{
@@ -201,6 +214,10 @@ constexpr std::array toolTips{
     KeyedCaption{"keyopen", "isimsifrele"},
     KeyedCaption{"idpass", "listeduzenle"},
     KeyedCaption{"Exit", "cik"},
+    KeyedCaption{"exitt", "cik"},
+    KeyedCaption{"print", "yazdir"},
+    KeyedCaption{"pre", "Geri"},
+    KeyedCaption{"post", "ileri"},
     KeyedCaption{"Undo", "gerial"},
     KeyedCaption{"Cut", "Kes"},
     KeyedCaption{"Copy", "Kopyala"},
@@ -254,6 +271,12 @@ constexpr std::array phrases{
     PhraseRow{"Lbulunan", Phrase::PatientCount},
     PhraseRow{"ButTemizle", Phrase::ClearFilters},
     PhraseRow{"ButDur", Phrase::Stop},
+    PhraseRow{"ComYazıcı", Phrase::PrinterName},
+    PhraseRow{"mnugörünüm", Phrase::View},
+    PhraseRow{"mnubüyüt", Phrase::ZoomIn},
+    PhraseRow{"mnuküçült", Phrase::ZoomOut},
+    PhraseRow{"mnusayfaeni", Phrase::FitWidth},
+    PhraseRow{"pageno", Phrase::PageNumber},
 };
 
 }  // namespace

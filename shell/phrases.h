@@ -32,7 +32,19 @@ enum class Phrase {
   CardsPassedOver,  // a number follows
   NobodyFound,
   SearchStopped,
-  ClearFilters
+  ClearFilters,
+  PrinterName,
+  SaveAsPdf,
+  NoPrinter,
+  View,
+  ZoomIn,
+  ZoomOut,
+  FitWidth,
+  PageNumber,
+  SampleHeading,  // of two lines
+  SamplePatient,
+  SampleText,
+  SampleSignature  // of two lines
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
