@@ -2,6 +2,11 @@
 
 #include <memory>
 
+#include "exam/frm_demand.h"
+#include "exam/frm_test.h"
+#include "exam/frm_test_edit.h"
+#include "exam/frm_test_filter.h"
+#include "exam/frm_test_trend.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_max.h"
@@ -38,6 +43,11 @@ shell::ScreenDirectory screens() {
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmMax>(directory, "frmmax");
+  add<exam::FrmTest>(directory, "frmtest");
+  add<exam::FrmTestEdit>(directory, "frmtestedit");
+  add<exam::FrmDemand>(directory, "frmdemand");
+  add<exam::FrmTestFilter>(directory, "frmtestfilter");
+  add<exam::FrmTestTrend>(directory, "frmtesttrend");
   return directory;
 }
 

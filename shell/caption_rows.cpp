@@ -136,6 +136,27 @@ constexpr std::array dialogRows{
     CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
 };
 
+constexpr std::array laboratoryRows{
+    CaptionRow{"frmtest", "testsonuclari", Window},
+    CaptionRow{"frmtestedit", "testduzenle", Window},
+    CaptionRow{"frmdemand", "istem", Window},
+    CaptionRow{"frmtestfilter", "testfiltrele", Window},
+    CaptionRow{"Lsttest", "Tetkik"},
+    CaptionRow{"txtistem", "istem"},
+    CaptionRow{"buttasi", "Ekle"},
+    CaptionRow{"comtest", "Test"},
+    CaptionRow{"msgrid1", "testsonuclari", Plain, "frmtest"},
+    CaptionRow{"dpt1", "ilktarih"},
+    CaptionRow{"dpt2", "sontarih"},
+    CaptionRow{"ChkYüksek", "yuksak"},
+    CaptionRow{"ChkDüşük", "alcak"},
+    CaptionRow{"ChkNormal", "Normal"},
+    CaptionRow{"mnutestler", "Test", Menu},
+    CaptionRow{"mnutestdüzenle", "testduzenle", Menu},
+    CaptionRow{"mnutestfiltrele", "testfiltrele", Menu},
+    CaptionRow{"mnugrafik", "Grafik", Menu},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -145,7 +166,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows);
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, laboratoryRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -170,6 +191,9 @@ constexpr std::array toolTips{
     KeyedCaption{"Align Left", "solayasla"},
     KeyedCaption{"Center", "Ortala"},
     KeyedCaption{"Align Right", "sagayasla"},
+    KeyedCaption{"filtre", "testfiltrele"},
+    KeyedCaption{"grafik", "Grafik"},
+    KeyedCaption{"testler", "testduzenle"},
 };
 
 constexpr std::array tabs{
@@ -185,6 +209,7 @@ constexpr std::array phrases{
     PhraseRow{"butikonseç", Phrase::LetterheadIcon},
     PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
     PhraseRow{"Imgicon", Phrase::LetterheadIcon},
+    PhraseRow{"mnutümü", Phrase::AllResults},
 };
 
 }  // namespace

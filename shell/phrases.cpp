@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 14> phraseRows{{
+constexpr std::array<Row, 21> phraseRows{{
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -30,6 +30,15 @@ constexpr std::array<Row, 14> phraseRows{{
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
     {Phrase::RecordGone, "this record was deleted at another station",
      "bu kayıt başka bir istasyonda silinmiş"},
+    {Phrase::NoTests, "No tests yet. Type a name and save it.",
+     "Henüz test yok. Bir isim yazıp kaydedin."},
+    {Phrase::NoResults, "No results. Choose a test, write its result and save it.",
+     "Sonuç yok. Bir test seçip sonucunu yazın ve kaydedin."},
+    {Phrase::Trend, "Course of a test", "Testin seyri"},
+    {Phrase::NoTrend, "There is no value to draw.", "Çizilecek değer yok."},
+    {Phrase::NotDrawnWithoutNumber, "not drawn, without a number: ", "çizilmedi, sayı değil: "},
+    {Phrase::NotDrawnOtherUnit, "not drawn, in another unit: ", "çizilmedi, birimi farklı: "},
+    {Phrase::AllResults, "All results", "Tüm sonuçlar"},
 }};
 
 }  // namespace

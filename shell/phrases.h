@@ -22,7 +22,14 @@ enum class Phrase {
   LetterheadIcon,
   OpeningFailed,
   StoreFailed,
-  RecordGone
+  RecordGone,
+  NoTests,
+  NoResults,
+  Trend,
+  NoTrend,
+  NotDrawnWithoutNumber,  // a number follows
+  NotDrawnOtherUnit,      // a number follows
+  AllResults
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
