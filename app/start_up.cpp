@@ -3,13 +3,17 @@
 #include <memory>
 
 #include "exam/frm_demand.h"
+#include "exam/frm_drug.h"
+#include "exam/frm_exam.h"
 #include "exam/frm_test.h"
 #include "exam/frm_test_edit.h"
 #include "exam/frm_test_filter.h"
 #include "exam/frm_test_trend.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
+#include "registry/frm_key.h"
 #include "registry/frm_max.h"
+#include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
@@ -42,12 +46,16 @@ shell::ScreenDirectory screens() {
   add<shell::FrmPass>(directory, "frmpass");
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
+  add<registry::FrmKey>(directory, "Frmkey");
   add<registry::FrmMax>(directory, "frmmax");
   add<exam::FrmTest>(directory, "frmtest");
   add<exam::FrmTestEdit>(directory, "frmtestedit");
   add<exam::FrmDemand>(directory, "frmdemand");
   add<exam::FrmTestFilter>(directory, "frmtestfilter");
   add<exam::FrmTestTrend>(directory, "frmtesttrend");
+  add<exam::FrmExam>(directory, "FrmExam");
+  add<exam::FrmDrug>(directory, "frmdrug");
+  add<search::FrmFind>(directory, "FrmFind");
   return directory;
 }
 

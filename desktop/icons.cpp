@@ -16,7 +16,7 @@ struct IconName {
   const char* theme;
 };
 
-constexpr std::array<IconName, 32> names{{
+constexpr std::array<IconName, 35> names{{
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
@@ -49,6 +49,9 @@ constexpr std::array<IconName, 32> names{{
     {"password", "dialog-password"},
     {"program", "user-identity"},
     {"invoice", "view-financial-list"},
+    {"filtre", "view-filter"},
+    {"grafik", "office-chart-line"},
+    {"testler", "view-list-details"},
 }};
 
 // The image that says that there are records of that kind is the other one, filled.

@@ -10,6 +10,9 @@
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
 #include "platform/forms/menu.h"
+#include "search/frm_find.h"
+#include "shell/frm_progress.h"
+#include "stores/visit_ledger.h"
 
 namespace desktop {
 
@@ -18,6 +21,7 @@ namespace {
 constexpr const char* languages[] = {"tr", "eng"};
 constexpr QSize usualSize{1240, 780};
 constexpr QSize smallestSize{1024, 700};
+constexpr QSize findSize{1100, 720};
 constexpr double enlarged = 1.5;
 
 void complain(const QString& why) {
@@ -100,8 +104,14 @@ class Tour {
     fillCard();
     takeTabs(album_, host_, main_, suffix);
     nameList(suffix);
+    daysList();
     takeVariants(suffix);
+    progress(suffix);
+    istasyon_.SeciliHasta = patientWithResults();
+    takeLaboratory(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
+    takeFinder(suffix);
+    istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
   }
@@ -134,6 +144,23 @@ class Tour {
     main_.Lstdat.clear();
   }
 
+  // Stays for the pictures behind: the panel takes room from the card.
+  void daysList() {
+    main_.Pexam.setVisible(true);
+    main_.Pexam.setCaption(main_.Liste.caption() + " (3)");
+    main_.Liste.clear();
+    main_.Liste.appendItems({"Ayşe Yıldırım", "Mehmet Ali Karaosmanoğlu", "Zeynep Şahin"});
+  }
+
+  void progress(const QString& suffix) {
+    shell::FrmProgress screen(istasyon_, {main_.mnutamir.caption(), 2000, [] { return 740; }});
+    screen.Load();
+    host_.show(screen);
+    takeTabs(album_, host_, screen, suffix);
+    host_.close(screen);
+    settle();
+  }
+
   void takeVariants(const QString& suffix) {
     QWidget& window = *host_.windowOf(main_);
     window.resize(smallestSize);
@@ -143,26 +170,87 @@ class Tour {
     applyAppearance(Shade::Dark);
     takeTabs(album_, host_, main_, QStringLiteral("-dark") + suffix);
     takeScreen("FrmOption", QStringLiteral("-dark") + suffix);
+    takeScreen("Frmkey", QStringLiteral("-dark") + suffix);
+    progress(QStringLiteral("-dark") + suffix);
     applyAppearance(shade);
     takeEnlarged(window, suffix);
   }
 
-  void takeEnlarged(QWidget& window, const QString& suffix) {
+  // The filters and what they find; the finder opens over the card, in all its looks.
+  void takeFinder(const QString& suffix) {
+    takeFinder(QStringLiteral("-1024x700") + suffix, smallestSize);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    takeFinder(QStringLiteral("-dark") + suffix, findSize);
+    applyAppearance(shade);
+    withLargeFont([&] { takeFinder(QStringLiteral("-150") + suffix, smallestSize); });
+  }
+
+  void takeFinder(const QString& suffix, QSize size) {
+    search::FrmFind finder(istasyon_);
+    finder.Load();
+    host_.show(finder);
+    QWidget& window = *host_.windowOf(finder);
+    window.resize(size);
+    finder.comdogumyeri.setText("a");
+    finder.TxtYıl.setText("1980");
+    album_.take(window, QStringLiteral("FrmFind-filters") + suffix);
+    finder.BulListYazTUR();
+    album_.take(window, QStringLiteral("FrmFind-result") + suffix);
+    finder.Txtİsim.setText("?");
+    finder.BulListYazTUR();
+    album_.take(window, QStringLiteral("FrmFind-empty") + suffix);
+    host_.close(finder);
+    settle();
+  }
+
+  // The first patient of the practice with laboratory values.
+  std::string patientWithResults() {
+    dao::Recordset& visit = istasyon_.stores.clinical.Visit;
+    const std::string kind = stores::ledgerKey(istasyon_.BransAdi, stores::kind::laboratory, "");
+    if (!visit.Seek(">=", kind) || visit.NoMatch()) return {};
+    const std::string key = visit.Fields("spname").text();
+    return key.starts_with(kind) ? key.substr(kind.size()) : std::string();
+  }
+
+  void takeLaboratory(const QString& suffix) {
+    for (const char* name : {"frmtest", "frmtestedit", "frmdemand", "frmtesttrend"}) {
+      takeScreen(name, QStringLiteral("-1024x700") + suffix, smallestSize);
+      const Shade shade = wantedShade();
+      applyAppearance(Shade::Dark);
+      takeScreen(name, QStringLiteral("-dark") + suffix);
+      applyAppearance(shade);
+      withLargeFont([&] { takeScreen(name, QStringLiteral("-150") + suffix); });
+    }
+  }
+
+  template <class Work>
+  static void withLargeFont(Work work) {
     const QFont usual = QApplication::font();
     QFont large = usual;
     large.setPointSizeF(usual.pointSizeF() * enlarged);
     QApplication::setFont(large);
-    window.resize(usualSize * enlarged);
-    takeTabs(album_, host_, main_, QStringLiteral("-150") + suffix);
+    work();
     QApplication::setFont(usual);
+  }
+
+  void takeEnlarged(QWidget& window, const QString& suffix) {
+    withLargeFont([&] {
+      window.resize(usualSize * enlarged);
+      takeTabs(album_, host_, main_, QStringLiteral("-150") + suffix);
+      takeScreen("Frmkey", QStringLiteral("-150") + suffix);
+      progress(QStringLiteral("-150") + suffix);
+    });
     window.resize(usualSize);
   }
 
-  void takeScreen(const std::string& name, const QString& suffix) {
+  // In the size that it opens with, or in one of the caller's.
+  void takeScreen(const std::string& name, const QString& suffix, QSize size = {}) {
     const auto form = istasyon_.screens.make(name, istasyon_);
     if (form == nullptr) return;
     form->Load();
     host_.show(*form);
+    if (size.isValid()) host_.windowOf(*form)->resize(size);
     takeTabs(album_, host_, *form, suffix);
     host_.close(*form);
     settle();

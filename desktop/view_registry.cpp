@@ -2,11 +2,15 @@
 
 #include "desktop/main/main_window.h"
 #include "desktop/views/dialog_views.h"
+#include "desktop/views/drug_view.h"
+#include "desktop/views/find_view.h"
 #include "desktop/views/generic_view.h"
+#include "desktop/views/laboratory_views.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
 #include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
+#include "desktop/views/trend_view.h"
 #include "shell/dated_record_screen.h"
 
 namespace desktop {
@@ -25,8 +29,17 @@ ViewRegistry programViews() {
   views.add("Logo", splashView);
   views.add("Frmbirthday", birthdayView);
   views.add("frmpass", passwordView);
+  views.add("Frmkey", hiddenNamesView);
+  views.add("frmprogress", progressView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
+  views.add("frmdrug", drugView);
+  views.add("FrmFind", findView);
+  views.add("frmtest", testResultsView);
+  views.add("frmtestedit", testCatalogueView);
+  views.add("frmdemand", testRequestView);
+  views.add("frmtestfilter", testFilterView);
+  views.add("frmtesttrend", testTrendView);
   return views;
 }
 

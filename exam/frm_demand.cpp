@@ -1,6 +1,6 @@
 #include "exam/frm_demand.h"
 
-#include "exam/demand_text.h"
+#include "exam/frm_drug.h"
 #include "platform/text/utf8.h"
 #include "shell/record_date.h"
 #include "shell/text_lookup.h"
@@ -37,12 +37,13 @@ void FrmDemand::istemetestekle() {
   const bool there = txtistem.text().find(test) != std::string::npos;
   if (there && !istasyon.evetMi(test + metinbul(istasyon, "msgtestoncedenyazildi"))) return;
   if (!eskiAnahtar().empty() && !kayitkontrol()) return;
-  txtistem.setText(istemeEklenmis(txtistem.text(), test));
+  const std::string before = txtistem.text().empty() ? "" : txtistem.text() + ", ";
+  txtistem.setText(before + test);
   alanlaribosalt();
 }
 
 void FrmDemand::aktar() {
-  istasyon.AktarilanMetin = aktarilan(txtistem.text());
+  istasyon.AktarilanMetin = kabulEdilen(txtistem.text());
   istasyon.host.close(*this);
 }
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "exam/result_mark.h"
-#include "platform/text/fold.h"
+#include "platform/dao/prefix_search.h"
 #include "platform/text/utf8.h"
 #include "shell/phrases.h"
 
@@ -71,26 +71,32 @@ void TestCatalogueScreen::satiriGoster(int row) {
 void TestCatalogueScreen::testSecildi() {
   if (izliyor_) return;
   const std::string chosen = Lsttest.text();
-  if (kayitkontrol()) alanlaritasi(chosen);
+  if (yalnizIsim() || kayitkontrol()) alanlaritasi(chosen);
 }
 
 // The list shows the first name that begins with what is typed.
 void TestCatalogueScreen::isimYazildi() {
-  const std::string typed = txttest.text();
-  const auto length = static_cast<std::ptrdiff_t>(text::length(typed));
+  const bool turkish = istasyon.ayar("Language", istasyon.Dil) == "tr";
+  const dao::Fold fold = turkish ? dao::Fold::Turkish : dao::Fold::General;
+  const std::string typed = dao::folded(text::trim(txttest.text()), fold);
   const auto begins = [&](const forms::ListItem& item) {
-    return text::equalsNoCase(text::left(item.text, length), typed);
+    return dao::folded(item.text, fold).starts_with(typed);
   };
   const auto at = std::ranges::find_if(Lsttest.items(), begins);
-  if (!typed.empty() && at != Lsttest.items().end())
-    satiriGoster(static_cast<int>(at - Lsttest.items().begin()));
+  const bool found = !typed.empty() && at != Lsttest.items().end();
+  satiriGoster(found ? static_cast<int>(at - Lsttest.items().begin()) : -1);
 }
 
-// A name that the catalogue has brings its test onto the screen.
+// A name that the catalogue has shows its test, unless something else was typed beside the name.
 void TestCatalogueScreen::isimBitti() {
   const std::string typed = text::trim(txttest.text());
-  if (typed.empty() || text::equalsNoCase(typed, txteski.text())) return;
-  alanlaritasi(typed);
+  if (!typed.empty() && yalnizIsim()) alanlaritasi(typed);
+}
+
+// What stands in the name field alone was typed to find a test.
+bool TestCatalogueScreen::yalnizIsim() const {
+  return txteski.text().empty() && txtbirim.text().empty() && txtmin.text().empty() &&
+         txtmax.text().empty() && txtbilgi.text().empty();
 }
 
 }  // namespace exam

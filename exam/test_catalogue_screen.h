@@ -42,6 +42,7 @@ class TestCatalogueScreen : public shell::NamedRecordScreen {
   void testSecildi();
   void isimYazildi();
   void isimBitti();
+  [[nodiscard]] bool yalnizIsim() const;
 
   bool izliyor_ = false;  // the list follows what is typed; nobody chose the row
 };

