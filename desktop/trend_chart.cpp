@@ -72,10 +72,11 @@ QRectF TrendChart::area() const {
                                  -2.0 * line);
 }
 
-TrendChart::Scale TrendChart::values() const {
-  double low = trend().min.value_or(trend().points.front().value);
-  double high = trend().max.value_or(trend().points.front().value);
-  for (const exam::TrendPoint& point : trend().points) {
+TrendChart::Scale TrendChart::scaleOf(const exam::Trend& trend) {
+  if (trend.points.empty()) return {};
+  double low = trend.min.value_or(trend.points.front().value);
+  double high = trend.max.value_or(trend.points.front().value);
+  for (const exam::TrendPoint& point : trend.points) {
     low = std::min(low, point.value);
     high = std::max(high, point.value);
   }
@@ -85,8 +86,7 @@ TrendChart::Scale TrendChart::values() const {
 }
 
 double TrendChart::height(double value) const {
-  const Scale scale = values();
-  return area().bottom() - (value - scale.from) / (scale.to - scale.from) * area().height();
+  return area().bottom() - (value - scale_.from) / (scale_.to - scale_.from) * area().height();
 }
 
 // A single day stands in the middle.
@@ -137,10 +137,9 @@ void TrendChart::paintBand(QPainter& painter) const {
 }
 
 void TrendChart::paintValueAxis(QPainter& painter) const {
-  const Scale scale = values();
   const int line = fontMetrics().lineSpacing();
-  for (double tick = std::ceil(scale.from / scale.step) * scale.step; tick <= scale.to;
-       tick += scale.step) {
+  for (double tick = std::ceil(scale_.from / scale_.step) * scale_.step; tick <= scale_.to;
+       tick += scale_.step) {
     const double y = height(tick);
     painter.setPen(QPen(palette().color(QPalette::Midlight), 1));
     painter.drawLine(QPointF(area().left(), y), QPointF(area().right(), y));
@@ -222,7 +221,10 @@ void TrendChart::keyPressEvent(QKeyEvent* event) {
 
 void bind(TrendChart& chart, exam::TrendPlot& plot) {
   chart.plot_ = &plot;
-  Binding& binding = attach(chart, plot, Follow::All, [&chart](forms::Aspect) { chart.update(); });
+  Binding& binding = attach(chart, plot, Follow::All, [&chart, &plot](forms::Aspect) {
+    chart.scale_ = TrendChart::scaleOf(plot.trend());
+    chart.update();
+  });
   // The plot may be gone before the chart.
   QObject::connect(&binding, &QObject::destroyed, &chart, [&chart] { chart.plot_ = nullptr; });
 }

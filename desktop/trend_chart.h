@@ -35,7 +35,7 @@ class TrendChart : public QWidget {
     double step = 1;
   };
   [[nodiscard]] QRectF area() const;
-  [[nodiscard]] Scale values() const;
+  [[nodiscard]] static Scale scaleOf(const exam::Trend& trend);
   [[nodiscard]] double height(double value) const;
   [[nodiscard]] double across(long day) const;
   void paintBand(QPainter& painter) const;
@@ -45,6 +45,7 @@ class TrendChart : public QWidget {
   [[nodiscard]] const exam::Trend& trend() const { return plot_->trend(); }
 
   exam::TrendPlot* plot_ = nullptr;  // while it is bound
+  Scale scale_;                      // of the trend that is shown
 };
 
 void bind(TrendChart& chart, exam::TrendPlot& plot);
