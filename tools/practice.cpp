@@ -12,6 +12,7 @@
 #include "platform/richtext/rtf_writer.h"
 #include "shell/letterhead.h"
 #include "stores/value_list.h"
+#include "tools/lab_maker.h"
 #include "tools/visit_maker.h"
 
 namespace tools {
@@ -52,7 +53,10 @@ Status inTransactions(stores::Stores& stores, Work work) {
 class Filler {
  public:
   Filler(stores::Stores& stores, const PracticeOptions& options)
-      : stores_(stores), options_(options), visits_(~options.seed, options.reference) {}
+      : stores_(stores),
+        options_(options),
+        visits_(~options.seed, options.reference),
+        laboratory_(options.seed + 1, options.reference) {}
 
   Status fill(const Progress& progress) {
     Random random(options_.seed);
@@ -65,7 +69,7 @@ class Filler {
       stored += size;
       if (progress) progress(stored);
     }
-    return inTransactions(stores_, [&] { return addListValues(); });
+    return inTransactions(stores_, [&] { return addCatalogue(); });
   }
 
  private:
@@ -83,7 +87,27 @@ class Filler {
     for (const LedgerRow& row : visits_.make(patient)) {
       if (Status added = addRow(stores_.clinical.Visit, ledgerCard(row)); !added) return added;
     }
-    return {};
+    return addLabWork(laboratory_.make(patient));
+  }
+
+  Status addLabWork(const LabWork& work) {
+    if (work.values.empty()) return {};
+    for (const Card& value : work.values) {
+      if (Status added = addRow(stores_.clinical.Analyze, value); !added) return added;
+    }
+    return addRow(stores_.clinical.Visit, ledgerCard(work.ledger));
+  }
+
+  Status addCatalogue() {
+    for (const CatalogueTest& test : catalogueTests()) {
+      const Card card{{"Test", test.name},
+                      {"Unit", test.unit},
+                      {"Min", test.min},
+                      {"Max", test.max},
+                      {"Information", test.information}};
+      if (Status added = addRow(stores_.clinical.Tests, card); !added) return added;
+    }
+    return addListValues();
   }
 
   // A save of the card adds the blank value of an empty field to its list, too.
@@ -106,6 +130,7 @@ class Filler {
   stores::Stores& stores_;
   const PracticeOptions& options_;
   VisitMaker visits_;
+  LabMaker laboratory_;
   std::map<std::string_view, std::set<std::string>> listValues_;
 };
 
