@@ -2,10 +2,17 @@
 
 #include <memory>
 
+#include "documents/frm_pattern.h"
+#include "documents/frm_preview1.h"
+#include "documents/frm_prewive.h"
+#include "documents/frm_printer.h"
+#include "exam/frm_drug.h"
+#include "exam/frm_exam.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_key.h"
 #include "registry/frm_max.h"
+#include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
@@ -40,6 +47,13 @@ shell::ScreenDirectory screens() {
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmKey>(directory, "Frmkey");
   add<registry::FrmMax>(directory, "frmmax");
+  add<exam::FrmExam>(directory, "FrmExam");
+  add<exam::FrmDrug>(directory, "frmdrug");
+  add<search::FrmFind>(directory, "FrmFind");
+  add<documents::FrmPattern>(directory, "frmpattern");
+  add<documents::FrmPrewive>(directory, "frmprewive");
+  add<documents::FrmPreview1>(directory, "frmpreview1");
+  add<documents::FrmPrinter>(directory, "frmprinter");
   return directory;
 }
 

@@ -10,6 +10,7 @@
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
 #include "platform/forms/menu.h"
+#include "search/frm_find.h"
 #include "shell/frm_progress.h"
 
 namespace desktop {
@@ -19,6 +20,7 @@ namespace {
 constexpr const char* languages[] = {"tr", "eng"};
 constexpr QSize usualSize{1240, 780};
 constexpr QSize smallestSize{1024, 700};
+constexpr QSize findSize{1100, 720};
 constexpr double enlarged = 1.5;
 
 void complain(const QString& why) {
@@ -105,6 +107,7 @@ class Tour {
     takeVariants(suffix);
     progress(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
+    takeFinder(suffix);
     main_.alanlaribosalt();
     main_.Eskialanmain();
   }
@@ -169,16 +172,51 @@ class Tour {
     takeEnlarged(window, suffix);
   }
 
-  void takeEnlarged(QWidget& window, const QString& suffix) {
+  // The filters and what they find; the finder opens over the card, in all its looks.
+  void takeFinder(const QString& suffix) {
+    takeFinder(QStringLiteral("-1024x700") + suffix, smallestSize);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    takeFinder(QStringLiteral("-dark") + suffix, findSize);
+    applyAppearance(shade);
+    withLargeFont([&] { takeFinder(QStringLiteral("-150") + suffix, smallestSize); });
+  }
+
+  void takeFinder(const QString& suffix, QSize size) {
+    search::FrmFind finder(istasyon_);
+    finder.Load();
+    host_.show(finder);
+    QWidget& window = *host_.windowOf(finder);
+    window.resize(size);
+    finder.comdogumyeri.setText("a");
+    finder.TxtYıl.setText("1980");
+    album_.take(window, QStringLiteral("FrmFind-filters") + suffix);
+    finder.BulListYazTUR();
+    album_.take(window, QStringLiteral("FrmFind-result") + suffix);
+    finder.Txtİsim.setText("?");
+    finder.BulListYazTUR();
+    album_.take(window, QStringLiteral("FrmFind-empty") + suffix);
+    host_.close(finder);
+    settle();
+  }
+
+  template <class Work>
+  static void withLargeFont(Work work) {
     const QFont usual = QApplication::font();
     QFont large = usual;
     large.setPointSizeF(usual.pointSizeF() * enlarged);
     QApplication::setFont(large);
-    window.resize(usualSize * enlarged);
-    takeTabs(album_, host_, main_, QStringLiteral("-150") + suffix);
-    takeScreen("Frmkey", QStringLiteral("-150") + suffix);
-    progress(QStringLiteral("-150") + suffix);
+    work();
     QApplication::setFont(usual);
+  }
+
+  void takeEnlarged(QWidget& window, const QString& suffix) {
+    withLargeFont([&] {
+      window.resize(usualSize * enlarged);
+      takeTabs(album_, host_, main_, QStringLiteral("-150") + suffix);
+      takeScreen("Frmkey", QStringLiteral("-150") + suffix);
+      progress(QStringLiteral("-150") + suffix);
+    });
     window.resize(usualSize);
   }
 

@@ -176,6 +176,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   bool hastaoku() override;
   void Eskialanmain() override { Eskialan(); }
+  void hastaSec(const std::string& name) override;
+  [[nodiscard]] bool gizliMi(std::string_view key) const override;
   void kayityap();
   void Kaydet() override;
   void Sil() override;
@@ -223,6 +225,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void araclariKur();
   void kartiBagla();
   void ekranAc(const forms::MenuItem& entry, std::string_view screen);
+  [[nodiscard]] bool kartSaklandi();
   bool tusBas(std::string_view key) override;
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);
@@ -231,7 +234,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   NameCheck isimBitti();
   NameCheck adasSor();
   [[nodiscard]] bool baskaHasta(const std::string& name);
-  void hastaSec(const std::string& name);
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
@@ -243,7 +245,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void listeyiSurdur();
   void listeyiSay();
   void listeyiKapat();
-  [[nodiscard]] bool gizliMi(std::string_view key) const;
   void isimleriAc(bool unlocked);
   void isimSifresi();
   void gizlileriSec();
@@ -259,8 +260,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   [[nodiscard]] dao::Status kartiYenile(const std::string& name);
   [[nodiscard]] bool dogumSaklanir() const;
 
+  void yeniIsmiSor();
   [[nodiscard]] dao::Status kartiYaz();
-  [[nodiscard]] dao::Status kaydiBul();
+  [[nodiscard]] dao::Status satiriYaz(const std::string& key);
+  [[nodiscard]] dao::Status hastayiSil(const std::string& name);
   void listelereEkle();
 
   void yasGoster();

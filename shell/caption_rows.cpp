@@ -15,6 +15,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnusil", "Sil", Menu},
     CaptionRow{"mnuonizleme", "onizleme", Menu},
     CaptionRow{"mnuyazdır", "yazdir", Menu},
+    CaptionRow{"mnuşablon", "sablon", Menu},
     CaptionRow{"mnucik", "cik", Menu},
     CaptionRow{"MnuDuzen", "duzen", Menu},
     CaptionRow{"mnugerial", "gerial", Menu},
@@ -143,6 +144,50 @@ constexpr std::array dialogRows{
     CaptionRow{"Frmkey", "isimgizle", Window},
     CaptionRow{"txtara", "Ara", Plain, "Frmkey"},
     CaptionRow{"Lstkey", "isim"},
+    CaptionRow{"Sclyatay", "Yatay"},
+    CaptionRow{"frmpattern", "sablon", Window},
+    CaptionRow{"List1", "sablon", Plain, "frmpattern"},
+    CaptionRow{"txtimza", "imza"},
+    CaptionRow{"butfont", "yazitipi", Ellipsis},
+    CaptionRow{"ButYardım", "yardim"},
+    CaptionRow{"frmprinter", "yazdir", Window},
+    CaptionRow{"picgor", "onizleme"},
+    CaptionRow{"Picture1", "onizleme"},
+    CaptionRow{"SV1", "dusey"},
+    CaptionRow{"SH1", "Yatay"},
+    CaptionRow{"txtsize", "Boyut"},
+};
+
+constexpr std::array examRows{
+    CaptionRow{"mnureçete", "recete", Menu},
+    CaptionRow{"mnuistem", "istem", Menu},
+    CaptionRow{"mnugözlük", "gozlukrecetesi", Menu},
+    CaptionRow{"mnuresim", "Resim", Menu},
+    CaptionRow{"mnufilm", "Film", Menu},
+    CaptionRow{"mnuwarn", "warning", Menu},
+    CaptionRow{"mnumuayenedökümü", "muayenedokumu", Menu},
+    CaptionRow{"Lstmuayeneler", "Tarihler"},
+    CaptionRow{"TabStrip1", "Muayene", Plain, "FrmExam"},
+    CaptionRow{"pgenel", "Genel"},
+    CaptionRow{"pözel", "ozel"},
+    CaptionRow{"FKado", "kadindogum"},
+    CaptionRow{"FGoz", "goz"},
+    CaptionRow{"FKBB", "KBB"},
+    CaptionRow{"FKalp", "Kardiyoloji"},
+};
+
+constexpr std::array drugRows{
+    CaptionRow{"frmdrug", "ilac", Window}, CaptionRow{"Lstilaç", "ilac"},
+    CaptionRow{"buttasi", "Ekle"},         CaptionRow{"lblRp", "recete"},
+    CaptionRow{"txtrecete", "recete"},
+};
+
+constexpr std::array findRows{
+    CaptionRow{"FrmFind", "Bul", Window}, CaptionRow{"PDoğum", "dogumtarihi"},
+    CaptionRow{"PFiltre", "Filtreler"},   CaptionRow{"Frame1", "Listele"},
+    CaptionRow{"BulList", "Listele"},     CaptionRow{"ButTümListe", "tumliste"},
+    CaptionRow{"butbul", "Bul"},          CaptionRow{"ButFiltre", "Filtreler"},
+    CaptionRow{"ButGit", "Git"},          CaptionRow{"PBar", "Ara"},
 };
 
 template <std::size_t... Sizes>
@@ -154,7 +199,8 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows);
+constexpr auto allRows =
+    joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows, findRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -168,6 +214,10 @@ constexpr std::array toolTips{
     KeyedCaption{"keyopen", "isimsifrele"},
     KeyedCaption{"idpass", "listeduzenle"},
     KeyedCaption{"Exit", "cik"},
+    KeyedCaption{"exitt", "cik"},
+    KeyedCaption{"print", "yazdir"},
+    KeyedCaption{"pre", "Geri"},
+    KeyedCaption{"post", "ileri"},
     KeyedCaption{"Undo", "gerial"},
     KeyedCaption{"Cut", "Kes"},
     KeyedCaption{"Copy", "Kopyala"},
@@ -179,13 +229,34 @@ constexpr std::array toolTips{
     KeyedCaption{"Align Left", "solayasla"},
     KeyedCaption{"Center", "Ortala"},
     KeyedCaption{"Align Right", "sagayasla"},
+    KeyedCaption{"recete", "recete"},
+    KeyedCaption{"istem", "istem"},
+    KeyedCaption{"test", "testsonuclari"},
+    KeyedCaption{"operation", "Ameliyat"},
+    KeyedCaption{"fizikgelişme", "fizikgelisme"},
+    KeyedCaption{"motmengelişme", "motormentalgel"},
+    KeyedCaption{"asi", "asi"},
+    KeyedCaption{"Gebe", "gebetakip"},
+    KeyedCaption{"Lens", "Lens"},
+    KeyedCaption{"glass", "gozlukrecetesi"},
+    KeyedCaption{"angio", "Anjiyo"},
+    KeyedCaption{"echo", "Eko"},
+    KeyedCaption{"efor", "Efor"},
+    KeyedCaption{"resim", "Resim"},
+    KeyedCaption{"film", "Film"},
+    KeyedCaption{"dokum", "muayenedokumu"},
 };
 
 constexpr std::array tabs{
-    KeyedCaption{"TSKişisel", "kisisel"},      KeyedCaption{"TSAdres", "Adres"},
-    KeyedCaption{"TSKurum", "Kurum"},          KeyedCaption{"TSNot", "Notlar"},
-    KeyedCaption{"TSAyarlar", "genelayarlar"}, KeyedCaption{"TSListeler", "Listeler"},
+    KeyedCaption{"TSKişisel", "kisisel"},
+    KeyedCaption{"TSAdres", "Adres"},
+    KeyedCaption{"TSKurum", "Kurum"},
+    KeyedCaption{"TSNot", "Notlar"},
+    KeyedCaption{"TSAyarlar", "genelayarlar"},
+    KeyedCaption{"TSListeler", "Listeler"},
     KeyedCaption{"TSBaşlık", "baslik"},
+    KeyedCaption{"TSGenel", "Genel"},
+    KeyedCaption{"TSÖzel", "ozel"},
 };
 
 constexpr std::array phrases{
@@ -197,6 +268,15 @@ constexpr std::array phrases{
     PhraseRow{"butdurdur", Phrase::Stop},
     PhraseRow{"mnutamir", Phrase::SaveAllCards},
     PhraseRow{"mnugebekart", Phrase::CardsFromPregnancies},
+    PhraseRow{"Lbulunan", Phrase::PatientCount},
+    PhraseRow{"ButTemizle", Phrase::ClearFilters},
+    PhraseRow{"ButDur", Phrase::Stop},
+    PhraseRow{"ComYazıcı", Phrase::PrinterName},
+    PhraseRow{"mnugörünüm", Phrase::View},
+    PhraseRow{"mnubüyüt", Phrase::ZoomIn},
+    PhraseRow{"mnuküçült", Phrase::ZoomOut},
+    PhraseRow{"mnusayfaeni", Phrase::FitWidth},
+    PhraseRow{"pageno", Phrase::PageNumber},
 };
 
 }  // namespace

@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 21> phraseRows{{
+constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -36,7 +36,25 @@ constexpr std::array<Row, 21> phraseRows{{
     {Phrase::CardsFromPregnancies, "Add Cards from Pregnancies", "Gebeliklerden Kart Ekle"},
     {Phrase::CardsAdded, "Cards added: ", "Eklenen kart: "},
     {Phrase::CardsPassedOver, "Cards that could not be saved: ", "Kaydedilemeyen kart: "},
-}};
+    {Phrase::NobodyFound, "Nobody fits all filters. Go back and clear some of them.",
+     "Tüm filtrelere uyan hasta yok. Geri dönüp bazı filtreleri boşaltınız."},
+    {Phrase::SearchStopped, "stopped", "durduruldu"},
+    {Phrase::ClearFilters, "Clear", "Temizle"},
+    {Phrase::PrinterName, "Printer", "Yazıcı"},
+    {Phrase::SaveAsPdf, "Save as a PDF file", "PDF dosyası olarak kaydet"},
+    {Phrase::NoPrinter, "Nothing can be printed here.", "Burada yazdırma yapılamıyor."},
+    {Phrase::View, "View", "Görünüm"},
+    {Phrase::ZoomIn, "Zoom in", "Büyüt"},
+    {Phrase::ZoomOut, "Zoom out", "Küçült"},
+    {Phrase::FitWidth, "Page width", "Sayfa genişliği"},
+    {Phrase::PageNumber, "Page", "Sayfa"},
+    {Phrase::SampleHeading, "Dr. Ayşe Demir\nInternal Medicine",
+     "Dr. Ayşe Demir\nİç Hastalıkları Uzmanı"},
+    {Phrase::SamplePatient, "Zeynep Yılmaz", "Zeynep Yılmaz"},
+    {Phrase::SampleText, "The text of the report stands here,\nline below line.",
+     "Raporun metni burada yer alır,\nsatır satır."},
+    {Phrase::SampleSignature, "Your sincerely\nDr. Ayşe Demir", "Saygılarımla\nDr. Ayşe Demir"},
+});
 
 }  // namespace
 

@@ -28,8 +28,23 @@ enum class Phrase {
   SaveAllCards,
   CardsSaved,  // a number follows
   CardsFromPregnancies,
-  CardsAdded,      // a number follows
-  CardsPassedOver  // a number follows
+  CardsAdded,       // a number follows
+  CardsPassedOver,  // a number follows
+  NobodyFound,
+  SearchStopped,
+  ClearFilters,
+  PrinterName,
+  SaveAsPdf,
+  NoPrinter,
+  View,
+  ZoomIn,
+  ZoomOut,
+  FitWidth,
+  PageNumber,
+  SampleHeading,  // of two lines
+  SamplePatient,
+  SampleText,
+  SampleSignature  // of two lines
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -2,9 +2,11 @@
 // can hold two stations on one folder in one process.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/host/clock.h"
 #include "platform/host/host.h"
@@ -12,6 +14,10 @@
 #include "shell/patient_card.h"
 #include "shell/screen_directory.h"
 #include "stores/stores.h"
+
+namespace page {
+class Printer;
+}
 
 namespace shell {
 
@@ -50,7 +56,16 @@ struct Station {
   std::optional<text::DateTime> SeciliTarih;
   int SifreSonucu = 0;  // 1 when the password dialog accepted
 
+  std::string OnizlemeSonucu;  // "1" when the preview asks for printing
+  int SablonNo = 0;            // the template that the dialog of templates chose,
+  std::string SablonImzasi;    // and the signature
+
   stores::Stores stores;
+  // Where pages are printed; not owned. Null where nobody can print.
+  page::Printer* yazici = nullptr;
+
+  // The list of the caller that opens the finder to pick addresses; null at all other times.
+  std::vector<std::string>* AdresListesi = nullptr;
 
   // The patient card, while the main window is loaded.
   PatientCard* kart = nullptr;
@@ -68,9 +83,11 @@ struct Station {
   host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon);
   [[nodiscard]] bool evetMi(std::string_view question);
   void bilgi(std::string_view text);
-  // Opens a screen by its name and waits until it is closed; says so when this version has no such
-  // screen.
-  void ekranAc(std::string_view name);
+  // Opens a screen by its name and waits until it is closed. `prepare` sets up the loaded screen
+  // before it is seen. When this version has no such screen, says so under the caption of the menu
+  // entry that asked for it, else under the screen's name.
+  using Prepare = std::function<void(forms::Form&)>;
+  void ekranAc(std::string_view name, std::string_view entry = {}, const Prepare& prepare = {});
 };
 
 inline constexpr std::string_view applicationName = "Sanavel";

@@ -30,7 +30,7 @@ void showCurrent(QAbstractItemView& view, int row) {
 void refreshList(QListView& view, ListBoxModel& model, const forms::ListBox& list, Aspect aspect) {
   if (aspect == Aspect::Items) model.refresh();
   if (aspect != Aspect::Items && aspect != Aspect::Selection) return;
-  showCurrent(view, list.listIndex());
+  showCurrent(view, model.mapped(list.listIndex()));
   view.viewport()->update();
 }
 
@@ -79,29 +79,45 @@ void checkRows(Binding& binding, QListView& view, forms::ListBox& list) {
   view.setItemDelegate(new BoxedRows(&view));
 }
 
-ListBoxModel* giveModel(QListView& view, const forms::ListBox& list) {
-  auto* const model = new ListBoxModel(list, &view);
+ListBoxModel* giveModel(QListView& view, const forms::ListBox& list, RowOrder order) {
+  auto* const model = new ListBoxModel(list, order, &view);
   view.setUniformItemSizes(true);
   view.setEditTriggers(QAbstractItemView::NoEditTriggers);
   view.setModel(model);
   return model;
 }
 
+void bindRows(QAbstractItemView& view, forms::ListView& list) {
+  auto* const model = new ListViewModel(list, &view);
+  view.setModel(model);
+  Binding& binding = attach(view, list, Follow::All, [&view, &list, model](Aspect aspect) {
+    if (aspect == Aspect::Items) model->refresh();
+    if (aspect == Aspect::Items || aspect == Aspect::Selection)
+      showCurrent(view, list.selectedRow());
+  });
+  model->setParent(&binding);
+  QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
+                   [&](const QModelIndex& current) { list.setSelectedRow(current.row()); });
+  QObject::connect(&view, &QAbstractItemView::doubleClicked, &binding, [&] { list.DblClick(); });
+}
+
 }  // namespace
 
-void bind(QListView& view, forms::ListBox& list) {
-  ListBoxModel* const model = giveModel(view, list);
+void bind(QListView& view, forms::ListBox& list, RowOrder order) {
+  ListBoxModel* const model = giveModel(view, list, order);
   Binding& binding = attach(view, list, Follow::All,
                             [&, model](Aspect aspect) { refreshList(view, *model, list, aspect); });
   model->setParent(&binding);  // gone with it: the list may be gone before the view
   if (list.choice() == forms::ListChoice::Several) checkRows(binding, view, list);
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
-                   [&](const QModelIndex& current) { list.setListIndex(current.row()); });
+                   [&list, model](const QModelIndex& current) {
+                     list.setListIndex(model->mapped(current.row()));
+                   });
   QObject::connect(&view, &QListView::doubleClicked, &binding, [&] { list.DblClick(); });
 }
 
 void bindTaken(QListView& view, forms::ListBox& list) {
-  ListBoxModel* const model = giveModel(view, list);
+  ListBoxModel* const model = giveModel(view, list, RowOrder::AsListed);
   Binding& binding = attach(view, list, Follow::All, [&view, model](Aspect aspect) {
     if (aspect == Aspect::Items) model->refresh();
     if (aspect == Aspect::Items) view.viewport()->update();
@@ -122,20 +138,14 @@ void bindTaken(QListView& view, forms::ListBox& list) {
 }
 
 void bind(QTreeView& view, forms::ListView& list) {
-  auto* const model = new ListViewModel(list, &view);
   view.setUniformRowHeights(true);
   view.setRootIsDecorated(false);
   view.setAlternatingRowColors(true);
-  view.setModel(model);
-  Binding& binding = attach(view, list, Follow::All, [&view, &list, model](Aspect aspect) {
-    if (aspect == Aspect::Items) model->refresh();
-    if (aspect == Aspect::Items || aspect == Aspect::Selection)
-      showCurrent(view, list.selectedRow());
-  });
-  model->setParent(&binding);
-  QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
-                   [&](const QModelIndex& current) { list.setSelectedRow(current.row()); });
-  QObject::connect(&view, &QTreeView::doubleClicked, &binding, [&] { list.DblClick(); });
+  bindRows(view, list);
+}
+
+void bind(QTableView& view, forms::ListView& list) {
+  bindRows(view, list);
 }
 
 }  // namespace desktop

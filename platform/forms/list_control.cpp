@@ -19,7 +19,7 @@ std::size_t ListBox::addItem(std::string_view text, long data) {
 }
 
 void ListBox::appendItems(std::vector<std::string> texts) {
-  items_.reserve(items_.size() + texts.size());
+  // No reserve: growing to the exact size each time would move all rows at every call.
   for (std::string& text : texts) items_.push_back({std::move(text), 0, false});
   notify(Aspect::Items);
 }
@@ -74,8 +74,13 @@ void ListView::setColumns(std::vector<std::string> headings) {
   notify(Aspect::Items);
 }
 
-void ListView::addRow(Row row) {
-  rows_.push_back(std::move(row));
+void ListView::addRow(const Row& row) {
+  appendRows({&row, 1});
+}
+
+void ListView::appendRows(std::span<const Row> rows) {
+  if (rows.empty()) return;
+  for (const Row& row : rows) rows_.add(row.cells, row.key);
   notify(Aspect::Items);
 }
 
@@ -90,6 +95,11 @@ void ListView::setSelectedRow(int row) {
   if (std::exchange(selectedRow_, index) == index) return;
   notify(Aspect::Selection);
   if (index >= 0) ItemClick();
+}
+
+std::string ListView::selectedKey() const {
+  return selectedRow_ < 0 ? std::string()
+                          : std::string(key(static_cast<std::size_t>(selectedRow_)));
 }
 
 }  // namespace forms

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/forms/control.h"
+#include "platform/forms/packed_rows.h"
 
 namespace forms {
 
@@ -64,31 +66,42 @@ class ListBox : public Control {
   int visibleRows_ = 0;
 };
 
-// Rows of columns with headings; the key of a row is the caller's own.
+// Rows of columns with headings, of any number. The key of a row is the caller's own and never
+// shown.
 class ListView : public Control {
  public:
   struct Row {
     std::vector<std::string> cells;
-    long key = 0;
+    std::string key = {};
   };
 
   using Control::Control;
 
   [[nodiscard]] const std::vector<std::string>& columns() const { return columns_; }
   void setColumns(std::vector<std::string> headings);
-  [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
-  void addRow(Row row);
+  [[nodiscard]] std::size_t rowCount() const { return rows_.size(); }
+  // Views live until the rows are cleared; empty for a row or column that is not there.
+  [[nodiscard]] std::string_view cell(std::size_t row, std::size_t column) const {
+    return rows_.cell(row, column);
+  }
+  [[nodiscard]] std::string_view key(std::size_t row) const { return rows_.key(row); }
+  void addRow(const Row& row);
+  // Appends many rows at once, in their order; the widget is told once.
+  void appendRows(std::span<const Row> rows);
   void clearRows();
+  // -1 when none is.
   [[nodiscard]] int selectedRow() const { return selectedRow_; }
   // Fires ItemClick when another row is selected.
   void setSelectedRow(int row);
+  // The key of the selected row, empty when none is.
+  [[nodiscard]] std::string selectedKey() const;
 
   Event<> ItemClick;
   Event<> DblClick;
 
  private:
   std::vector<std::string> columns_;
-  std::vector<Row> rows_;
+  PackedRows rows_;
   int selectedRow_ = -1;
 };
 

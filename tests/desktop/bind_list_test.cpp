@@ -2,6 +2,7 @@
 
 #include "desktop/bind/list_models.h"
 #include "desktop/hint_list.h"
+#include "desktop/hint_table.h"
 #include "tests/desktop/desk.h"
 
 namespace {
@@ -134,14 +135,39 @@ TEST(ListBinding, AListViewShowsColumnsAndRows) {
   EXPECT_EQ(view.model()->rowCount(), 0);
 }
 
-TEST(ListBinding, AnEmptyListSaysWhatToDo) {
-  ListForm form;
-  HintList view;
-  bind(view, form.one);
+template <class View, class List>
+void expectHint(List& list) {
+  View view;
+  bind(view, list);
   view.resize(200, 80);
   const QImage empty = view.grab().toImage();
-  form.one.setToolTip("Nobody yet.");
+  list.setToolTip("Nobody yet.");
   EXPECT_NE(view.grab().toImage(), empty);
+}
+
+TEST(ListBinding, AnEmptyListSaysWhatToDo) {
+  ListForm form;
+  expectHint<HintList>(form.one);
+  expectHint<HintTable>(form.view);
+}
+
+// Rows come in slices while the user is already reading.
+TEST(ListBinding, ATableGrowsUnderTheMark) {
+  ListForm form;
+  HintTable view;
+  bind(view, form.view);
+  form.view.setColumns({"İsim", "Tarih"});
+  view.show();
+  const std::vector<forms::ListView::Row> slice(1000, {.cells = {"Ayşe", "1991"}});
+  form.view.appendRows(slice);
+  view.setCurrentIndex(view.model()->index(7, 0));
+  for (int more = 0; more < 100; ++more) form.view.appendRows(slice);
+  support::settle();
+  EXPECT_EQ(view.model()->rowCount(), 101'000);
+  EXPECT_EQ(form.view.selectedRow(), 7);
+  EXPECT_EQ(view.currentIndex().row(), 7);
+  form.view.clearRows();
+  EXPECT_FALSE(view.currentIndex().isValid());
 }
 
 }  // namespace
