@@ -2,6 +2,10 @@
 
 #include <memory>
 
+#include "documents/frm_pattern.h"
+#include "documents/frm_preview1.h"
+#include "documents/frm_prewive.h"
+#include "documents/frm_printer.h"
 #include "exam/frm_demand.h"
 #include "exam/frm_drug.h"
 #include "exam/frm_exam.h"
@@ -56,6 +60,10 @@ shell::ScreenDirectory screens() {
   add<exam::FrmExam>(directory, "FrmExam");
   add<exam::FrmDrug>(directory, "frmdrug");
   add<search::FrmFind>(directory, "FrmFind");
+  add<documents::FrmPattern>(directory, "frmpattern");
+  add<documents::FrmPrewive>(directory, "frmprewive");
+  add<documents::FrmPreview1>(directory, "frmpreview1");
+  add<documents::FrmPrinter>(directory, "frmprinter");
   return directory;
 }
 

@@ -16,13 +16,15 @@ struct IconName {
   const char* theme;
 };
 
-constexpr std::array<IconName, 35> names{{
+constexpr std::array<IconName, 37> names{{
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
     {"Print", "document-print"},
     {"previve", "document-preview"},
     {"Exit", "application-exit"},
+    {"small", "zoom-out"},
+    {"big", "zoom-in"},
     {"Undo", "edit-undo"},
     {"Cut", "edit-cut"},
     {"Copy", "edit-copy"},

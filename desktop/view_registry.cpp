@@ -8,6 +8,7 @@
 #include "desktop/views/laboratory_views.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
+#include "desktop/views/print_views.h"
 #include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
 #include "desktop/views/trend_view.h"
@@ -40,6 +41,10 @@ ViewRegistry programViews() {
   views.add("frmdemand", testRequestView);
   views.add("frmtestfilter", testFilterView);
   views.add("frmtesttrend", testTrendView);
+  views.add("frmpattern", patternView);
+  views.add("frmprewive", prewiveView);
+  views.add("frmpreview1", preview1View);
+  views.add("frmprinter", printerView);
   return views;
 }
 

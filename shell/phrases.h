@@ -33,6 +33,18 @@ enum class Phrase {
   NobodyFound,
   SearchStopped,
   ClearFilters,
+  PrinterName,
+  SaveAsPdf,
+  NoPrinter,
+  View,
+  ZoomIn,
+  ZoomOut,
+  FitWidth,
+  PageNumber,
+  SampleHeading,  // of two lines
+  SamplePatient,
+  SampleText,
+  SampleSignature,  // of two lines
   NoTests,
   NoResults,
   Trend,
