@@ -10,7 +10,11 @@ namespace exam {
 FrmDemand::FrmDemand(shell::Station& station) : TestCatalogueScreen(station, "frmdemand") {
   lblisim.setVisible(false);
   tusGrubu({"New", "Save", "Delete"});
+  if (mnuyazdır.visible()) tusGrubu({"Print"});
   tbToolBar.addButton("Exit", "Exit");
+  mnuonizleme.Click.connect([this] { tetkikyazdir(Output::Preview); });
+  mnuyazdır.Click.connect([this] { tetkikyazdir(Output::Printer); });
+  txtistem.Change.connect([this] { tuskontrol(); });
   buttasi.Click.connect([this] { istemetestekle(); });
   Lsttest.DblClick.connect([this] { istemetestekle(); });
   buttamam.Click.connect([this] { aktar(); });
@@ -27,6 +31,8 @@ void FrmDemand::Load() {
 void FrmDemand::tuskontrol() {
   TestCatalogueScreen::tuskontrol();
   buttasi.setEnabled(!text::trimmed(txttest.text()).empty());
+  mnuonizleme.setEnabled(!txtistem.text().empty());
+  etkinlestir(mnuyazdır, "Print", !txtistem.text().empty());
 }
 
 // A test that the catalogue does not have may be requested all the same, and does not come into the
@@ -40,6 +46,23 @@ void FrmDemand::istemetestekle() {
   const std::string before = txtistem.text().empty() ? "" : txtistem.text() + ", ";
   txtistem.setText(before + test);
   alanlaribosalt();
+}
+
+void FrmDemand::tetkikyazdir(Output output) {
+  constexpr int letterheadNameAndDate = 3;
+  documents::ReportText body(font());
+  body.secyazitipi();
+  body.yaz(metinbul(istasyon, "istem") + "\n\n");
+  body.yazitipiayarla();
+  body.yaz(txtistem.text());
+  bas(istasyon,
+      {.isim = lblisim.caption(),
+       .tarih = text::shortDate(istasyon.clock.today()),
+       .sablon = letterheadNameAndDate,
+       .imza = {},
+       .yazitipi = font(),
+       .govde = body.document()},
+      output);
 }
 
 void FrmDemand::aktar() {

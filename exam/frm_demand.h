@@ -1,6 +1,7 @@
 // The screen on which a request is composed from the catalogue of laboratory tests.
 #pragma once
 
+#include "exam/lab_print.h"
 #include "exam/test_catalogue_screen.h"
 #include "platform/forms/button.h"
 
@@ -21,6 +22,9 @@ class FrmDemand : public TestCatalogueScreen {
 
   // Adds the test on the screen to the request, after a question when it is there already.
   void istemetestekle();
+
+  // The request on paper: heading, patient, text.
+  void tetkikyazdir(Output output);
 
   void Load() override;
   void tuskontrol() override;

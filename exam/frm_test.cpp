@@ -7,6 +7,7 @@
 #include "exam/result_mark.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/font_record.h"
 #include "shell/list_completion.h"
 #include "shell/record_date.h"
 #include "shell/text_lookup.h"
@@ -16,7 +17,6 @@ namespace exam {
 
 namespace {
 
-constexpr int fontRecord = 19;
 const stores::RecordKind& laboratory = stores::kind::laboratory;
 
 }  // namespace
@@ -30,6 +30,7 @@ FrmTest::FrmTest(shell::Station& station) : RecordScreen(station, "frmtest") {
   for (const int column : {result_column::result, result_column::min, result_column::max})
     msgrid1.setColumnAlign(column, forms::ColumnAlign::Right);
   tusGrubu({"New", "Save", "Delete"});
+  if (mnuyazdır.visible()) tusGrubu({"Print"});
   tusGrubu({"filtre", "grafik", "testler"});
   tbToolBar.addButton("Exit", "Exit");
   alanlariBagla();
@@ -38,6 +39,8 @@ FrmTest::FrmTest(shell::Station& station) : RecordScreen(station, "frmtest") {
 
 void FrmTest::olaylariBagla() {
   mnuyeni.Click.connect([this] { Yeni(); });
+  mnuonizleme.Click.connect([this] { tetkikleriyazdır(Output::Preview); });
+  mnuyazdır.Click.connect([this] { tetkikleriyazdır(Output::Printer); });
   mnutestfiltrele.Click.connect([this] { filtreAc(); });
   mnutümü.Click.connect([this] { VAnalizleriyaz(); });
   mnugrafik.Click.connect([this] { grafikAc(); });
@@ -66,7 +69,7 @@ std::span<const shell::FieldRow> FrmTest::alanlar() const {
 }
 
 int FrmTest::yaziKaydi() const {
-  return fontRecord;
+  return shell::font_record::laboratory;
 }
 
 void FrmTest::Load() {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "exam/analysis_filter.h"
+#include "exam/lab_print.h"
 #include "platform/forms/grid.h"
 #include "platform/forms/label.h"
 #include "platform/forms/list_control.h"
@@ -60,6 +61,8 @@ class FrmTest : public shell::RecordScreen {
   void VAnalizleriyaz();
   // Fills it with those that fit; Lstkn keeps the numbers of the chosen tests.
   void filtreliYaz(const AnalysisFilter& filter);
+  // The values in the grid on paper, with the template and the signature of this screen.
+  void tetkikleriyazdır(Output output);
   // The tests of the catalogue.
   void Testlistele();
 
@@ -94,7 +97,7 @@ class FrmTest : public shell::RecordScreen {
   template <class Change>
   dao::Status Visitkaydet(Change change);
   [[nodiscard]] Analyses hastaninAnalizleri();
-  void gridiDoldur(const Analyses& analyses);
+  void gridiDoldur(Analyses analyses);
   void gridSatiri(int row, const stores::Analysis& analysis);
   void numaralariYaz(const Analyses& analyses);
   void gridkontrol();
@@ -109,6 +112,7 @@ class FrmTest : public shell::RecordScreen {
   // The catalogue opens above this screen and takes the shared snapshot for itself.
   std::string yedek_;
   std::string sonTest_;     // the test whose unit and range stand in the fields
+  Analyses analizler_;      // in the order of the grid
   std::size_t toplam_ = 0;  // values of the patient, with those that a filter leaves out
 };
 

@@ -6,12 +6,19 @@
 #include "exam/patient_analyses.h"
 #include "exam/result_mark.h"
 #include "platform/text/utf8.h"
+#include "shell/font_record.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
 namespace exam {
 
 using shell::Phrase;
+
+namespace {
+
+constexpr int usualTemplate = 3;  // letterhead, name and date
+
+}  // namespace
 
 void FrmTest::basliklariYenile() {
   RecordScreen::basliklariYenile();
@@ -54,15 +61,16 @@ void FrmTest::numaralariYaz(const Analyses& analyses) {
   Lstkn.setItems(std::move(numbers));
 }
 
-void FrmTest::gridiDoldur(const Analyses& analyses) {
+void FrmTest::gridiDoldur(Analyses analyses) {
+  analizler_ = std::move(analyses);
   {
     const forms::Grid::Bulk once(msgrid1);
     msgrid1.setRows(msgrid1.fixedRows());
-    msgrid1.setRows(msgrid1.fixedRows() + static_cast<int>(analyses.size()));
+    msgrid1.setRows(msgrid1.fixedRows() + static_cast<int>(analizler_.size()));
     int row = msgrid1.fixedRows();
-    for (const stores::Analysis& analysis : analyses) gridSatiri(row++, analysis);
+    for (const stores::Analysis& analysis : analizler_) gridSatiri(row++, analysis);
   }
-  const std::string shown = std::to_string(analyses.size());
+  const std::string shown = std::to_string(analizler_.size());
   sbDurum.setPanel(2, shown + " / " + std::to_string(toplam_) + " " + metinbul(istasyon, "sonuc"));
   gridkontrol();
 }
@@ -82,7 +90,10 @@ void FrmTest::gridSatiri(int row, const stores::Analysis& analysis) {
 void FrmTest::gridkontrol() {
   etkinlestir(mnutestfiltrele, "filtre", toplam_ > 0);
   mnutümü.setEnabled(toplam_ > 0);
-  etkinlestir(mnugrafik, "grafik", msgrid1.rows() > msgrid1.fixedRows());
+  const bool any = !analizler_.empty();
+  etkinlestir(mnugrafik, "grafik", any);
+  mnuonizleme.setEnabled(any);
+  etkinlestir(mnuyazdır, "Print", any);
 }
 
 void FrmTest::satirSecildi() {
@@ -99,6 +110,23 @@ void FrmTest::satiriGoster(long number) {
     if (msgrid1.rowData(row) == number && msgrid1.rowData(msgrid1.Row()) != number)
       return msgrid1.setRow(row);
   }
+}
+
+void FrmTest::tetkikleriyazdır(Output output) {
+  documents::ReportText body(font());
+  body.secyazitipi();
+  body.yaz(metinbul(istasyon, "testsonuclari") + "\n");
+  analizleriYaz(body, analizler_);
+  const auto stored = shell::ayarKaydi(istasyon, yaziKaydi());
+  const bool own = stored && stored->owner == name();
+  bas(istasyon,
+      {.isim = lblisim.caption(),
+       .tarih = text::shortDate(istasyon.clock.today()),
+       .sablon = own ? stored->templateNumber : usualTemplate,
+       .imza = own ? stored->signature : std::string(),
+       .yazitipi = font(),
+       .govde = body.document()},
+      output);
 }
 
 // --- The screens above this one
