@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "exam/frm_drug.h"
 #include "exam/frm_exam.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
@@ -40,6 +41,7 @@ shell::ScreenDirectory screens() {
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmMax>(directory, "frmmax");
   add<exam::FrmExam>(directory, "FrmExam");
+  add<exam::FrmDrug>(directory, "frmdrug");
   return directory;
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/main/main_window.h"
 #include "desktop/views/dialog_views.h"
+#include "desktop/views/drug_view.h"
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
@@ -27,6 +28,7 @@ ViewRegistry programViews() {
   views.add("frmpass", passwordView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
+  views.add("frmdrug", drugView);
   return views;
 }
 

@@ -235,8 +235,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void isimleriAc(bool unlocked);
   void isimSifresi();
 
+  void yeniIsmiSor();
   [[nodiscard]] dao::Status kartiYaz();
-  [[nodiscard]] dao::Status kaydiBul();
+  [[nodiscard]] dao::Status satiriYaz(const std::string& key);
+  [[nodiscard]] dao::Status hastayiSil(const std::string& name);
   void listelereEkle();
 
   void yasGoster();

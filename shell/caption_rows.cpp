@@ -148,10 +148,16 @@ constexpr std::array examRows{
     CaptionRow{"TabStrip1", "Muayene", Plain, "FrmExam"},
     CaptionRow{"pgenel", "Genel"},
     CaptionRow{"pözel", "ozel"},
-    CaptionRow{"FKado", "Kadın Doğum"},
+    CaptionRow{"FKado", "kadindogum"},
     CaptionRow{"FGoz", "goz"},
     CaptionRow{"FKBB", "KBB"},
     CaptionRow{"FKalp", "Kardiyoloji"},
+};
+
+constexpr std::array drugRows{
+    CaptionRow{"frmdrug", "ilac", Window}, CaptionRow{"Lstilaç", "ilac"},
+    CaptionRow{"buttasi", "Ekle"},         CaptionRow{"lblRp", "recete"},
+    CaptionRow{"txtrecete", "recete"},
 };
 
 template <std::size_t... Sizes>
@@ -163,7 +169,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows);
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},

@@ -75,6 +75,9 @@ class Database {
   [[nodiscard]] Order order() const;
   [[nodiscard]] std::string path() const;
 
+  // Whether both texts are one key in the store's order.
+  [[nodiscard]] bool sameKey(std::string_view one, std::string_view other) const;
+
   // A table name gives a table-type recordset; a text that begins with SELECT gives a read-only set
   // of the rows that it finds now. "like" takes * ? # [a-z] [!x]; left, len and DateValue are
   // there; texts stand in single or double quotes, names with blanks in [brackets]. Missing when
@@ -102,6 +105,10 @@ class Database {
   // The highest number of the field plus one, 1 for an empty table. Only inside a transaction: no
   // other station can take the same number before it ends.
   [[nodiscard]] Result<std::int64_t> nextNumber(std::string_view table, std::string_view field);
+
+  // Bytes that are equal for texts that are one key, and compare as the texts do in the order of
+  // the store.
+  [[nodiscard]] std::string orderKey(std::string_view text) const;
 
   // Damaged, with what was found, unless every table and index is sound.
   [[nodiscard]] Status integrityCheck();
