@@ -9,6 +9,7 @@
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
+#include "desktop/tour_exam.h"
 #include "platform/forms/menu.h"
 
 namespace desktop {
@@ -54,7 +55,8 @@ class Album {
 
 forms::TabStrip* tabsOf(const forms::Form& form) {
   for (forms::Control* control : form.controls()) {
-    if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) return strip;
+    auto* const strip = dynamic_cast<forms::TabStrip*>(control);
+    if (strip != nullptr && strip->visible()) return strip;
   }
   return nullptr;
 }
@@ -101,6 +103,7 @@ class Tour {
     takeTabs(album_, host_, main_, suffix);
     nameList(suffix);
     takeVariants(suffix);
+    takeExaminations(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -144,16 +147,39 @@ class Tour {
     takeTabs(album_, host_, main_, QStringLiteral("-dark") + suffix);
     takeScreen("FrmOption", QStringLiteral("-dark") + suffix);
     applyAppearance(shade);
-    takeEnlarged(window, suffix);
+    takeEnlarged(main_, QStringLiteral("-150") + suffix);
   }
 
-  void takeEnlarged(QWidget& window, const QString& suffix) {
+  void takeExaminations(const QString& suffix) {
+    for (const char* program :
+         {"General Medicine", "Gynecology", "Ophthalmology", "ENT", "Cardiology"}) {
+      const SampleExam sample(host_, istasyon_, program);
+      takeForm(sample.form(), QLatin1Char('-') + QLatin1String(program), suffix);
+    }
+  }
+
+  // As usual, as small as windows get, dark, enlarged.
+  void takeForm(forms::Form& form, const QString& name, const QString& suffix) {
+    QWidget& window = *host_.windowOf(form);
+    takeTabs(album_, host_, form, name + suffix);
+    window.resize(smallestSize);
+    takeTabs(album_, host_, form, name + QStringLiteral("-1024x700") + suffix);
+    window.resize(usualSize);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    takeTabs(album_, host_, form, name + QStringLiteral("-dark") + suffix);
+    applyAppearance(shade);
+    takeEnlarged(form, name + QStringLiteral("-150") + suffix);
+  }
+
+  void takeEnlarged(forms::Form& form, const QString& suffix) {
+    QWidget& window = *host_.windowOf(form);
     const QFont usual = QApplication::font();
     QFont large = usual;
     large.setPointSizeF(usual.pointSizeF() * enlarged);
     QApplication::setFont(large);
     window.resize(usualSize * enlarged);
-    takeTabs(album_, host_, main_, QStringLiteral("-150") + suffix);
+    takeTabs(album_, host_, form, suffix);
     QApplication::setFont(usual);
     window.resize(usualSize);
   }
