@@ -4,18 +4,8 @@
 // Each line compares the card with the least work that gives the same records: for the list of
 // names that is dao::PrefixReader alone, walking the same index; for a load and a save it is the
 // record alone. Ours and baseline are measured in turn; the medians are shown.
-#include <algorithm>
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <functional>
-#include <optional>
-#include <stdexcept>
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "bench/bench_desk.h"
+#include "bench/lines.h"
 #include "platform/text/number.h"
 #include "registry/card_fields.h"
 #include "shell/text_lookup.h"
@@ -26,41 +16,6 @@ namespace {
 using namespace bench;
 
 constexpr std::size_t rounds = 7;
-constexpr double frame = 16;  // milliseconds until a window seems to stand still
-
-struct Line {
-  std::string what;
-  double ours = 0;
-  std::optional<double> baseline;
-  std::string goal;
-  bool reached = true;
-};
-
-void printHeadings() {
-  std::printf("%-44s %12s %12s %7s   %s\n", "what (medians)", "ours ms", "baseline ms", "ratio",
-              "goal");
-}
-
-void print(const Line& line) {
-  std::printf("%-44s %12.3f ", line.what.c_str(), line.ours);
-  if (line.baseline) {
-    std::printf("%12.3f %7.2f", *line.baseline, line.ours / *line.baseline);
-  } else {
-    std::printf("%12s %7s", "-", "-");
-  }
-  std::printf("   %s: %s\n", line.goal.c_str(), line.reached ? "reached" : "MISSED");
-}
-
-Line belowFrame(std::string what, double ours) {
-  return {std::move(what), ours, std::nullopt, "below 16 ms", ours < frame};
-}
-
-Line atMost(std::string what, double ours, double baseline, double ratio) {
-  std::array<char, 32> goal{};
-  std::snprintf(goal.data(), goal.size(), "ratio below %.1f", ratio);
-  return {std::move(what), ours, baseline, goal.data(), ours < ratio * baseline};
-}
-
 struct Listing {
   double total = 0;
   double longestSlice = 0;

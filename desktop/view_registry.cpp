@@ -3,6 +3,7 @@
 #include "desktop/main/main_window.h"
 #include "desktop/views/dialog_views.h"
 #include "desktop/views/drug_view.h"
+#include "desktop/views/find_view.h"
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
@@ -26,9 +27,12 @@ ViewRegistry programViews() {
   views.add("Logo", splashView);
   views.add("Frmbirthday", birthdayView);
   views.add("frmpass", passwordView);
+  views.add("Frmkey", hiddenNamesView);
+  views.add("frmprogress", progressView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);
+  views.add("FrmFind", findView);
   return views;
 }
 

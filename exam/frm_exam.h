@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "exam/exam_listing.h"
 #include "exam/exam_speciality.h"
 #include "exam/exam_text.h"
 #include "platform/forms/button.h"
@@ -161,6 +162,7 @@ class FrmExam : public shell::DatedRecordScreen {
   enum class Page { General, Special };
 
   void alanlariHazirla();
+  void gunuSec();
   void bransaGore();
   void menuleriBagla();
   void sayfaSec(Page page);
@@ -184,6 +186,8 @@ class FrmExam : public shell::DatedRecordScreen {
   [[nodiscard]] std::string kayittaki(const shell::FieldRow& row);
   [[nodiscard]] richtext::Document belge(const std::vector<ReportLine>& lines);
   void dokumYaz();
+  void dokumeEkle(ExamListing& listing, const forms::ListItem& item);
+  void dokumuSakla(ExamListing& listing);
 
   const Workspace& calisma_;
   // What the fields that follow the date were carried over with.

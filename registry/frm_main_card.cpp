@@ -7,6 +7,7 @@
 #include "registry/card_fields.h"
 #include "registry/frm_main.h"
 #include "shell/age.h"
+#include "shell/blood_groups.h"
 #include "shell/list_completion.h"
 #include "shell/phrases.h"
 #include "shell/snapshot.h"
@@ -26,8 +27,6 @@ constexpr int male = 1;
 constexpr int unknownSex = 2;
 constexpr forms::Colour femaleColour = forms::fromBgr(0xC0C0FF);
 constexpr forms::Colour maleColour = forms::fromBgr(0xFFC0C0);
-constexpr std::array bloodGroups{"0 Rh(+)", "0 Rh(-)", "A Rh(+)",  "A Rh(-)",
-                                 "B Rh(+)", "B Rh(-)", "AB Rh(+)", "AB Rh(-)"};
 
 }  // namespace
 
@@ -57,7 +56,7 @@ void FrmMain::kartiBagla() {
 
 void FrmMain::Listeleriyaz() {
   ComCinsiyet.setItems({metinbul(istasyon, "kadin"), metinbul(istasyon, "Erkek"), ""});
-  ComKanGrubu.setItems({bloodGroups.begin(), bloodGroups.end()});
+  ComKanGrubu.setItems({shell::bloodGroups.begin(), shell::bloodGroups.end()});
   for (const ListField& row : listFields()) {
     static_cast<forms::ComboBox&>(row.control(*this))
         .setItems(stores::values(istasyon.stores.personal, row.table));
@@ -181,7 +180,7 @@ void FrmMain::alanlaribosalt() {
   txtyaşı.setCaption("");
   istasyon.SeciliHasta.clear();
   listeyiKapat();
-  tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, shell::Visits::None));
+  ButtonsForPatient();
   durumYaz({});
 }
 

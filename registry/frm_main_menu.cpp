@@ -18,7 +18,7 @@ struct EntryScreen {
 };
 
 // The screen behind each entry, by its name in the screen directory.
-constexpr std::array<EntryScreen, 36> entryScreens{{
+constexpr std::array<EntryScreen, 37> entryScreens{{
     {&FrmMain::mnumuayene1, "FrmExam"},
     {&FrmMain::MnuMuayene2, "FrmExam"},
     {&FrmMain::MnuMuayene3, "FrmExam"},
@@ -46,6 +46,7 @@ constexpr std::array<EntryScreen, 36> entryScreens{{
     {&FrmMain::mnumuayenetarihleri, "frmexamdate"},
     {&FrmMain::mnulensstok, "frmlensstock"},
     {&FrmMain::mnubekdoğum, "frmsearchgrav"},
+    {&FrmMain::mnubul, "FrmFind"},
     {&FrmMain::mnumuayeneara, "frmsearch"},
     {&FrmMain::mnutestara, "frmsearchtest"},
     {&FrmMain::mnuameliyatara, "frmsearchgen"},
@@ -91,7 +92,8 @@ void FrmMain::menuleriBagla() {
   });
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
-  mnubul.Click.connect([this] { Txtİsim.setFocus(); });
+  mnutamir.Click.connect([this] { Tamir2(); });
+  mnugebekart.Click.connect([this] { Command1(); });
   mnugeri.setShortcut("Ctrl+PgUp");
   mnuileri.setShortcut("Ctrl+PgDown");
   mnubul.setShortcut("Ctrl+F");
@@ -101,6 +103,7 @@ void FrmMain::menuleriBagla() {
       shell::bransSec(istasyon, *this, option->name());
       sbDurum.setPanel(5, caption());
       ButtonsForPatient();
+      gunlukListele();
     });
   }
 }
@@ -128,7 +131,7 @@ bool FrmMain::tusBas(std::string_view key) {
   if (key == "smok") return mnusigarabp.press(), true;
   if (key == "keyclose") return isimSifresi(), true;
   if (key == "keyopen") return isimleriAc(false), true;
-  if (key == "idpass") return istasyon.ekranAc("Frmkey"), true;
+  if (key == "idpass") return gizlileriSec(), true;
   return false;
 }
 

@@ -128,12 +128,21 @@ constexpr std::array optionRows{
 };
 
 constexpr std::array dialogRows{
-    CaptionRow{"buttamam", "Tamam"},          CaptionRow{"Butİptal", "iptal"},
-    CaptionRow{"butkapat", "Tamam"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
-    CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
-    CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
-    CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
-    CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"buttamam", "Tamam"},
+    CaptionRow{"Butİptal", "iptal"},
+    CaptionRow{"butkapat", "Tamam"},
+    CaptionRow{"Frmbirthday", "dogumgunu", Window},
+    CaptionRow{"Lvisim", "dogumgunu"},
+    CaptionRow{"frmpass", "sifre", Window},
+    CaptionRow{"txtsifre", "sifre"},
+    CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
+    CaptionRow{"frmmax", "fotograf", Window},
+    CaptionRow{"frmabout", "hakkinda", Window},
+    CaptionRow{"SclYatay", "Yatay"},
+    CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"Frmkey", "isimgizle", Window},
+    CaptionRow{"txtara", "Ara", Plain, "Frmkey"},
+    CaptionRow{"Lstkey", "isim"},
 };
 
 constexpr std::array examRows{
@@ -160,6 +169,14 @@ constexpr std::array drugRows{
     CaptionRow{"txtrecete", "recete"},
 };
 
+constexpr std::array findRows{
+    CaptionRow{"FrmFind", "Bul", Window}, CaptionRow{"PDoğum", "dogumtarihi"},
+    CaptionRow{"PFiltre", "Filtreler"},   CaptionRow{"Frame1", "Listele"},
+    CaptionRow{"BulList", "Listele"},     CaptionRow{"ButTümListe", "tumliste"},
+    CaptionRow{"butbul", "Bul"},          CaptionRow{"ButFiltre", "Filtreler"},
+    CaptionRow{"ButGit", "Git"},          CaptionRow{"PBar", "Ara"},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -169,7 +186,8 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows);
+constexpr auto allRows =
+    joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows, findRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -230,6 +248,12 @@ constexpr std::array phrases{
     PhraseRow{"butikonseç", Phrase::LetterheadIcon},
     PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
     PhraseRow{"Imgicon", Phrase::LetterheadIcon},
+    PhraseRow{"butdurdur", Phrase::Stop},
+    PhraseRow{"mnutamir", Phrase::SaveAllCards},
+    PhraseRow{"mnugebekart", Phrase::CardsFromPregnancies},
+    PhraseRow{"Lbulunan", Phrase::PatientCount},
+    PhraseRow{"ButTemizle", Phrase::ClearFilters},
+    PhraseRow{"ButDur", Phrase::Stop},
 };
 
 }  // namespace

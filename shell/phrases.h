@@ -22,7 +22,17 @@ enum class Phrase {
   LetterheadIcon,
   OpeningFailed,
   StoreFailed,
-  RecordGone
+  RecordGone,
+  Stop,
+  HiddenCount,  // a number follows
+  SaveAllCards,
+  CardsSaved,  // a number follows
+  CardsFromPregnancies,
+  CardsAdded,       // a number follows
+  CardsPassedOver,  // a number follows
+  NobodyFound,
+  SearchStopped,
+  ClearFilters
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/host/clock.h"
 #include "platform/host/host.h"
@@ -46,9 +48,14 @@ struct Station {
   std::string OncekiTarih;     // the date field's value when it took the focus
   std::string AktarilanMetin;  // what the prescription or the request screen hands back; empty
                                // until it is accepted
-  int SifreSonucu = 0;         // 1 when the password dialog accepted
+  // The day whose record the examination screen selects when it opens; none for the latest.
+  std::optional<text::DateTime> SeciliTarih;
+  int SifreSonucu = 0;  // 1 when the password dialog accepted
 
   stores::Stores stores;
+
+  // The list of the caller that opens the finder to pick addresses; null at all other times.
+  std::vector<std::string>* AdresListesi = nullptr;
 
   // The patient card, while the main window is loaded.
   PatientCard* kart = nullptr;

@@ -12,6 +12,7 @@ namespace desktop {
 // Whether the first row of a list stands at the top or at the bottom.
 enum class RowOrder { AsListed, Reversed };
 
+// The rows of a list of which several can be chosen carry a check mark.
 class ListBoxModel : public QAbstractListModel {
   Q_OBJECT
  public:

@@ -57,6 +57,14 @@ Result<Recordset> Database::OpenRecordset(std::string_view source,
   return Recordset(std::move(*cursor));
 }
 
+Result<Recordset> Database::OpenForward(std::string_view select,
+                                        const std::vector<Value>& parameters) {
+  if (!isOpen()) return std::unexpected(closed());
+  auto cursor = openForward(engine_, select, parameters);
+  if (!cursor) return std::unexpected(cursor.error());
+  return Recordset(std::move(*cursor));
+}
+
 Result<std::int64_t> Database::Execute(std::string_view statement,
                                        const std::vector<Value>& parameters) {
   if (!isOpen()) return std::unexpected(closed());

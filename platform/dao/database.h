@@ -85,6 +85,12 @@ class Database {
   [[nodiscard]] Result<Recordset> OpenRecordset(std::string_view source,
                                                 const std::vector<Value>& parameters = {});
 
+  // The rows of a select text, each read when MoveNext comes to it and none kept: forward only and
+  // without a count, for walks over very many rows. A read lock is held until Eof or Close, so a
+  // long walk is made of pages.
+  [[nodiscard]] Result<Recordset> OpenForward(std::string_view select,
+                                              const std::vector<Value>& parameters = {});
+
   // Runs one statement of the same language. The number of rows changed. The rules of the fields
   // (width, zero length) are not tested here, keys are.
   Result<std::int64_t> Execute(std::string_view statement,

@@ -21,7 +21,8 @@ const std::vector<Part> table{
     {"shell", {"stores", "platform/host", "platform/settings", "shell/vocabulary"}},
     {"registry", {"shell"}},
     {"exam", {"shell"}},
-    {"app", {"registry", "exam"}},
+    {"search", {"shell"}},
+    {"app", {"registry", "exam", "search"}},
     {"tools", {"shell"}},
     {"desktop", {"app", "tools"}},
 };
