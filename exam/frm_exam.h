@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 
-#include "exam/exam_listing.h"
 #include "exam/exam_speciality.h"
 #include "exam/exam_text.h"
 #include "platform/forms/button.h"
@@ -14,6 +13,8 @@
 #include "shell/dated_record_screen.h"
 
 namespace exam {
+
+class ExamListing;
 
 class FrmExam : public shell::DatedRecordScreen {
  public:

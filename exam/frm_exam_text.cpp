@@ -1,6 +1,7 @@
 // The examination as a text, and all examinations of the patient as a document.
 #include <algorithm>
 
+#include "exam/exam_listing.h"
 #include "exam/frm_exam.h"
 #include "platform/text/utf8.h"
 #include "shell/frm_progress.h"
