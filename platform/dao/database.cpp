@@ -137,4 +137,8 @@ Result<std::int64_t> Database::nextNumber(std::string_view table, std::string_vi
   return statement->integer(0) + 1;
 }
 
+std::string Database::orderKey(std::string_view text) const {
+  return isOpen() ? engine_->collator().key(text) : std::string(text);
+}
+
 }  // namespace dao

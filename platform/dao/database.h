@@ -103,6 +103,10 @@ class Database {
   // other station can take the same number before it ends.
   [[nodiscard]] Result<std::int64_t> nextNumber(std::string_view table, std::string_view field);
 
+  // Bytes that are equal for texts that are one key, and compare as the texts do in the order of
+  // the store.
+  [[nodiscard]] std::string orderKey(std::string_view text) const;
+
   // Damaged, with what was found, unless every table and index is sound.
   [[nodiscard]] Status integrityCheck();
 
