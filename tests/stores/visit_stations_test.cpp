@@ -135,10 +135,12 @@ class VisitCrashTest : public VisitStationsTest {
     writeBytes(folder_ / clinicalPath, bytes_);
   }
   bool rebuildAndDie(std::chrono::microseconds delay) {
-    Stores stores = storesOf(folder_);
-    if (!OpenStores(stores)) return false;
+    auto database = dao::OpenDatabase(folder_ / clinicalPath);
+    if (!database) return false;
+    ClinicalStore clinical;
+    clinical.database = std::move(*database);
     dieIn(delay);
-    return vizitolustur(stores.clinical).ok();
+    return vizitolustur(clinical).ok();
   }
 
   Rows old_;
