@@ -16,13 +16,15 @@ struct IconName {
   const char* theme;
 };
 
-constexpr std::array<IconName, 48> names{{
+constexpr auto names = std::to_array<IconName>({
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
     {"Print", "document-print"},
     {"previve", "document-preview"},
     {"Exit", "application-exit"},
+    {"small", "zoom-out"},
+    {"big", "zoom-in"},
     {"Undo", "edit-undo"},
     {"Cut", "edit-cut"},
     {"Copy", "edit-copy"},
@@ -65,7 +67,10 @@ constexpr std::array<IconName, 48> names{{
     {"picture", "view-preview"},
     {"film", "tool-animator"},
     {"dokum", "view-pages-overview"},
-}};
+    {"filtre", "view-filter"},
+    {"grafik", "office-chart-line"},
+    {"testler", "view-list-details"},
+});
 
 // Behind the name of an image: the other one, filled, which says that there are records of that
 // kind.

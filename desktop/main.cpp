@@ -6,6 +6,7 @@
 #include "app/start_up.h"
 #include "desktop/application.h"
 #include "desktop/command_line.h"
+#include "desktop/print/qt_printer.h"
 #include "desktop/tour.h"
 #include "platform/settings/user.h"
 #include "shell/text_lookup.h"
@@ -57,6 +58,8 @@ int main(int argc, char** argv) {
   if (!known) application.host().runtimeError(known);
   shell::Station station({application.host(), clock, settings, screens}, folderOf(*line),
                          line->program);
+  desktop::QtPrinter printer;
+  station.yazici = &printer;
   application.host().setWords([&](std::string_view key) { return metinbul(station, key); });
   return line->tour.empty() ? serve(application, station)
                             : takePictures(application, station, line->tour);

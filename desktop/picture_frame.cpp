@@ -23,14 +23,27 @@ QSize scaledSize(const QImageReader& reader, const QSize& limit) {
   return uprightSize(reader) == reader.size() ? fitted : fitted.transposed();
 }
 
+bool isUsable(const QSize& size) {
+  return !size.isEmpty() && qint64{size.width()} * size.height() <= mostPixels;
+}
+
+void prepare(QImageReader& reader) {
+  reader.setAutoTransform(true);
+  reader.setDecideFormatFromContent(true);
+}
+
 }  // namespace
+
+QSize naturalSize(const QString& path) {
+  QImageReader reader(path);
+  prepare(reader);
+  return isUsable(reader.size()) ? uprightSize(reader) : QSize();
+}
 
 QImage loadPicture(const QString& path, const QSize& limit, QSize* natural) {
   QImageReader reader(path);
-  reader.setAutoTransform(true);
-  reader.setDecideFormatFromContent(true);
-  const QSize size = reader.size();
-  if (size.isEmpty() || qint64{size.width()} * size.height() > mostPixels) return {};
+  prepare(reader);
+  if (!isUsable(reader.size())) return {};
   if (natural != nullptr) *natural = uprightSize(reader);
   if (!limit.isEmpty()) reader.setScaledSize(scaledSize(reader, limit));
   return reader.read();

@@ -47,4 +47,7 @@ class PictureFrame : public QFrame {
 // The file decoded to at most `limit` pixels each way, upright; null when it is no picture.
 [[nodiscard]] QImage loadPicture(const QString& path, const QSize& limit, QSize* natural = nullptr);
 
+// The size of a picture file as it stands upright; empty when it is none, or absurdly large.
+[[nodiscard]] QSize naturalSize(const QString& path);
+
 }  // namespace desktop

@@ -6,7 +6,6 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFontDialog>
-#include <QImageReader>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -15,6 +14,7 @@
 
 #include "desktop/bind/binding.h"
 #include "desktop/form_frame.h"
+#include "desktop/picture_frame.h"
 #include "desktop/send_keys.h"
 #include "desktop/text.h"
 
@@ -139,6 +139,11 @@ std::optional<std::string> QtHost::openFile(const host::FileRequest& request) {
                                              qs(request.folder), filterOf(request.filters)));
 }
 
+std::optional<std::string> QtHost::saveFile(const host::FileRequest& request) {
+  return chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(), qs(request.title),
+                                             qs(request.folder), filterOf(request.filters)));
+}
+
 std::optional<std::string> QtHost::chooseFolder(std::string_view title, std::string_view folder) {
   return chosen(
       QFileDialog::getExistingDirectory(QApplication::activeWindow(), qs(title), qs(folder)));
@@ -237,11 +242,8 @@ void QtHost::runtimeError(const platform::Status& status) {
 }
 
 std::optional<host::Host::Size> QtHost::pictureSize(std::string_view path) {
-  QImageReader reader(qs(path));
-  reader.setDecideFormatFromContent(true);
-  QSize size = reader.size();
+  const QSize size = naturalSize(qs(path));
   if (size.isEmpty()) return std::nullopt;
-  if (reader.transformation().testFlag(QImageIOHandler::TransformationRotate90)) size.transpose();
   return Size{size.width(), size.height()};
 }
 

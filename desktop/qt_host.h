@@ -31,6 +31,7 @@ class QtHost : public host::Host {
   std::string inputBox(std::string_view prompt, std::string_view title,
                        std::string_view value) override;
   std::optional<std::string> openFile(const host::FileRequest& request) override;
+  std::optional<std::string> saveFile(const host::FileRequest& request) override;
   std::optional<std::string> chooseFolder(std::string_view title, std::string_view folder) override;
   std::optional<forms::Font> chooseFont(const forms::Font& current) override;
   std::optional<forms::Colour> chooseColour(forms::Colour current) override;

@@ -13,6 +13,7 @@
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
 #include "shell/frm_progress.h"
+#include "stores/visit_ledger.h"
 
 namespace desktop {
 
@@ -109,8 +110,11 @@ class Tour {
     takeVariants(suffix);
     progress(suffix);
     takeExaminations(suffix);
+    istasyon_.SeciliHasta = patientWithResults();
+    takeLaboratory(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     takeFinder(suffix);
+    istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
   }
@@ -229,6 +233,26 @@ class Tour {
     settle();
   }
 
+  // The first patient of the practice with laboratory values.
+  std::string patientWithResults() {
+    dao::Recordset& visit = istasyon_.stores.clinical.Visit;
+    const std::string kind = stores::ledgerKey(istasyon_.BransAdi, stores::kind::laboratory, "");
+    if (!visit.Seek(">=", kind) || visit.NoMatch()) return {};
+    const std::string key = visit.Fields("spname").text();
+    return key.starts_with(kind) ? key.substr(kind.size()) : std::string();
+  }
+
+  void takeLaboratory(const QString& suffix) {
+    for (const char* name : {"frmtest", "frmtestedit", "frmdemand", "frmtesttrend"}) {
+      takeScreen(name, QStringLiteral("-1024x700") + suffix, smallestSize);
+      const Shade shade = wantedShade();
+      applyAppearance(Shade::Dark);
+      takeScreen(name, QStringLiteral("-dark") + suffix);
+      applyAppearance(shade);
+      withLargeFont([&] { takeScreen(name, QStringLiteral("-150") + suffix); });
+    }
+  }
+
   template <class Work>
   static void withLargeFont(Work work) {
     const QFont usual = QApplication::font();
@@ -249,11 +273,13 @@ class Tour {
     window.resize(usualSize);
   }
 
-  void takeScreen(const std::string& name, const QString& suffix) {
+  // In the size that it opens with, or in one of the caller's.
+  void takeScreen(const std::string& name, const QString& suffix, QSize size = {}) {
     const auto form = istasyon_.screens.make(name, istasyon_);
     if (form == nullptr) return;
     form->Load();
     host_.show(*form);
+    if (size.isValid()) host_.windowOf(*form)->resize(size);
     takeTabs(album_, host_, *form, suffix);
     host_.close(*form);
     settle();

@@ -5,10 +5,13 @@
 #include "desktop/views/drug_view.h"
 #include "desktop/views/find_view.h"
 #include "desktop/views/generic_view.h"
+#include "desktop/views/laboratory_views.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
+#include "desktop/views/print_views.h"
 #include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
+#include "desktop/views/trend_view.h"
 #include "shell/dated_record_screen.h"
 
 namespace desktop {
@@ -33,6 +36,15 @@ ViewRegistry programViews() {
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);
   views.add("FrmFind", findView);
+  views.add("frmpattern", patternView);
+  views.add("frmprewive", prewiveView);
+  views.add("frmpreview1", preview1View);
+  views.add("frmprinter", printerView);
+  views.add("frmtest", testResultsView);
+  views.add("frmtestedit", testCatalogueView);
+  views.add("frmdemand", testRequestView);
+  views.add("frmtestfilter", testFilterView);
+  views.add("frmtesttrend", testTrendView);
   return views;
 }
 

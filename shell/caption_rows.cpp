@@ -15,6 +15,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnusil", "Sil", Menu},
     CaptionRow{"mnuonizleme", "onizleme", Menu},
     CaptionRow{"mnuyazdır", "yazdir", Menu},
+    CaptionRow{"mnuşablon", "sablon", Menu},
     CaptionRow{"mnucik", "cik", Menu},
     CaptionRow{"MnuDuzen", "duzen", Menu},
     CaptionRow{"mnugerial", "gerial", Menu},
@@ -143,6 +144,18 @@ constexpr std::array dialogRows{
     CaptionRow{"Frmkey", "isimgizle", Window},
     CaptionRow{"txtara", "Ara", Plain, "Frmkey"},
     CaptionRow{"Lstkey", "isim"},
+    CaptionRow{"Sclyatay", "Yatay"},
+    CaptionRow{"frmpattern", "sablon", Window},
+    CaptionRow{"List1", "sablon", Plain, "frmpattern"},
+    CaptionRow{"txtimza", "imza"},
+    CaptionRow{"butfont", "yazitipi", Ellipsis},
+    CaptionRow{"ButYardım", "yardim"},
+    CaptionRow{"frmprinter", "yazdir", Window},
+    CaptionRow{"picgor", "onizleme"},
+    CaptionRow{"Picture1", "onizleme"},
+    CaptionRow{"SV1", "dusey"},
+    CaptionRow{"SH1", "Yatay"},
+    CaptionRow{"txtsize", "Boyut"},
 };
 
 constexpr std::array examRows{
@@ -177,6 +190,26 @@ constexpr std::array findRows{
     CaptionRow{"ButGit", "Git"},          CaptionRow{"PBar", "Ara"},
 };
 
+constexpr std::array laboratoryRows{
+    CaptionRow{"frmtest", "testsonuclari", Window},
+    CaptionRow{"frmtestedit", "testduzenle", Window},
+    CaptionRow{"frmdemand", "istem", Window},
+    CaptionRow{"frmtestfilter", "testfiltrele", Window},
+    CaptionRow{"Lsttest", "Tetkik"},
+    CaptionRow{"txtistem", "istem"},
+    CaptionRow{"comtest", "Test"},
+    CaptionRow{"msgrid1", "testsonuclari", Plain, "frmtest"},
+    CaptionRow{"dpt1", "ilktarih"},
+    CaptionRow{"dpt2", "sontarih"},
+    CaptionRow{"ChkYüksek", "yuksak"},
+    CaptionRow{"ChkDüşük", "alcak"},
+    CaptionRow{"ChkNormal", "Normal"},
+    CaptionRow{"mnutestler", "Test", Menu},
+    CaptionRow{"mnutestdüzenle", "testduzenle", Menu},
+    CaptionRow{"mnutestfiltrele", "testfiltrele", Menu},
+    CaptionRow{"mnugrafik", "Grafik", Menu},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -186,8 +219,8 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows =
-    joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows, findRows);
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows,
+                                findRows, laboratoryRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -201,6 +234,10 @@ constexpr std::array toolTips{
     KeyedCaption{"keyopen", "isimsifrele"},
     KeyedCaption{"idpass", "listeduzenle"},
     KeyedCaption{"Exit", "cik"},
+    KeyedCaption{"exitt", "cik"},
+    KeyedCaption{"print", "yazdir"},
+    KeyedCaption{"pre", "Geri"},
+    KeyedCaption{"post", "ileri"},
     KeyedCaption{"Undo", "gerial"},
     KeyedCaption{"Cut", "Kes"},
     KeyedCaption{"Copy", "Kopyala"},
@@ -228,6 +265,9 @@ constexpr std::array toolTips{
     KeyedCaption{"resim", "Resim"},
     KeyedCaption{"film", "Film"},
     KeyedCaption{"dokum", "muayenedokumu"},
+    KeyedCaption{"filtre", "testfiltrele"},
+    KeyedCaption{"grafik", "Grafik"},
+    KeyedCaption{"testler", "testduzenle"},
 };
 
 constexpr std::array tabs{
@@ -254,6 +294,13 @@ constexpr std::array phrases{
     PhraseRow{"Lbulunan", Phrase::PatientCount},
     PhraseRow{"ButTemizle", Phrase::ClearFilters},
     PhraseRow{"ButDur", Phrase::Stop},
+    PhraseRow{"ComYazıcı", Phrase::PrinterName},
+    PhraseRow{"mnugörünüm", Phrase::View},
+    PhraseRow{"mnubüyüt", Phrase::ZoomIn},
+    PhraseRow{"mnuküçült", Phrase::ZoomOut},
+    PhraseRow{"mnusayfaeni", Phrase::FitWidth},
+    PhraseRow{"pageno", Phrase::PageNumber},
+    PhraseRow{"mnutümü", Phrase::AllResults},
 };
 
 }  // namespace

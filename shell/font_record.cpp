@@ -1,6 +1,5 @@
 #include "shell/font_record.h"
 
-#include "platform/files/setting_record.h"
 #include "platform/text/number.h"
 
 namespace shell {
@@ -14,6 +13,8 @@ forms::Colour colourOf(const std::string& decimal) {
              ? forms::fromBgr(static_cast<std::uint32_t>(*number))
              : 0;
 }
+
+}  // namespace
 
 forms::Font fontOf(const files::SettingRecord& record) {
   return {.name = record.fontName,
@@ -35,24 +36,31 @@ void setFont(files::SettingRecord& record, const forms::Font& font) {
   record.colour = std::to_string(forms::toBgr(font.colour));
 }
 
-}  // namespace
+platform::Result<files::SettingRecord> ayarKaydi(const Station& istasyon, int record) {
+  if (!istasyon.stores.settings)
+    return std::unexpected(
+        platform::Status(platform::Fault::Missing, "Data/setting.dat is not open"));
+  auto stored = istasyon.stores.settings->get(record);
+  if (!stored) return std::unexpected(stored.error());
+  return files::SettingRecord::decode(std::move(stored->buffer));
+}
+
+platform::Status ayarKaydiYaz(Station& istasyon, int record, const files::SettingRecord& content) {
+  if (!istasyon.stores.settings) return {platform::Fault::Missing, "Data/setting.dat is not open"};
+  return istasyon.stores.settings->put(record, content.encode());
+}
 
 void Setkayitlarioku(Station& istasyon, forms::Form& form, int record) {
-  if (!istasyon.stores.settings) return;
-  const auto stored = istasyon.stores.settings->get(record);
-  if (!stored) return;
-  const files::SettingRecord decoded = files::SettingRecord::decode(stored->buffer);
-  if (decoded.owner == form.name()) form.setFont(fontOf(decoded));
+  const auto stored = ayarKaydi(istasyon, record);
+  if (stored && stored->owner == form.name()) form.setFont(fontOf(*stored));
 }
 
 platform::Status setkayityaz(Station& istasyon, const forms::Form& form, int record) {
-  if (!istasyon.stores.settings) return {platform::Fault::Missing, "Data/setting.dat is not open"};
-  const auto stored = istasyon.stores.settings->get(record);
+  auto stored = ayarKaydi(istasyon, record);
   if (!stored) return stored.error();
-  files::SettingRecord decoded = files::SettingRecord::decode(stored->buffer);
-  decoded.owner = form.name();
-  setFont(decoded, form.font());
-  return istasyon.stores.settings->put(record, decoded.encode());
+  stored->owner = form.name();
+  setFont(*stored, form.font());
+  return ayarKaydiYaz(istasyon, record, *stored);
 }
 
 }  // namespace shell

@@ -32,7 +32,26 @@ enum class Phrase {
   CardsPassedOver,  // a number follows
   NobodyFound,
   SearchStopped,
-  ClearFilters
+  ClearFilters,
+  PrinterName,
+  SaveAsPdf,
+  NoPrinter,
+  View,
+  ZoomIn,
+  ZoomOut,
+  FitWidth,
+  PageNumber,
+  SampleHeading,  // of two lines
+  SamplePatient,
+  SampleText,
+  SampleSignature,  // of two lines
+  NoTests,
+  NoResults,
+  Trend,
+  NoTrend,
+  NotDrawnWithoutNumber,  // a number follows
+  NotDrawnOtherUnit,      // a number follows
+  AllResults
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -15,6 +15,10 @@
 #include "shell/screen_directory.h"
 #include "stores/stores.h"
 
+namespace page {
+class Printer;
+}
+
 namespace shell {
 
 struct Station {
@@ -52,7 +56,13 @@ struct Station {
   std::optional<text::DateTime> SeciliTarih;
   int SifreSonucu = 0;  // 1 when the password dialog accepted
 
+  std::string OnizlemeSonucu;  // "1" when the preview asks for printing
+  int SablonNo = 0;            // the template that the dialog of templates chose,
+  std::string SablonImzasi;    // and the signature
+
   stores::Stores stores;
+  // Where pages are printed; not owned. Null where nobody can print.
+  page::Printer* yazici = nullptr;
 
   // The list of the caller that opens the finder to pick addresses; null at all other times.
   std::vector<std::string>* AdresListesi = nullptr;

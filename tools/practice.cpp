@@ -13,6 +13,7 @@
 #include "shell/letterhead.h"
 #include "stores/value_list.h"
 #include "tools/exam_maker.h"
+#include "tools/lab_maker.h"
 #include "tools/visit_maker.h"
 #include "tools/word_lists.h"
 
@@ -34,10 +35,10 @@ Status addRow(dao::Recordset& rows, const Card& card) {
 }
 
 Card ledgerCard(const LedgerRow& row) {
-  return {{"Visit Numbers", row.numbers()},
+  return {{"Visit Numbers", row.numbers},
           {"spname", row.key},
-          {"Visit Count", row.visits.size()},
-          {"Last Visit Date", row.visits.back().date}};
+          {"Visit Count", row.count},
+          {"Last Visit Date", row.last}};
 }
 
 // Runs the work inside one transaction of each store.
@@ -58,7 +59,8 @@ class Filler {
       : stores_(stores),
         options_(options),
         visits_(~options.seed, options.reference),
-        exams_(options.seed ^ examSeed) {}
+        exams_(options.seed ^ examSeed),
+        laboratory_(options.seed + 1, options.reference) {}
 
   Status fill(const Progress& progress) {
     Random random(options_.seed);
@@ -71,10 +73,7 @@ class Filler {
       stored += size;
       if (progress) progress(stored);
     }
-    return inTransactions(stores_, [&] {
-      const Status added = addDoctors();
-      return added ? addListValues() : added;
-    });
+    return inTransactions(stores_, [&] { return addLists(); });
   }
 
  private:
@@ -89,18 +88,19 @@ class Filler {
   Status add(const Patient& patient) {
     if (Status added = addRow(stores_.personal.IDCard, patient.card); !added) return added;
     noteListValues(patient.card);
-    for (const LedgerRow& row : visits_.make(patient)) {
-      if (Status added = addVisits(patient, row); !added) return added;
+    for (const Visits& visits : visits_.make(patient)) {
+      if (Status added = addVisits(patient, visits); !added) return added;
     }
-    return warn(patient);
+    if (Status added = warn(patient); !added) return added;
+    return addLabWork(laboratory_.make(patient));
   }
 
-  Status addVisits(const Patient& patient, const LedgerRow& row) {
-    for (const Visit& visit : row.visits) {
+  Status addVisits(const Patient& patient, const Visits& visits) {
+    for (const Visit& visit : visits.days) {
       const Card record = exams_.make(patient, visit);
       if (Status added = addRow(stores_.clinical.PhysicalExam, record); !added) return added;
     }
-    return addRow(stores_.clinical.Visit, ledgerCard(row));
+    return addRow(stores_.clinical.Visit, ledgerCard(visits.ledger));
   }
 
   // Whoever is allergic is warned of.
@@ -111,10 +111,36 @@ class Filler {
                   {{"name", patient.person.name}, {"warn", remarks().front()}});
   }
 
+  Status addLists() {
+    if (Status added = addCatalogue(); !added) return added;
+    if (Status added = addDoctors(); !added) return added;
+    return addListValues();
+  }
+
   Status addDoctors() {
     for (const std::string_view doctor : examiners()) {
       if (Status added = addRow(stores_.clinical.Doctors, {{"Doctor", doctor}}); !added)
         return added;
+    }
+    return {};
+  }
+
+  Status addLabWork(const LabWork& work) {
+    if (work.values.empty()) return {};
+    for (const Card& value : work.values) {
+      if (Status added = addRow(stores_.clinical.Analyze, value); !added) return added;
+    }
+    return addRow(stores_.clinical.Visit, ledgerCard(work.ledger));
+  }
+
+  Status addCatalogue() {
+    for (const CatalogueTest& test : catalogueTests()) {
+      const Card card{{"Test", test.name},
+                      {"Unit", test.unit},
+                      {"Min", test.min},
+                      {"Max", test.max},
+                      {"Information", test.information}};
+      if (Status added = addRow(stores_.clinical.Tests, card); !added) return added;
     }
     return {};
   }
@@ -140,6 +166,7 @@ class Filler {
   const PracticeOptions& options_;
   VisitMaker visits_;
   ExamMaker exams_;
+  LabMaker laboratory_;
   std::map<std::string_view, std::set<std::string>> listValues_;
 };
 

@@ -41,6 +41,8 @@ class Host {
                                std::string_view value) = 0;
   // None of these when the user cancels.
   virtual std::optional<std::string> openFile(const FileRequest& request) = 0;
+  // Where to write; `folder` may name the file that is suggested. Asks before a file is replaced.
+  virtual std::optional<std::string> saveFile(const FileRequest& request) = 0;
   virtual std::optional<std::string> chooseFolder(std::string_view title,
                                                   std::string_view folder) = 0;
   virtual std::optional<forms::Font> chooseFont(const forms::Font& current) = 0;

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "app/start_up.h"
+#include "desktop/print/qt_printer.h"
 #include "desktop/qt_host.h"
 #include "desktop/text.h"
 #include "platform/settings/backend.h"
@@ -86,12 +87,14 @@ struct WindowDesk {
       : settings(std::make_unique<settings::MemoryBackend>()),
         screens(app::screens()),
         station({host, clock, settings, screens}, folder.path(), program) {
+    station.yazici = &printer;
     station.ayarYaz("Language", language);
     host.setWords([this](std::string_view key) { return shell::metinbul(station, key); });
   }
 
   TemporaryFolder folder;
   desktop::QtHost host{desktop::programViews()};
+  desktop::QtPrinter printer;
   FixedClock clock;
   settings::Settings settings;
   shell::ScreenDirectory screens;

@@ -73,6 +73,9 @@ class ScriptedHost : public host::Host {
   std::optional<std::string> openFile(const host::FileRequest& request) override {
     return take(files, request.title);
   }
+  std::optional<std::string> saveFile(const host::FileRequest& request) override {
+    return take(files, request.title);
+  }
   std::optional<std::string> chooseFolder(std::string_view title, std::string_view) override {
     return take(folders, title);
   }

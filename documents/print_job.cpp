@@ -1,0 +1,45 @@
+#include "documents/print_job.h"
+
+#include "documents/frm_preview1.h"
+#include "documents/frm_prewive.h"
+#include "documents/frm_printer.h"
+#include "platform/page/printer.h"
+#include "shell/phrases.h"
+
+namespace documents {
+
+namespace {
+
+template <class Preview>
+void show(shell::Station& istasyon, page::Pages pages) {
+  Preview preview(istasyon);
+  preview.sayfalariAl(std::move(pages));
+  preview.Load();
+  istasyon.host.showModal(preview);
+}
+
+}  // namespace
+
+bool yazdirilabilir(shell::Station& istasyon) {
+  if (istasyon.yazici != nullptr) return true;
+  istasyon.bilgi(phrase(istasyon, shell::Phrase::NoPrinter));
+  return false;
+}
+
+void sayfalariYazdir(shell::Station& istasyon, const std::string& title, const page::Pages& pages) {
+  FrmPrinter chooser(istasyon, title);
+  chooser.Load();
+  istasyon.host.showModal(chooser);
+  if (!chooser.hedef()) return;
+  const platform::Status printed = istasyon.yazici->print(title, *chooser.hedef(), pages);
+  if (!printed) istasyon.host.runtimeError(printed);
+}
+
+bool sayfalariGoster(shell::Station& istasyon, page::Pages pages) {
+  istasyon.OnizlemeSonucu.clear();
+  pages.pages.size() > 1 ? show<FrmPreview1>(istasyon, std::move(pages))
+                         : show<FrmPrewive>(istasyon, std::move(pages));
+  return istasyon.OnizlemeSonucu == printAsked;
+}
+
+}  // namespace documents
