@@ -51,6 +51,9 @@ constexpr auto names = std::to_array<IconName>({
     {"password", "dialog-password"},
     {"program", "user-identity"},
     {"invoice", "view-financial-list"},
+    {"filtre", "view-filter"},
+    {"grafik", "office-chart-line"},
+    {"testler", "view-list-details"},
     {"recete", "document-edit"},
     {"istem", "view-pim-tasks"},
     {"test", "view-list-details"},
@@ -67,9 +70,6 @@ constexpr auto names = std::to_array<IconName>({
     {"picture", "view-preview"},
     {"film", "tool-animator"},
     {"dokum", "view-pages-overview"},
-    {"filtre", "view-filter"},
-    {"grafik", "office-chart-line"},
-    {"testler", "view-list-details"},
 });
 
 // Behind the name of an image: the other one, filled, which says that there are records of that

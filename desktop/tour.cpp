@@ -109,9 +109,9 @@ class Tour {
     daysList();
     takeVariants(suffix);
     progress(suffix);
-    takeExaminations(suffix);
     istasyon_.SeciliHasta = patientWithResults();
     takeLaboratory(suffix);
+    takeExaminations(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     takeFinder(suffix);
     istasyon_.SeciliHasta.clear();

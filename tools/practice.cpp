@@ -35,10 +35,10 @@ Status addRow(dao::Recordset& rows, const Card& card) {
 }
 
 Card ledgerCard(const LedgerRow& row) {
-  return {{"Visit Numbers", row.numbers},
+  return {{"Visit Numbers", row.numbers()},
           {"spname", row.key},
-          {"Visit Count", row.count},
-          {"Last Visit Date", row.last}};
+          {"Visit Count", row.visits.size()},
+          {"Last Visit Date", row.visits.back().date}};
 }
 
 // Runs the work inside one transaction of each store.
@@ -59,8 +59,8 @@ class Filler {
       : stores_(stores),
         options_(options),
         visits_(~options.seed, options.reference),
-        exams_(options.seed ^ examSeed),
-        laboratory_(options.seed + 1, options.reference) {}
+        laboratory_(options.seed + 1, options.reference),
+        exams_(options.seed ^ examSeed) {}
 
   Status fill(const Progress& progress) {
     Random random(options_.seed);
@@ -73,7 +73,7 @@ class Filler {
       stored += size;
       if (progress) progress(stored);
     }
-    return inTransactions(stores_, [&] { return addLists(); });
+    return inTransactions(stores_, [&] { return addCatalogues(); });
   }
 
  private:
@@ -88,19 +88,19 @@ class Filler {
   Status add(const Patient& patient) {
     if (Status added = addRow(stores_.personal.IDCard, patient.card); !added) return added;
     noteListValues(patient.card);
-    for (const Visits& visits : visits_.make(patient)) {
-      if (Status added = addVisits(patient, visits); !added) return added;
+    for (const LedgerRow& row : visits_.make(patient)) {
+      if (Status added = addVisits(patient, row); !added) return added;
     }
-    if (Status added = warn(patient); !added) return added;
-    return addLabWork(laboratory_.make(patient));
+    if (Status added = addLabWork(laboratory_.make(patient)); !added) return added;
+    return warn(patient);
   }
 
-  Status addVisits(const Patient& patient, const Visits& visits) {
-    for (const Visit& visit : visits.days) {
+  Status addVisits(const Patient& patient, const LedgerRow& row) {
+    for (const Visit& visit : row.visits) {
       const Card record = exams_.make(patient, visit);
       if (Status added = addRow(stores_.clinical.PhysicalExam, record); !added) return added;
     }
-    return addRow(stores_.clinical.Visit, ledgerCard(visits.ledger));
+    return addRow(stores_.clinical.Visit, ledgerCard(row));
   }
 
   // Whoever is allergic is warned of.
@@ -111,18 +111,19 @@ class Filler {
                   {{"name", patient.person.name}, {"warn", remarks().front()}});
   }
 
-  Status addLists() {
-    if (Status added = addCatalogue(); !added) return added;
-    if (Status added = addDoctors(); !added) return added;
-    return addListValues();
-  }
-
   Status addDoctors() {
     for (const std::string_view doctor : examiners()) {
       if (Status added = addRow(stores_.clinical.Doctors, {{"Doctor", doctor}}); !added)
         return added;
     }
     return {};
+  }
+
+  // What every patient's screens offer.
+  Status addCatalogues() {
+    if (Status added = addDoctors(); !added) return added;
+    if (Status added = addTests(); !added) return added;
+    return addListValues();
   }
 
   Status addLabWork(const LabWork& work) {
@@ -133,7 +134,7 @@ class Filler {
     return addRow(stores_.clinical.Visit, ledgerCard(work.ledger));
   }
 
-  Status addCatalogue() {
+  Status addTests() {
     for (const CatalogueTest& test : catalogueTests()) {
       const Card card{{"Test", test.name},
                       {"Unit", test.unit},
@@ -165,8 +166,8 @@ class Filler {
   stores::Stores& stores_;
   const PracticeOptions& options_;
   VisitMaker visits_;
-  ExamMaker exams_;
   LabMaker laboratory_;
+  ExamMaker exams_;
   std::map<std::string_view, std::set<std::string>> listValues_;
 };
 

@@ -26,28 +26,29 @@ int secondSpeciality(const Patient& patient) {
 
 }  // namespace
 
-std::vector<Visits> VisitMaker::make(const Patient& patient) {
-  std::vector<Visits> all;
-  if (random_.percent(80)) all.push_back(visits(patient, general));
-  if (random_.percent(30)) all.push_back(visits(patient, secondSpeciality(patient)));
-  return all;
+std::vector<LedgerRow> VisitMaker::make(const Patient& patient) {
+  std::vector<LedgerRow> rows;
+  if (random_.percent(80)) rows.push_back(row(patient, general));
+  if (random_.percent(30)) rows.push_back(row(patient, secondSpeciality(patient)));
+  return rows;
 }
 
-Visits VisitMaker::visits(const Patient& patient, int speciality) {
+LedgerRow VisitMaker::row(const Patient& patient, int speciality) {
   const auto oldest =
       static_cast<std::size_t>(std::min(longestAgo, text::daysBetween(patient.birth, reference_)));
   std::vector<long> ago(1 + random_.ranked(9));
   for (long& days : ago) days = static_cast<long>(random_.ranked(oldest + 1));
   std::ranges::sort(ago, std::greater());
-  Visits made;
-  made.ledger.key = std::string(word(speciality)) + "\\" + patient.person.name;
-  made.ledger.count = static_cast<int>(ago.size());
-  for (const long days : ago) {
-    made.days.push_back({++lastNumber_, text::addDays(reference_, -days), speciality});
-    made.ledger.numbers += std::to_string(lastNumber_) + ";";
-  }
-  made.ledger.last = made.days.back().date;
+  LedgerRow made{std::string(word(speciality)) + "\\" + patient.person.name, {}};
+  for (const long days : ago)
+    made.visits.push_back({++lastNumber_, text::addDays(reference_, -days), speciality});
   return made;
+}
+
+std::string LedgerRow::numbers() const {
+  std::string text;
+  for (const Visit& visit : visits) text += std::to_string(visit.number) + ";";
+  return text;
 }
 
 }  // namespace tools

@@ -17,16 +17,10 @@ struct Visit {
 
 // One row of the table `Visit`.
 struct LedgerRow {
-  std::string key;      // the speciality's word, a backslash and the patient's name
-  std::string numbers;  // "12;13;"
-  int count = 0;
-  text::DateTime last;
-};
+  std::string key;            // the speciality's word, a backslash and the patient's name
+  std::vector<Visit> visits;  // by day
 
-// A patient's examinations under one speciality.
-struct Visits {
-  LedgerRow ledger;
-  std::vector<Visit> days;  // in their order
+  [[nodiscard]] std::string numbers() const;  // "12;13;"
 };
 
 // Numbers the visits of a practice as they come.
@@ -36,10 +30,10 @@ class VisitMaker {
       : random_(seed), reference_(reference) {}
 
   // Most patients have been here, some in a second speciality as well.
-  [[nodiscard]] std::vector<Visits> make(const Patient& patient);
+  [[nodiscard]] std::vector<LedgerRow> make(const Patient& patient);
 
  private:
-  [[nodiscard]] Visits visits(const Patient& patient, int speciality);
+  [[nodiscard]] LedgerRow row(const Patient& patient, int speciality);
 
   Random random_;
   text::DateTime reference_;
