@@ -2,6 +2,7 @@
 #pragma once
 
 #include <stdlib.h>
+#include <time.h>
 
 #include <algorithm>
 #include <chrono>
@@ -110,6 +111,19 @@ double timed(Work work) {
   const auto start = std::chrono::steady_clock::now();
   work();
   return Milliseconds(std::chrono::steady_clock::now() - start).count();
+}
+
+// The processor's time alone: the same however busy the machine is with other things.
+template <class Work>
+double busy(Work work) {
+  const auto now = [] {
+    timespec time{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+  };
+  const auto start = now();
+  work();
+  return Milliseconds(now() - start).count();
 }
 
 inline double median(std::vector<double> times) {

@@ -1,6 +1,6 @@
 // What the examination costs over the bare engine: each line compares the screen with the reads
-// that it cannot do without, made on the same file in turn; medians. The last lines measure work
-// that a user waits for. Usage: exam_bench [examinations]
+// that it cannot do without, made on the same file in turn; medians of the processor's time. The
+// last lines measure by the clock what a user waits for. Usage: exam_bench [examinations]
 #include <sqlite3.h>
 
 #include "bench/bench_desk.h"
@@ -107,8 +107,8 @@ void compare(const char* what, double goal, Ours ours, Raw raw) {
   std::vector<double> times;
   std::vector<double> bare;
   for (std::size_t round = 0; round < rounds; ++round) {
-    bare.push_back(timed(raw));
-    times.push_back(timed(ours));
+    bare.push_back(busy(raw));
+    times.push_back(busy(ours));
   }
   const double ratio = median(times) / median(bare);
   std::printf("%-58s %9.3f ms %9.3f ms %6.2f   (goal %.1f: %s)\n", what, median(times),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "documents/report_text.h"
 #include "platform/files/atomic_write.h"
 #include "platform/files/folders.h"
 #include "platform/richtext/rtf_writer.h"
@@ -12,7 +13,6 @@ namespace exam {
 namespace {
 
 constexpr auto folder = "Documents/Diseases";
-constexpr int usualSize = 10;
 constexpr int largerBy = 4;
 
 // What no file system minds.
@@ -36,9 +36,7 @@ std::filesystem::path freePath(const std::filesystem::path& parent, const std::s
 }  // namespace
 
 ExamListing::ExamListing(std::string patient, const forms::Font& font)
-    : patient_(std::move(patient)) {
-  if (!font.name.empty()) format_.font = font.name;
-  format_.halfPoints = 2 * (font.size > 0 ? font.size : usualSize);
+    : patient_(std::move(patient)), format_(documents::sayfaYazitipi(font)) {
   format_.bold = true;
   addLine(patient_, format_.halfPoints + 2 * largerBy);
   addLine({}, format_.halfPoints);

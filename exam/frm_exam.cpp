@@ -4,7 +4,6 @@
 #include "shell/captions.h"
 #include "shell/doctors.h"
 #include "shell/fees.h"
-#include "shell/font_record.h"
 #include "shell/list_completion.h"
 #include "shell/text_lookup.h"
 
@@ -31,7 +30,6 @@ FrmExam::FrmExam(shell::Station& station)
 }
 
 void FrmExam::alanlariHazirla() {
-  yazı.setVisible(false);
   for (forms::TextBox FrmExam::*field : pictureControls) {
     (this->*field).setVisible(false);
     (this->*field).Change.connect([this] { ResimVar(); });
@@ -49,18 +47,21 @@ std::span<const shell::FieldRow> FrmExam::alanlar() const {
   return examFields();
 }
 
-int FrmExam::yaziKaydi() const {
-  return shell::font_record::examination;
-}
-
 void FrmExam::Load() {
   std::vector<std::string> states;
   for (const char* key : maritalStates) states.push_back(metinbul(istasyon, key));
   ComMedeniDurum.setItems(std::move(states));
   shell::doktorlariYaz(istasyon, comdoktor);
   DatedRecordScreen::Load();
+  yazdirma.Setkayitlarioku();
   gunuSec();
   ilkAlan().setFocus();
+}
+
+// A font that cannot be kept is not worth a message.
+void FrmExam::Unload() {
+  yazdirma.setkayityaz().ignore();
+  DatedRecordScreen::Unload();
 }
 
 // Opened from a day's list: the latest record of that day.

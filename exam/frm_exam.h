@@ -6,17 +6,18 @@
 #include <optional>
 #include <string>
 
+#include "documents/print_menu.h"
 #include "exam/exam_speciality.h"
 #include "exam/exam_text.h"
 #include "platform/forms/button.h"
-#include "platform/forms/rich_text_box.h"
 #include "shell/dated_record_screen.h"
+#include "shell/font_record.h"
 
 namespace exam {
 
 class ExamListing;
 
-class FrmExam : public shell::DatedRecordScreen {
+class FrmExam : public shell::DatedRecordScreen, public documents::PrintedRecord {
  public:
   explicit FrmExam(shell::Station& istasyon);
 
@@ -119,12 +120,14 @@ class FrmExam : public shell::DatedRecordScreen {
   forms::TextBox txtp5{*this, "txtp5"};
   forms::TextBox txtp6{*this, "txtp6"};
   forms::TextBox txtmov{*this, "txtmov"};
-  forms::RichTextBox yazı{*this, "yazı"};  // where the record is composed
+  documents::PrintMenu yazdirma{
+      istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, shell::font_record::examination};
 
   // --- The protocol
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] std::string& yedek() override { return istasyon.MuayeneYedegi; }
   void Load() override;
+  void Unload() override;
   // The page that stood in front at the last closing comes to the front.
   void alanlaribosalt() override;
   dao::Status Forumalanlaritasi() override;
@@ -140,7 +143,11 @@ class FrmExam : public shell::DatedRecordScreen {
   void Ameliyataç();
 
   // The record on the screen as a text: captions and what stands behind them, nothing empty.
-  [[nodiscard]] richtext::Document Yazılar();
+  void Yazılar(documents::ReportText& yazı) override;
+  [[nodiscard]] std::string basilanIsim() const override { return lblisim.caption(); }
+  [[nodiscard]] std::string basilanTarih() const override { return txttarih.text(); }
+  void oniz() { yazdirma.oniz(); }
+  void Yazdır() { yazdirma.Yazdır(); }
 
   // The field that holds the column `Physical Exam6`: contraception in gynecology, else the neck.
   [[nodiscard]] forms::TextBox& boyunAlani() { return FKado.visible() ? txtkorunma : TxtBoyun; }
@@ -156,7 +163,6 @@ class FrmExam : public shell::DatedRecordScreen {
   void hastaDegisti() override;
   void basliklariYenile() override;
   [[nodiscard]] forms::Control& ilkAlan() override;
-  [[nodiscard]] int yaziKaydi() const override;
   bool tusBas(std::string_view key) override;
 
  private:
@@ -185,7 +191,6 @@ class FrmExam : public shell::DatedRecordScreen {
 
   [[nodiscard]] std::string ekrandaki(const shell::FieldRow& row);
   [[nodiscard]] std::string kayittaki(const shell::FieldRow& row);
-  [[nodiscard]] richtext::Document belge(const std::vector<ReportLine>& lines);
   void dokumYaz();
   void dokumeEkle(ExamListing& listing, const forms::ListItem& item);
   void dokumuSakla(ExamListing& listing);

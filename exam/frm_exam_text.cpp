@@ -6,7 +6,6 @@
 #include "platform/text/utf8.h"
 #include "shell/frm_progress.h"
 #include "shell/text_lookup.h"
-#include "shell/text_style.h"
 
 namespace exam {
 
@@ -32,31 +31,20 @@ std::string FrmExam::kayittaki(const shell::FieldRow& row) {
   return elsewhere ? std::string() : text::trim(tablo().Fields(row.column).text());
 }
 
-richtext::Document FrmExam::Yazılar() {
-  return belge(reportLines(istasyon, *this, [this](const auto& row) { return ekrandaki(row); }));
-}
-
-richtext::Document FrmExam::belge(const std::vector<ReportLine>& lines) {
-  const auto write = [this](const std::string& text) {
-    yazı.edit([&](richtext::Editor& editor) { editor.insert(text); });
-  };
-  for (const ReportLine& line : lines) {
-    shell::secyazitipi(*this, yazı);
-    write(line.caption + " : ");
-    shell::yazitipiayarla(*this, yazı);
-    write(line.value + "\n");
-  }
-  richtext::Document text = yazı.editor().document();
-  yazı.edit([](richtext::Editor& editor) { editor.load({}); });
-  return text;
+void FrmExam::Yazılar(documents::ReportText& yazı) {
+  const auto shown = [this](const shell::FieldRow& row) { return ekrandaki(row); };
+  for (const ReportLine& line : reportLines(istasyon, *this, shown))
+    yazı.alan(line.caption, line.value);
 }
 
 void FrmExam::dokumeEkle(ExamListing& listing, const forms::ListItem& item) {
   if (!tablo().Seek("=", item.data) || tablo().NoMatch()) return;
+  const auto stored = [this](const shell::FieldRow& row) { return kayittaki(row); };
+  documents::ReportText record(font());
+  for (const ReportLine& line : reportLines(istasyon, *this, stored))
+    record.alan(line.caption, line.value);
   const std::string doctor = tablo().Fields("Doctor").text();
-  listing.add(
-      doctor.empty() ? item.text : item.text + "   " + doctor,
-      belge(reportLines(istasyon, *this, [this](const auto& row) { return kayittaki(row); })));
+  listing.add(doctor.empty() ? item.text : item.text + "   " + doctor, record.document());
 }
 
 // The records are those that are stored, whatever is on the screen. A listing that was stopped

@@ -226,6 +226,7 @@ constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
     KeyedCaption{"Save", "Kaydet"},
     KeyedCaption{"Delete", "Sil"},
+    KeyedCaption{"Print", "yazdir"},
     KeyedCaption{"Geri", "Geri"},
     KeyedCaption{"ileri", "ileri"},
     KeyedCaption{"Find", "Bul"},

@@ -31,7 +31,8 @@ constexpr std::array<Button, 9> buttons{{
 
 void vizitDugmeleri(Station& istasyon, forms::Toolbar& toolbar, std::string_view patient) {
   for (const Button& button : buttons) {
-    if (toolbar.button(button.key) == nullptr) continue;
+    const forms::ToolButton* const shown = toolbar.button(button.key);
+    if (shown == nullptr || !shown->visible) continue;
     const bool any =
         !patient.empty() &&
         stores::hasLedgerRow(istasyon.stores.clinical.Visit,

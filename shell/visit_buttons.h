@@ -8,8 +8,7 @@
 
 namespace shell {
 
-// Each button takes the image of its kind with or without a row in the visit ledger; a toolbar has
-// those of the buttons that it needs.
+// Each button that is seen takes the image of its kind with or without a row in the visit ledger.
 void vizitDugmeleri(Station& istasyon, forms::Toolbar& toolbar, std::string_view patient);
 
 }  // namespace shell

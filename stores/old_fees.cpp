@@ -2,6 +2,7 @@
 
 #include <array>
 #include <limits>
+#include <utility>
 
 #include "platform/text/number.h"
 
@@ -44,7 +45,8 @@ class ColumnConversion {
         table_(bracketed(at.table)),
         select_("SELECT [Count], " + column_ + " FROM " + table_ + " WHERE [Count] > ? AND " +
                 column_ + " <> '' ORDER BY [Count] LIMIT ?"),
-        update_("UPDATE " + table_ + " SET " + column_ + " = ? WHERE [Count] = ?") {}
+        update_("UPDATE " + table_ + " SET " + column_ +
+                " = j.value FROM json_each(?) AS j WHERE [Count] = CAST(j.key AS INTEGER)") {}
 
   dao::Result<std::int64_t> run() {
     std::int64_t last = std::numeric_limits<std::int64_t>::min();
@@ -52,20 +54,30 @@ class ColumnConversion {
       auto rows = clinical_.OpenRecordset(select_, {last, rowsAtOnce});
       if (!rows) return std::unexpected(rows.error());
       if (rows->empty()) return changed_;
-      for (; !rows->Eof(); rows->MoveNext().ignore()) {
-        last = rows->Fields(0).Value().integer();
-        if (dao::Status done = convert(last, rows->Fields(1).view()); !done)
-          return std::unexpected(done);
-      }
+      last = gather(*rows);
+      if (dao::Status done = writeGathered(); !done) return std::unexpected(done);
     }
   }
 
  private:
-  dao::Status convert(std::int64_t number, std::string_view amount) {
-    if (!isOldAmount(amount)) return {};
-    const auto changed = clinical_.Execute(update_, {newAmount(amount), number});
+  // The number of the last row.
+  std::int64_t gather(dao::Recordset& rows) {
+    std::int64_t number = 0;
+    for (; !rows.Eof(); rows.MoveNext().ignore()) {
+      number = rows.Fields(0).Value().integer();
+      const std::string_view amount = rows.Fields(1).view();
+      if (!isOldAmount(amount)) continue;
+      gathered_.append(gathered_.empty() ? "{\"" : ",\"").append(std::to_string(number));
+      gathered_.append("\":\"").append(newAmount(amount)).append("\"");
+    }
+    return number;
+  }
+
+  dao::Status writeGathered() {
+    if (gathered_.empty()) return {};
+    const auto changed = clinical_.Execute(update_, {std::exchange(gathered_, {}) + "}"});
     if (!changed) return changed.error();
-    ++changed_;
+    changed_ += *changed;
     return {};
   }
 
@@ -74,6 +86,7 @@ class ColumnConversion {
   std::string table_;
   std::string select_;
   std::string update_;
+  std::string gathered_;  // new amounts by the number of their row, as the engine's object
   std::int64_t changed_ = 0;
 };
 
