@@ -16,7 +16,7 @@ struct IconName {
   const char* theme;
 };
 
-constexpr std::array<IconName, 37> names{{
+constexpr auto names = std::to_array<IconName>({
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
@@ -54,7 +54,7 @@ constexpr std::array<IconName, 37> names{{
     {"filtre", "view-filter"},
     {"grafik", "office-chart-line"},
     {"testler", "view-list-details"},
-}};
+});
 
 // The image that says that there are records of that kind is the other one, filled.
 struct FilledName {

@@ -36,15 +36,15 @@ ViewRegistry programViews() {
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);
   views.add("FrmFind", findView);
+  views.add("frmpattern", patternView);
+  views.add("frmprewive", prewiveView);
+  views.add("frmpreview1", preview1View);
+  views.add("frmprinter", printerView);
   views.add("frmtest", testResultsView);
   views.add("frmtestedit", testCatalogueView);
   views.add("frmdemand", testRequestView);
   views.add("frmtestfilter", testFilterView);
   views.add("frmtesttrend", testTrendView);
-  views.add("frmpattern", patternView);
-  views.add("frmprewive", prewiveView);
-  views.add("frmpreview1", preview1View);
-  views.add("frmprinter", printerView);
   return views;
 }
 

@@ -8,21 +8,20 @@
 
 namespace documents {
 
-PrintMenu::PrintMenu(shell::Station& istasyon, forms::MenuItem& dosya, PrintedRecord& record,
+PrintMenu::PrintMenu(shell::Station& istasyon, PrintEntries entries, PrintedRecord& record,
                      int ayarKaydi)
-    : mnuşablon(dosya, "mnuşablon"),
-      mnuonizleme(dosya, "mnuonizleme"),
-      mnuyazdır(dosya, "mnuyazdır"),
-      lblsablonno(dosya.form(), "lblsablonno"),
+    : lblsablonno(entries.mnuyazdır.form(), "lblsablonno"),
       istasyon_(istasyon),
-      form_(dosya.form()),
+      form_(entries.mnuyazdır.form()),
       record_(record),
       ayarKaydi_(ayarKaydi) {
-  mnuyazdır.setShortcut("Ctrl+P");
   lblsablonno.setCaption("0");
-  mnuşablon.Click.connect([this] { sablonSec(); });
-  mnuonizleme.Click.connect([this] { oniz(); });
-  mnuyazdır.Click.connect([this] { Yazdır(); });
+  lblsablonno.setVisible(false);
+  for (forms::MenuItem* entry : {&entries.mnuşablon, &entries.mnuonizleme, &entries.mnuyazdır})
+    entry->setVisible(true);
+  entries.mnuşablon.Click.connect([this] { sablonSec(); });
+  entries.mnuonizleme.Click.connect([this] { oniz(); });
+  entries.mnuyazdır.Click.connect([this] { Yazdır(); });
 }
 
 void PrintMenu::Setkayitlarioku() {
@@ -41,11 +40,6 @@ platform::Status PrintMenu::setkayityaz() {
   stored->templateNumber = static_cast<std::int16_t>(text::Val(lblsablonno.caption()));
   stored->signature = imza_;
   return shell::ayarKaydiYaz(istasyon_, ayarKaydi_, *stored);
-}
-
-void PrintMenu::etkinlestir(bool enabled) {
-  mnuonizleme.setEnabled(enabled);
-  mnuyazdır.setEnabled(enabled);
 }
 
 void PrintMenu::sablonSec() {

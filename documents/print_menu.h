@@ -1,6 +1,6 @@
-// What a screen needs to print its record: the three menu entries, the template and the signature.
-// A screen implements PrintedRecord, has a PrintMenu as a member behind its file menu, and calls
-// Setkayitlarioku() when it is loaded and setkayityaz() when it is unloaded.
+// What a screen needs to print its record: the work of its three menu entries, the template and the
+// signature. A screen implements PrintedRecord, has a PrintMenu as a member behind its entries, and
+// calls Setkayitlarioku() when it is loaded and setkayityaz() when it is unloaded.
 #pragma once
 
 #include <string>
@@ -25,22 +25,23 @@ class PrintedRecord {
   [[nodiscard]] virtual std::string basilanTarih() const = 0;
 };
 
+// The entries of the screen: every record screen has them, hidden until a PrintMenu serves them.
+struct PrintEntries {
+  forms::MenuItem& mnuşablon;
+  forms::MenuItem& mnuonizleme;
+  forms::MenuItem& mnuyazdır;
+};
+
 class PrintMenu {
  public:
   // `ayarKaydi` is the number of the screen's record in Data/setting.dat.
-  PrintMenu(shell::Station& istasyon, forms::MenuItem& dosya, PrintedRecord& record, int ayarKaydi);
+  PrintMenu(shell::Station& istasyon, PrintEntries entries, PrintedRecord& record, int ayarKaydi);
 
-  forms::MenuItem mnuşablon;
-  forms::MenuItem mnuonizleme;
-  forms::MenuItem mnuyazdır;
   forms::Label lblsablonno;
 
   // Font, template and signature of the screen, from its record and back.
   void Setkayitlarioku();
   platform::Status setkayityaz();
-  // Preview and print follow mnuyeni.
-  void etkinlestir(bool enabled);
-
   void oniz();
   void Yazdır();
 

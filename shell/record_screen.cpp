@@ -46,8 +46,7 @@ void RecordScreen::menuleriBagla() {
   mnukes.Click.connect([this] { istasyon.host.sendKeys("+{DELETE}"); });
   mnukopyala.Click.connect([this] { istasyon.host.sendKeys("^{INSERT}"); });
   mnuyapıştır.Click.connect([this] { istasyon.host.sendKeys("+{INSERT}"); });
-  const bool pages = istasyon.screens.has("frmprewive");
-  for (forms::MenuItem* entry : {&çizgi1, &mnuonizleme, &mnuyazdır}) entry->setVisible(pages);
+  for (forms::MenuItem* entry : {&mnuşablon, &mnuonizleme, &mnuyazdır}) entry->setVisible(false);
 }
 
 void RecordScreen::tusGrubu(std::initializer_list<const char*> keys) {

@@ -63,13 +63,14 @@ class RecordScreen : public forms::Form {
   // Without the marks that tell namesakes apart.
   [[nodiscard]] static std::string sisim(std::string_view name);
 
-  // The menus and the toolbar that every record screen has. Preview and print are there when the
-  // program has pages.
+  // The menus and the toolbar that every record screen has. Template, preview and print are shown
+  // by a screen that prints.
   forms::MenuItem MnuDosya{*this, "MnuDosya"};
   forms::MenuItem mnuyeni{MnuDosya, "mnuyeni"};
   forms::MenuItem mnukaydet{MnuDosya, "mnukaydet"};
   forms::MenuItem mnusil{MnuDosya, "mnusil"};
   forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
+  forms::MenuItem mnuşablon{MnuDosya, "mnuşablon"};
   forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
   forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
   forms::MenuItem çizgi2{MnuDosya, "çizgi2", forms::MenuKind::Separator};

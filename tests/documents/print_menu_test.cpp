@@ -29,7 +29,10 @@ struct FrmEcho : forms::Form, documents::PrintedRecord {
 
   shell::Station& istasyon;
   forms::MenuItem MnuDosya{*this, "MnuDosya"};
-  documents::PrintMenu baski{istasyon, MnuDosya, *this, 16};
+  forms::MenuItem mnuşablon{MnuDosya, "mnuşablon"};
+  forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
+  forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
+  documents::PrintMenu baski{istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, 16};
 };
 
 void chooseFirstPrinter(forms::Form& form) {
@@ -48,7 +51,7 @@ TEST(PrintMenu, PreviewAndPrintShowTheSamePage) {
     preview.mnuyazdır.press();
   };
   desk.host.modal["frmprinter"] = chooseFirstPrinter;
-  echo.baski.mnuonizleme.press();
+  echo.mnuonizleme.press();
   EXPECT_EQ(seen, (Lines{"567,780 Tanı : ", "1267,780 astım"}));
   ASSERT_EQ(desk.printer.jobs.size(), 1u);
   EXPECT_EQ(texts(desk.printer.jobs[0].pages.pages[0]), seen);
@@ -64,7 +67,7 @@ TEST(PrintMenu, APreviewThatIsOnlyClosedPrintsNothing) {
   desk.host.modal["frmprewive"] = [](forms::Form& form) {
     dynamic_cast<documents::FrmPrewive&>(form).mnucik.press();
   };
-  echo.baski.mnuonizleme.press();
+  echo.mnuonizleme.press();
   EXPECT_TRUE(desk.printer.jobs.empty());
 }
 
@@ -93,7 +96,7 @@ TEST(PrintMenu, TheTemplateIsKeptInTheScreensOwnRecord) {
     pattern.imzaFontu({.name = "Arial", .size = 20});
     pattern.buttamam.press();
   };
-  echo.baski.mnuşablon.press();
+  echo.mnuşablon.press();
   EXPECT_EQ(echo.baski.lblsablonno.caption(), "7");
   ASSERT_TRUE(echo.baski.setkayityaz().ok());
 
@@ -116,7 +119,7 @@ TEST(PrintMenu, CancellingTheDialogOfTemplatesChangesNothing) {
     pattern.List1.setListIndex(3);
     pattern.Butİptal.press();
   };
-  echo.baski.mnuşablon.press();
+  echo.mnuşablon.press();
   EXPECT_EQ(echo.baski.lblsablonno.caption(), "0");
 }
 
