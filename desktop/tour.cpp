@@ -9,6 +9,7 @@
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
+#include "desktop/tour_exam.h"
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
 #include "shell/frm_progress.h"
@@ -58,7 +59,8 @@ class Album {
 
 forms::TabStrip* tabsOf(const forms::Form& form) {
   for (forms::Control* control : form.controls()) {
-    if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) return strip;
+    auto* const strip = dynamic_cast<forms::TabStrip*>(control);
+    if (strip != nullptr && strip->visible()) return strip;
   }
   return nullptr;
 }
@@ -109,6 +111,7 @@ class Tour {
     progress(suffix);
     istasyon_.SeciliHasta = patientWithResults();
     takeLaboratory(suffix);
+    takeExaminations(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     takeFinder(suffix);
     istasyon_.SeciliHasta.clear();
@@ -174,6 +177,32 @@ class Tour {
     progress(QStringLiteral("-dark") + suffix);
     applyAppearance(shade);
     takeEnlarged(window, suffix);
+  }
+
+  void takeExaminations(const QString& suffix) {
+    for (const char* program :
+         {"General Medicine", "Gynecology", "Ophthalmology", "ENT", "Cardiology"}) {
+      const SampleExam sample(host_, istasyon_, program);
+      takeForm(sample.form(), QLatin1Char('-') + QLatin1String(program), suffix);
+    }
+  }
+
+  // As usual, as small as windows get, dark, enlarged.
+  void takeForm(forms::Form& form, const QString& name, const QString& suffix) {
+    QWidget& window = *host_.windowOf(form);
+    window.resize(usualSize);
+    takeTabs(album_, host_, form, name + suffix);
+    window.resize(smallestSize);
+    takeTabs(album_, host_, form, name + QStringLiteral("-1024x700") + suffix);
+    window.resize(usualSize);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    takeTabs(album_, host_, form, name + QStringLiteral("-dark") + suffix);
+    applyAppearance(shade);
+    withLargeFont([&] {
+      window.resize(usualSize * enlarged);
+      takeTabs(album_, host_, form, name + QStringLiteral("-150") + suffix);
+    });
   }
 
   // The filters and what they find; the finder opens over the card, in all its looks.

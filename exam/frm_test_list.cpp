@@ -21,9 +21,8 @@ namespace {
 std::string valueLine(const stores::Analysis& analysis) {
   std::string line = text::trim(isaretli(analysis.result, analysis.min, analysis.max));
   if (!analysis.unit.empty()) line += " " + analysis.unit;
-  if (!analysis.min.empty() || !analysis.max.empty())
-    line += "   (" + analysis.min + " - " + analysis.max + ")";
-  return line;
+  const std::string range = aralik(analysis.min, analysis.max);
+  return range.empty() ? line : line + "   (" + range + ")";
 }
 
 }  // namespace

@@ -12,8 +12,10 @@
 #include "platform/richtext/rtf_writer.h"
 #include "shell/letterhead.h"
 #include "stores/value_list.h"
+#include "tools/exam_maker.h"
 #include "tools/lab_maker.h"
 #include "tools/visit_maker.h"
+#include "tools/word_lists.h"
 
 namespace tools {
 
@@ -22,6 +24,7 @@ namespace {
 using dao::Status;
 
 constexpr std::size_t patientsOfTransaction = 5000;
+constexpr std::uint64_t examSeed = 0x65786D;
 
 Status addRow(dao::Recordset& rows, const Card& card) {
   if (Status added = rows.AddNew(); !added) return added;
@@ -32,10 +35,10 @@ Status addRow(dao::Recordset& rows, const Card& card) {
 }
 
 Card ledgerCard(const LedgerRow& row) {
-  return {{"Visit Numbers", row.numbers},
+  return {{"Visit Numbers", row.numbers()},
           {"spname", row.key},
-          {"Visit Count", row.count},
-          {"Last Visit Date", row.last}};
+          {"Visit Count", row.visits.size()},
+          {"Last Visit Date", row.visits.back().date}};
 }
 
 // Runs the work inside one transaction of each store.
@@ -56,7 +59,8 @@ class Filler {
       : stores_(stores),
         options_(options),
         visits_(~options.seed, options.reference),
-        laboratory_(options.seed + 1, options.reference) {}
+        laboratory_(options.seed + 1, options.reference),
+        exams_(options.seed ^ examSeed) {}
 
   Status fill(const Progress& progress) {
     Random random(options_.seed);
@@ -69,7 +73,7 @@ class Filler {
       stored += size;
       if (progress) progress(stored);
     }
-    return inTransactions(stores_, [&] { return addCatalogue(); });
+    return inTransactions(stores_, [&] { return addCatalogues(); });
   }
 
  private:
@@ -85,9 +89,41 @@ class Filler {
     if (Status added = addRow(stores_.personal.IDCard, patient.card); !added) return added;
     noteListValues(patient.card);
     for (const LedgerRow& row : visits_.make(patient)) {
-      if (Status added = addRow(stores_.clinical.Visit, ledgerCard(row)); !added) return added;
+      if (Status added = addVisits(patient, row); !added) return added;
     }
-    return addLabWork(laboratory_.make(patient));
+    if (Status added = addLabWork(laboratory_.make(patient)); !added) return added;
+    return warn(patient);
+  }
+
+  Status addVisits(const Patient& patient, const LedgerRow& row) {
+    for (const Visit& visit : row.visits) {
+      const Card record = exams_.make(patient, visit);
+      if (Status added = addRow(stores_.clinical.PhysicalExam, record); !added) return added;
+    }
+    return addRow(stores_.clinical.Visit, ledgerCard(row));
+  }
+
+  // Whoever is allergic is warned of.
+  Status warn(const Patient& patient) {
+    const auto notes = std::ranges::find(patient.card, "Notes", &Entry::column);
+    if (notes == patient.card.end() || notes->value.text() != remarks().front()) return {};
+    return addRow(stores_.clinical.tblWarn,
+                  {{"name", patient.person.name}, {"warn", remarks().front()}});
+  }
+
+  Status addDoctors() {
+    for (const std::string_view doctor : examiners()) {
+      if (Status added = addRow(stores_.clinical.Doctors, {{"Doctor", doctor}}); !added)
+        return added;
+    }
+    return {};
+  }
+
+  // What every patient's screens offer.
+  Status addCatalogues() {
+    if (Status added = addDoctors(); !added) return added;
+    if (Status added = addTests(); !added) return added;
+    return addListValues();
   }
 
   Status addLabWork(const LabWork& work) {
@@ -98,7 +134,7 @@ class Filler {
     return addRow(stores_.clinical.Visit, ledgerCard(work.ledger));
   }
 
-  Status addCatalogue() {
+  Status addTests() {
     for (const CatalogueTest& test : catalogueTests()) {
       const Card card{{"Test", test.name},
                       {"Unit", test.unit},
@@ -107,7 +143,7 @@ class Filler {
                       {"Information", test.information}};
       if (Status added = addRow(stores_.clinical.Tests, card); !added) return added;
     }
-    return addListValues();
+    return {};
   }
 
   // A save of the card adds the blank value of an empty field to its list, too.
@@ -131,6 +167,7 @@ class Filler {
   const PracticeOptions& options_;
   VisitMaker visits_;
   LabMaker laboratory_;
+  ExamMaker exams_;
   std::map<std::string_view, std::set<std::string>> listValues_;
 };
 

@@ -16,6 +16,7 @@
 #include "shell/age.h"
 #include "shell/letterhead.h"
 #include "stores/value_list.h"
+#include "stores/visit_ledger.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/card_maker.h"
 
@@ -194,10 +195,18 @@ TEST_F(PracticeTest, LedgerRowsBelongToPatientsAndCountTheirVisits) {
     EXPECT_GE(*last, birth.value_or(*last));
   }
   EXPECT_EQ(numbers.size(), total) << "a visit is listed twice";
+  EXPECT_EQ(shared_->stores.clinical.PhysicalExam.RecordCount(),
+            static_cast<std::int64_t>(total) - values);
   EXPECT_GT(total, patients);
   EXPECT_EQ(shared_->stores.clinical.Analyze.RecordCount(), values);
   EXPECT_GT(values, 0);
   EXPECT_GE(shared_->stores.clinical.Tests.RecordCount(), 40);
+}
+
+TEST_F(PracticeTest, TheLedgerIsTheOneThatTheRecordsGive) {
+  const auto before = rowsOf(shared_->stores.clinical.Visit);
+  ASSERT_TRUE(stores::vizitolustur(shared_->stores.clinical));
+  EXPECT_EQ(rowsOf(shared_->stores.clinical.Visit), before);
 }
 
 TEST_F(PracticeTest, HasALetterhead) {
