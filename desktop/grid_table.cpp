@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "desktop/layout.h"
+
 namespace desktop {
 
 GridTable::GridTable(QWidget* parent) : HintTable(parent) {
@@ -18,7 +20,15 @@ GridTable::GridTable(QWidget* parent) : HintTable(parent) {
 
 void GridTable::changeEvent(QEvent* event) {
   HintTable::changeEvent(event);
-  if (event->type() == QEvent::FontChange) resizeColumnsToContents();
+  if (event->type() == QEvent::FontChange) fitColumns();
+}
+
+void GridTable::fitColumns() {
+  if (model() == nullptr) return;
+  resizeColumnsToContents();
+  for (int column = 0; column < model()->columnCount(); ++column) {
+    if (!isColumnHidden(column)) setColumnWidth(column, columnWidth(column) + gap::large);
+  }
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {

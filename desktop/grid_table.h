@@ -10,6 +10,9 @@ class GridTable : public HintTable {
  public:
   explicit GridTable(QWidget* parent = nullptr);
 
+  // To their texts, with some room between them.
+  void fitColumns();
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;

@@ -7,13 +7,16 @@
 
 namespace exam {
 
+namespace {
+constexpr const char* letterheadNameAndDate = "3";
+}
+
 FrmDemand::FrmDemand(shell::Station& station) : TestCatalogueScreen(station, "frmdemand") {
   lblisim.setVisible(false);
   tusGrubu({"New", "Save", "Delete"});
-  if (mnuyazdır.visible()) tusGrubu({"Print"});
+  if (istasyon.screens.has("frmprewive")) tusGrubu({"Print"});
   tbToolBar.addButton("Exit", "Exit");
-  mnuonizleme.Click.connect([this] { tetkikyazdir(Output::Preview); });
-  mnuyazdır.Click.connect([this] { tetkikyazdir(Output::Printer); });
+  baski.lblsablonno.setCaption(letterheadNameAndDate);
   txtistem.Change.connect([this] { tuskontrol(); });
   buttasi.Click.connect([this] { istemetestekle(); });
   Lsttest.DblClick.connect([this] { istemetestekle(); });
@@ -48,21 +51,11 @@ void FrmDemand::istemetestekle() {
   alanlaribosalt();
 }
 
-void FrmDemand::tetkikyazdir(Output output) {
-  constexpr int letterheadNameAndDate = 3;
-  documents::ReportText body(font());
-  body.secyazitipi();
-  body.yaz(metinbul(istasyon, "istem") + "\n\n");
-  body.yazitipiayarla();
-  body.yaz(txtistem.text());
-  bas(istasyon,
-      {.isim = lblisim.caption(),
-       .tarih = text::shortDate(istasyon.clock.today()),
-       .sablon = letterheadNameAndDate,
-       .imza = {},
-       .yazitipi = font(),
-       .govde = body.document()},
-      output);
+void FrmDemand::Yazılar(documents::ReportText& yazı) {
+  yazı.secyazitipi();
+  yazı.yaz(metinbul(istasyon, "istem") + "\n\n");
+  yazı.yazitipiayarla();
+  yazı.yaz(txtistem.text());
 }
 
 void FrmDemand::aktar() {

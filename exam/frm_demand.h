@@ -1,7 +1,7 @@
 // The screen on which a request is composed from the catalogue of laboratory tests.
 #pragma once
 
-#include "exam/lab_print.h"
+#include "documents/print_menu.h"
 #include "exam/test_catalogue_screen.h"
 #include "platform/forms/button.h"
 
@@ -9,7 +9,9 @@ namespace exam {
 
 // The caller empties Station::AktarilanMetin before it opens the screen, and finds the request
 // there when it was accepted.
-class FrmDemand : public TestCatalogueScreen {
+class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
+  static constexpr int noRecord = 0;
+
  public:
   explicit FrmDemand(shell::Station& istasyon);
 
@@ -23,8 +25,15 @@ class FrmDemand : public TestCatalogueScreen {
   // Adds the test on the screen to the request, after a question when it is there already.
   void istemetestekle();
 
-  // The request on paper: heading, patient, text.
-  void tetkikyazdir(Output output);
+  // The request on paper: heading, patient, text. It has no settings record: its template and
+  // signature are chosen anew each time.
+  documents::PrintMenu baski{istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, noRecord};
+  void tetkikyazdir() { baski.Yazdır(); }
+  void Yazılar(documents::ReportText& yazı) override;
+  [[nodiscard]] std::string basilanIsim() const override { return lblisim.caption(); }
+  [[nodiscard]] std::string basilanTarih() const override {
+    return text::shortDate(istasyon.clock.today());
+  }
 
   void Load() override;
   void tuskontrol() override;

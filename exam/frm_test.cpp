@@ -7,7 +7,6 @@
 #include "exam/result_mark.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
-#include "shell/font_record.h"
 #include "shell/list_completion.h"
 #include "shell/record_date.h"
 #include "shell/text_lookup.h"
@@ -30,7 +29,7 @@ FrmTest::FrmTest(shell::Station& station) : RecordScreen(station, "frmtest") {
   for (const int column : {result_column::result, result_column::min, result_column::max})
     msgrid1.setColumnAlign(column, forms::ColumnAlign::Right);
   tusGrubu({"New", "Save", "Delete"});
-  if (mnuyazdır.visible()) tusGrubu({"Print"});
+  if (istasyon.screens.has("frmprewive")) tusGrubu({"Print"});
   tusGrubu({"filtre", "grafik", "testler"});
   tbToolBar.addButton("Exit", "Exit");
   alanlariBagla();
@@ -39,8 +38,6 @@ FrmTest::FrmTest(shell::Station& station) : RecordScreen(station, "frmtest") {
 
 void FrmTest::olaylariBagla() {
   mnuyeni.Click.connect([this] { Yeni(); });
-  mnuonizleme.Click.connect([this] { tetkikleriyazdır(Output::Preview); });
-  mnuyazdır.Click.connect([this] { tetkikleriyazdır(Output::Printer); });
   mnutestfiltrele.Click.connect([this] { filtreAc(); });
   mnutümü.Click.connect([this] { VAnalizleriyaz(); });
   mnugrafik.Click.connect([this] { grafikAc(); });
@@ -68,17 +65,19 @@ std::span<const shell::FieldRow> FrmTest::alanlar() const {
   return rows;
 }
 
-int FrmTest::yaziKaydi() const {
-  return shell::font_record::laboratory;
-}
-
 void FrmTest::Load() {
   alanGenislikleri(istasyon.stores.clinical.database, laboratory.table);
   RecordScreen::Load();
+  baski.Setkayitlarioku();
   Testlistele();
   sbDurum.setPanel(2, text::shortDate(istasyon.clock.today()));
   if (lblisim.caption() == istasyon.SeciliHasta) return hastaDegisti();
   lblisim.setCaption(istasyon.SeciliHasta);
+}
+
+void FrmTest::Unload() {
+  RecordScreen::Unload();
+  baski.setkayityaz().ignore();
 }
 
 void FrmTest::hastaDegisti() {

@@ -5,11 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "documents/print_menu.h"
 #include "exam/analysis_filter.h"
-#include "exam/lab_print.h"
 #include "platform/forms/grid.h"
 #include "platform/forms/label.h"
 #include "platform/forms/list_control.h"
+#include "shell/font_record.h"
 #include "shell/record_screen.h"
 #include "stores/analyses.h"
 
@@ -27,7 +28,7 @@ inline constexpr int number = 6;
 inline constexpr int count = 7;
 }  // namespace result_column
 
-class FrmTest : public shell::RecordScreen {
+class FrmTest : public shell::RecordScreen, public documents::PrintedRecord {
  public:
   explicit FrmTest(shell::Station& istasyon);
 
@@ -49,6 +50,9 @@ class FrmTest : public shell::RecordScreen {
   forms::ListBox Lstkn{*this, "Lstkn"};        // the numbers of the patient's values
   forms::TextBox txtcount{*this, "txtcount"};  // empty for a value that was never saved
 
+  documents::PrintMenu baski{
+      istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, shell::font_record::laboratory};
+
   // Stores the value and its ledger row, both or neither; the fields are free for the next value.
   void Kaydet() override;
   void Sil() override;
@@ -61,8 +65,13 @@ class FrmTest : public shell::RecordScreen {
   void VAnalizleriyaz();
   // Fills it with those that fit; Lstkn keeps the numbers of the chosen tests.
   void filtreliYaz(const AnalysisFilter& filter);
-  // The values in the grid on paper, with the template and the signature of this screen.
-  void tetkikleriyazdır(Output output);
+  // The values in the grid on paper, the latest day first, each with its mark, unit and range.
+  void tetkikleriyazdır() { baski.Yazdır(); }
+  void Yazılar(documents::ReportText& yazı) override;
+  [[nodiscard]] std::string basilanIsim() const override { return lblisim.caption(); }
+  [[nodiscard]] std::string basilanTarih() const override {
+    return text::shortDate(istasyon.clock.today());
+  }
   // The tests of the catalogue.
   void Testlistele();
 
@@ -71,13 +80,13 @@ class FrmTest : public shell::RecordScreen {
   [[nodiscard]] std::string eskiAnahtar() const override { return txtcount.text(); }
   [[nodiscard]] std::string& yedek() override { return yedek_; }
   void Load() override;
+  void Unload() override;
   void tuskontrol() override;
 
  protected:
   [[nodiscard]] bool kaydedilebilir() override;
   [[nodiscard]] bool temizlenebilir() override { return !RecordScreen::YeniAlanlar().empty(); }
   [[nodiscard]] std::string YeniAlanlar() override;
-  [[nodiscard]] int yaziKaydi() const override;
   void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
   bool tusBas(std::string_view key) override;
   void basliklariYenile() override;

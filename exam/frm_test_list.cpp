@@ -1,4 +1,6 @@
 // The grid of a patient's laboratory values, and the screens that it opens.
+#include <ranges>
+
 #include "exam/frm_test.h"
 #include "exam/frm_test_edit.h"
 #include "exam/frm_test_filter.h"
@@ -6,7 +8,6 @@
 #include "exam/patient_analyses.h"
 #include "exam/result_mark.h"
 #include "platform/text/utf8.h"
-#include "shell/font_record.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
@@ -16,7 +17,13 @@ using shell::Phrase;
 
 namespace {
 
-constexpr int usualTemplate = 3;  // letterhead, name and date
+// "126 H mg/dL   (70 - 105)".
+std::string valueLine(const stores::Analysis& analysis) {
+  std::string line = text::trim(isaretli(analysis.result, analysis.min, analysis.max));
+  if (!analysis.unit.empty()) line += " " + analysis.unit;
+  const std::string range = aralik(analysis.min, analysis.max);
+  return range.empty() ? line : line + "   (" + range + ")";
+}
 
 }  // namespace
 
@@ -112,21 +119,18 @@ void FrmTest::satiriGoster(long number) {
   }
 }
 
-void FrmTest::tetkikleriyazdır(Output output) {
-  documents::ReportText body(font());
-  body.secyazitipi();
-  body.yaz(metinbul(istasyon, "testsonuclari") + "\n");
-  analizleriYaz(body, analizler_);
-  const auto stored = shell::ayarKaydi(istasyon, yaziKaydi());
-  const bool own = stored && stored->owner == name();
-  bas(istasyon,
-      {.isim = lblisim.caption(),
-       .tarih = text::shortDate(istasyon.clock.today()),
-       .sablon = own ? stored->templateNumber : usualTemplate,
-       .imza = own ? stored->signature : std::string(),
-       .yazitipi = font(),
-       .govde = body.document()},
-      output);
+// A sheet that is full leaves out the oldest days.
+void FrmTest::Yazılar(documents::ReportText& yazı) {
+  std::optional<text::DateTime> day;
+  yazı.secyazitipi();
+  yazı.yaz(metinbul(istasyon, "testsonuclari") + "\n");
+  for (const stores::Analysis& analysis : std::views::reverse(analizler_)) {
+    if (analysis.date != day) yazı.secyazitipi();
+    if (analysis.date && analysis.date != day)
+      yazı.yaz("\n" + text::shortDate(*analysis.date) + "\n");
+    day = analysis.date;
+    yazı.alan(analysis.test, valueLine(analysis));
+  }
 }
 
 // --- The screens above this one

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "exam/patient_analyses.h"
+#include "exam/result_mark.h"
 #include "platform/text/number.h"
 #include "shell/captions.h"
 #include "shell/phrases.h"
@@ -68,12 +69,9 @@ void FrmTestTrend::degeriYaz() {
   if (plot.chosen() < 0) return lbldeger.setCaption("");
   const TrendPoint& point = trend.points[static_cast<std::size_t>(plot.chosen())];
   std::string text = text::shortDate(point.date) + ":  " + point.result + " " + trend.unit;
-  if (trend.min || trend.max)
-    text.append("   (")
-        .append(trend.min ? text::plainText(*trend.min) : "")
-        .append(" - ")
-        .append(trend.max ? text::plainText(*trend.max) : "")
-        .append(")");
+  const std::string range = aralik(trend.min ? text::plainText(*trend.min) : "",
+                                   trend.max ? text::plainText(*trend.max) : "");
+  if (!range.empty()) text += "   (" + range + ")";
   lbldeger.setCaption(text);
 }
 

@@ -27,6 +27,14 @@ std::string isaretli(std::string_view result, std::string_view min, std::string_
   return marked;
 }
 
+std::string aralik(std::string_view min, std::string_view max) {
+  std::string range;
+  if (min.empty() && max.empty()) return range;
+  if (min.empty()) return range.append("≤ ").append(max);
+  if (max.empty()) return range.append("≥ ").append(min);
+  return range.append(min).append(" - ").append(max);
+}
+
 forms::Emphasis vurgu(std::string_view marked) {
   if (marked.ends_with(high)) return forms::Emphasis::High;
   return marked.ends_with(low) ? forms::Emphasis::Low : forms::Emphasis::None;

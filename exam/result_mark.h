@@ -14,6 +14,9 @@ namespace exam {
 [[nodiscard]] std::string isaretli(std::string_view result, std::string_view min,
                                    std::string_view max);
 
+// The range behind a value: "70 - 105", "≤ 41", "≥ 40"; empty without one.
+[[nodiscard]] std::string aralik(std::string_view min, std::string_view max);
+
 // What the mark at the end says.
 [[nodiscard]] forms::Emphasis vurgu(std::string_view marked);
 

@@ -16,7 +16,7 @@ void showColumns(GridTable& table, const Grid& grid) {
     table.setColumnHidden(col - grid.fixedCols(), !grid.columnVisible(col));
   table.verticalHeader()->setVisible(grid.fixedCols() > 0);
   table.horizontalHeader()->setVisible(grid.fixedRows() > 0);
-  table.resizeColumnsToContents();
+  table.fitColumns();
 }
 
 // What this marks is what the grid has chosen already, so that nothing comes back to it.

@@ -43,6 +43,12 @@ QVBoxLayout* columnIn(QWidget& parent) {
   return column;
 }
 
+// The banner begins where the fields below it begin.
+QWidget* flush(QWidget* banner) {
+  banner->layout()->setContentsMargins(0, 0, 0, 0);
+  return banner;
+}
+
 QWidget* catalogueList(const forms::Form& form, QWidget& parent) {
   auto* const side = new QWidget(&parent);
   auto* const column = new QVBoxLayout(side);
@@ -92,16 +98,19 @@ QGridLayout* valueFields(const forms::Form& form, QWidget& parent) {
   struct Field {
     const char* name;
     int share;  // of the width
+    int characters;
   };
   auto* const grid = new QGridLayout;
   grid->setHorizontalSpacing(gap::normal);
   int column = 0;
-  for (const Field& field : {Field{"txttarih", 3}, Field{"comtest", 6}, Field{"txtsonuç", 4},
-                             Field{"txtbirim", 3}, Field{"txtmin", 2}, Field{"txtmax", 2}}) {
+  for (const Field& field :
+       {Field{"txttarih", 3, 15}, Field{"comtest", 6, 18}, Field{"txtsonuç", 4, 8},
+        Field{"txtbirim", 3, 7}, Field{"txtmin", 2, 5}, Field{"txtmax", 2, 5}}) {
     QWidget* const widget = made(form, field.name, parent);
     grid->addWidget(captionFor(*widget), 0, column, Qt::AlignLeft);
     grid->addWidget(widget, 1, column);
     grid->setColumnStretch(column++, field.share);
+    widget->setMinimumWidth(characters(*widget, field.characters));
   }
   return grid;
 }
@@ -119,7 +128,7 @@ std::unique_ptr<QWidget> testRequestView(forms::Form& form) {
   auto window = recordWindow(form, requestSize);
   QWidget& body = *window->centralWidget();
   QVBoxLayout* const column = columnIn(body);
-  column->addWidget(recordBanner(form, body));
+  column->addWidget(flush(recordBanner(form, body)));
   QVBoxLayout* const right = besideTheList(form, body, *column);
   right->addWidget(made(form, "buttasi", body), 0, Qt::AlignRight);
   QWidget* const request = made(form, "txtistem", body);
@@ -134,7 +143,7 @@ std::unique_ptr<QWidget> testResultsView(forms::Form& form) {
   auto window = recordWindow(form, resultsSize);
   QWidget& body = *window->centralWidget();
   QVBoxLayout* const column = columnIn(body);
-  column->addWidget(recordBanner(form, body));
+  column->addWidget(flush(recordBanner(form, body)));
   column->addLayout(valueFields(form, body));
   auto* const table = new GridTable(&body);
   bind(*table, control<forms::Grid>(form, "msgrid1"));
@@ -142,6 +151,7 @@ std::unique_ptr<QWidget> testResultsView(forms::Form& form) {
   // The latest values stand at the end.
   QObject::connect(table->model(), &QAbstractItemModel::modelReset, table,
                    &QTableView::scrollToBottom, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(table, &QTableView::scrollToBottom, Qt::QueuedConnection);
   return window;
 }
 

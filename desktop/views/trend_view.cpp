@@ -39,7 +39,9 @@ std::unique_ptr<QWidget> testTrendView(forms::Form& form) {
   auto* const column = new QVBoxLayout(window.get());
   column->setContentsMargins(gap::large, gap::normal, gap::large, gap::normal);
   column->setSpacing(gap::normal);
-  column->addWidget(recordBanner(form, *window));
+  QWidget* const banner = recordBanner(form, *window);
+  banner->layout()->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(banner);
   column->addLayout(headLine(form, *window));
   auto* const chart = new TrendChart(window.get());
   bind(*chart, control<exam::TrendPlot>(form, "plot"));

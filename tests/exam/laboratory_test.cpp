@@ -24,6 +24,13 @@ TEST(ResultMark, StandsBehindWhatIsOutsideTheRange) {
   for (const Case& c : cases) EXPECT_EQ(exam::isaretli(c.result, c.min, c.max), c.marked);
 }
 
+TEST(ResultMark, TheRangeIsWrittenAsFarAsItGoes) {
+  EXPECT_EQ(exam::aralik("70", "105"), "70 - 105");
+  EXPECT_EQ(exam::aralik("", "41"), "≤ 41");
+  EXPECT_EQ(exam::aralik("40", ""), "≥ 40");
+  EXPECT_EQ(exam::aralik("", ""), "");
+}
+
 TEST(ResultMark, ADecimalCommaIsReadAsOne) {
   EXPECT_EQ(exam::noktali("5,4"), "5.4");
   EXPECT_EQ(exam::noktali("<5,4"), "<5,4");
