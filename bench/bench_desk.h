@@ -38,6 +38,7 @@ class EmptyDesk : public host::Host {
   host::Answer messageBox(const host::Message&) override { return host::Answer::Yes; }
   std::string inputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
   std::optional<std::string> openFile(const host::FileRequest&) override { return std::nullopt; }
+  std::optional<std::string> saveFile(const host::FileRequest&) override { return std::nullopt; }
   std::optional<std::string> chooseFolder(std::string_view, std::string_view) override {
     return std::nullopt;
   }
