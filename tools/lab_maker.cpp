@@ -45,7 +45,6 @@ LabWork LabMaker::make(const Patient& patient) {
   const Panel panel = random_.pick(panels());
   for (const std::string_view name : panel) addCourse(patient, testNamed(name), when, work);
   work.ledger.key = stores::ledgerKey(word, stores::kind::laboratory, patient.person.name);
-  work.ledger.last = when.back();
   return work;
 }
 
@@ -89,8 +88,7 @@ void LabMaker::add(const Patient& patient, const CatalogueTest& test, const text
                          {"Unit", test.unit},
                          {"Min", test.min},
                          {"Max", test.max}});
-  work.ledger.numbers += std::to_string(lastNumber_) + ";";
-  ++work.ledger.count;
+  work.ledger.visits.push_back({lastNumber_, day, shell::brans::general});
 }
 
 }  // namespace tools

@@ -28,6 +28,7 @@ constexpr std::array kMeanings{
     Meaning{SQLITE_NOTADB, Fault::Damaged, "the file is damaged or is not a store."},
     Meaning{SQLITE_CANTOPEN, Fault::Missing, "the file cannot be opened."},
     Meaning{SQLITE_TOOBIG, Fault::TooLong, "the text is too long to be stored."},
+    Meaning{SQLITE_IOERR, Fault::Other, "the disk could not be read or written."},
     Meaning{SQLITE_NOMEM, Fault::Other, "there is not enough memory."},
 };
 
