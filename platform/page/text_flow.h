@@ -24,8 +24,8 @@ struct FlowLine {
 
 // Calls with line after line, each at most `width` twips wide, until `visit` answers false. Lines
 // break between words; a word that is wider than a line breaks where it must. Blanks at a line's
-// end may reach beyond it. Tabs stand at every half inch. A line end at the end of the text does not
-// begin another line.
+// end may reach beyond it. Tabs stand at every half inch. A line end at the end of the text does
+// not begin another line.
 void eachLine(const Metrics& metrics, const richtext::Document& text, int width,
               const std::function<bool(const FlowLine&)>& visit);
 
