@@ -6,8 +6,13 @@
 #include "documents/frm_preview1.h"
 #include "documents/frm_prewive.h"
 #include "documents/frm_printer.h"
+#include "exam/frm_demand.h"
 #include "exam/frm_drug.h"
 #include "exam/frm_exam.h"
+#include "exam/frm_test.h"
+#include "exam/frm_test_edit.h"
+#include "exam/frm_test_filter.h"
+#include "exam/frm_test_trend.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_key.h"
@@ -47,6 +52,11 @@ shell::ScreenDirectory screens() {
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmKey>(directory, "Frmkey");
   add<registry::FrmMax>(directory, "frmmax");
+  add<exam::FrmTest>(directory, "frmtest");
+  add<exam::FrmTestEdit>(directory, "frmtestedit");
+  add<exam::FrmDemand>(directory, "frmdemand");
+  add<exam::FrmTestFilter>(directory, "frmtestfilter");
+  add<exam::FrmTestTrend>(directory, "frmtesttrend");
   add<exam::FrmExam>(directory, "FrmExam");
   add<exam::FrmDrug>(directory, "frmdrug");
   add<search::FrmFind>(directory, "FrmFind");

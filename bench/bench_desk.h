@@ -27,17 +27,26 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 class EmptyDesk : public host::Host {
  public:
   std::deque<std::function<void()>> tasks;
+  void runTasks() {
+    while (!tasks.empty()) {
+      const auto task = std::move(tasks.front());
+      tasks.pop_front();
+      task();
+    }
+  }
 
   host::Answer messageBox(const host::Message&) override { return host::Answer::Yes; }
   std::string inputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
   std::optional<std::string> openFile(const host::FileRequest&) override { return std::nullopt; }
+  std::optional<std::string> saveFile(const host::FileRequest&) override { return std::nullopt; }
   std::optional<std::string> chooseFolder(std::string_view, std::string_view) override {
     return std::nullopt;
   }
   std::optional<forms::Font> chooseFont(const forms::Font&) override { return std::nullopt; }
   std::optional<forms::Colour> chooseColour(forms::Colour) override { return std::nullopt; }
   void show(forms::Form&) override {}
-  void showModal(forms::Form&) override {}
+  // What was put off goes on while the window is open.
+  void showModal(forms::Form&) override { runTasks(); }
   void close(forms::Form&) override {}
   void later(std::function<void()> task) override { tasks.push_back(std::move(task)); }
   void pause(int) override {}

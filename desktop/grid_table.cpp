@@ -6,45 +6,24 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
-#include "desktop/hint_list.h"
-
 namespace desktop {
 
-namespace {
-constexpr int rowGap = 10;
-}
-
-GridTable::GridTable(QWidget* parent) : QTableView(parent) {
-  setEditTriggers(NoEditTriggers);
+GridTable::GridTable(QWidget* parent) : HintTable(parent) {
+  setShowGrid(true);
+  setSelectionBehavior(SelectItems);
   setSelectionMode(ContiguousSelection);
-  setTabKeyNavigation(false);  // Tab leaves the table, the arrows move within it
-  setWordWrap(false);
-  setAlternatingRowColors(true);
   setCornerButtonEnabled(false);
-  horizontalHeader()->setHighlightSections(false);
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  fitRows();
-}
-
-void GridTable::fitRows() {
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + rowGap);
+  horizontalHeader()->setStretchLastSection(false);
 }
 
 void GridTable::changeEvent(QEvent* event) {
-  QTableView::changeEvent(event);
-  if (event->type() != QEvent::FontChange) return;
-  fitRows();
-  resizeColumnsToContents();
-}
-
-void GridTable::paintEvent(QPaintEvent* event) {
-  QTableView::paintEvent(event);
-  paintHint(*this);
+  HintTable::changeEvent(event);
+  if (event->type() == QEvent::FontChange) resizeColumnsToContents();
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) return copyMarked();
-  QTableView::keyPressEvent(event);
+  HintTable::keyPressEvent(event);
 }
 
 // What is hidden stays out of it.

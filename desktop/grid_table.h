@@ -1,23 +1,20 @@
-// The table that shows a grid: it copies what is marked, and says what to do when it is empty.
+// The table that shows a grid: ranges can be marked, and what is marked can be copied.
 #pragma once
 
-#include <QTableView>
+#include "desktop/hint_table.h"
 
 namespace desktop {
 
-// The hint is the table's tool-tip.
-class GridTable : public QTableView {
+class GridTable : public HintTable {
   Q_OBJECT
  public:
   explicit GridTable(QWidget* parent = nullptr);
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
-  void fitRows();
   void copyMarked() const;
 };
 

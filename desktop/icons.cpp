@@ -16,7 +16,7 @@ struct IconName {
   const char* theme;
 };
 
-constexpr std::array<IconName, 34> names{{
+constexpr auto names = std::to_array<IconName>({
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
@@ -51,14 +51,30 @@ constexpr std::array<IconName, 34> names{{
     {"password", "dialog-password"},
     {"program", "user-identity"},
     {"invoice", "view-financial-list"},
-}};
+    {"filtre", "view-filter"},
+    {"grafik", "office-chart-line"},
+    {"testler", "view-list-details"},
+    {"recete", "document-edit"},
+    {"istem", "view-pim-tasks"},
+    {"test", "view-list-details"},
+    {"operation", "edit-cut"},
+    {"fizikgelişme", "office-chart-line"},
+    {"motmengelişme", "actor"},
+    {"asi", "color-picker"},
+    {"gebe", "love"},
+    {"lens", "draw-circle"},
+    {"glass", "view-visible"},
+    {"angio", "distribute-graph"},
+    {"echo", "news-subscribe"},
+    {"efor", "speedometer"},
+    {"picture", "view-preview"},
+    {"film", "tool-animator"},
+    {"dokum", "view-pages-overview"},
+});
 
-// The image that says that there are records of that kind is the other one, filled.
-struct FilledName {
-  std::string_view image;
-  std::string_view outline;
-};
-constexpr std::array<FilledName, 2> filledNames{{{"muayenev", "muayene"}, {"raporv", "rapor"}}};
+// Behind the name of an image: the other one, filled, which says that there are records of that
+// kind.
+constexpr char filledMark = 'v';
 
 constexpr int filledSizes[] = {22, 33, 44, 66};
 constexpr double corner = 0.16;
@@ -108,13 +124,12 @@ void useIconTheme(bool dark) {
 }
 
 QIcon icon(std::string_view image) {
-  for (const FilledName& row : filledNames) {
-    if (row.image == image) return filled(icon(row.outline));
-  }
   for (const IconName& row : names) {
     if (row.image == image) return QIcon::fromTheme(QLatin1String(row.theme));
   }
-  return {};
+  if (!image.ends_with(filledMark)) return {};
+  const QIcon outline = icon(image.substr(0, image.size() - 1));
+  return outline.isNull() ? outline : filled(outline);
 }
 
 }  // namespace desktop

@@ -9,9 +9,11 @@
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
+#include "desktop/tour_exam.h"
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
 #include "shell/frm_progress.h"
+#include "stores/visit_ledger.h"
 
 namespace desktop {
 
@@ -57,7 +59,8 @@ class Album {
 
 forms::TabStrip* tabsOf(const forms::Form& form) {
   for (forms::Control* control : form.controls()) {
-    if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) return strip;
+    auto* const strip = dynamic_cast<forms::TabStrip*>(control);
+    if (strip != nullptr && strip->visible()) return strip;
   }
   return nullptr;
 }
@@ -106,8 +109,12 @@ class Tour {
     daysList();
     takeVariants(suffix);
     progress(suffix);
+    istasyon_.SeciliHasta = patientWithResults();
+    takeLaboratory(suffix);
+    takeExaminations(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     takeFinder(suffix);
+    istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
   }
@@ -172,6 +179,32 @@ class Tour {
     takeEnlarged(window, suffix);
   }
 
+  void takeExaminations(const QString& suffix) {
+    for (const char* program :
+         {"General Medicine", "Gynecology", "Ophthalmology", "ENT", "Cardiology"}) {
+      const SampleExam sample(host_, istasyon_, program);
+      takeForm(sample.form(), QLatin1Char('-') + QLatin1String(program), suffix);
+    }
+  }
+
+  // As usual, as small as windows get, dark, enlarged.
+  void takeForm(forms::Form& form, const QString& name, const QString& suffix) {
+    QWidget& window = *host_.windowOf(form);
+    window.resize(usualSize);
+    takeTabs(album_, host_, form, name + suffix);
+    window.resize(smallestSize);
+    takeTabs(album_, host_, form, name + QStringLiteral("-1024x700") + suffix);
+    window.resize(usualSize);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    takeTabs(album_, host_, form, name + QStringLiteral("-dark") + suffix);
+    applyAppearance(shade);
+    withLargeFont([&] {
+      window.resize(usualSize * enlarged);
+      takeTabs(album_, host_, form, name + QStringLiteral("-150") + suffix);
+    });
+  }
+
   // The filters and what they find; the finder opens over the card, in all its looks.
   void takeFinder(const QString& suffix) {
     takeFinder(QStringLiteral("-1024x700") + suffix, smallestSize);
@@ -200,6 +233,26 @@ class Tour {
     settle();
   }
 
+  // The first patient of the practice with laboratory values.
+  std::string patientWithResults() {
+    dao::Recordset& visit = istasyon_.stores.clinical.Visit;
+    const std::string kind = stores::ledgerKey(istasyon_.BransAdi, stores::kind::laboratory, "");
+    if (!visit.Seek(">=", kind) || visit.NoMatch()) return {};
+    const std::string key = visit.Fields("spname").text();
+    return key.starts_with(kind) ? key.substr(kind.size()) : std::string();
+  }
+
+  void takeLaboratory(const QString& suffix) {
+    for (const char* name : {"frmtest", "frmtestedit", "frmdemand", "frmtesttrend"}) {
+      takeScreen(name, QStringLiteral("-1024x700") + suffix, smallestSize);
+      const Shade shade = wantedShade();
+      applyAppearance(Shade::Dark);
+      takeScreen(name, QStringLiteral("-dark") + suffix);
+      applyAppearance(shade);
+      withLargeFont([&] { takeScreen(name, QStringLiteral("-150") + suffix); });
+    }
+  }
+
   template <class Work>
   static void withLargeFont(Work work) {
     const QFont usual = QApplication::font();
@@ -220,11 +273,13 @@ class Tour {
     window.resize(usualSize);
   }
 
-  void takeScreen(const std::string& name, const QString& suffix) {
+  // In the size that it opens with, or in one of the caller's.
+  void takeScreen(const std::string& name, const QString& suffix, QSize size = {}) {
     const auto form = istasyon_.screens.make(name, istasyon_);
     if (form == nullptr) return;
     form->Load();
     host_.show(*form);
+    if (size.isValid()) host_.windowOf(*form)->resize(size);
     takeTabs(album_, host_, *form, suffix);
     host_.close(*form);
     settle();

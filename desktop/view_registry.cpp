@@ -5,11 +5,13 @@
 #include "desktop/views/drug_view.h"
 #include "desktop/views/find_view.h"
 #include "desktop/views/generic_view.h"
+#include "desktop/views/laboratory_views.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
 #include "desktop/views/print_views.h"
 #include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
+#include "desktop/views/trend_view.h"
 #include "shell/dated_record_screen.h"
 
 namespace desktop {
@@ -38,6 +40,11 @@ ViewRegistry programViews() {
   views.add("frmprewive", prewiveView);
   views.add("frmpreview1", preview1View);
   views.add("frmprinter", printerView);
+  views.add("frmtest", testResultsView);
+  views.add("frmtestedit", testCatalogueView);
+  views.add("frmdemand", testRequestView);
+  views.add("frmtestfilter", testFilterView);
+  views.add("frmtesttrend", testTrendView);
   return views;
 }
 

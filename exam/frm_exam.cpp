@@ -59,7 +59,17 @@ void FrmExam::Load() {
   ComMedeniDurum.setItems(std::move(states));
   shell::doktorlariYaz(istasyon, comdoktor);
   DatedRecordScreen::Load();
+  gunuSec();
   ilkAlan().setFocus();
+}
+
+// Opened from a day's list: the latest record of that day.
+void FrmExam::gunuSec() {
+  if (!istasyon.SeciliTarih) return;
+  const std::string day = text::shortDate(*istasyon.SeciliTarih);
+  for (int row = static_cast<int>(liste.count()) - 1; row >= 0; --row) {
+    if (liste.items()[static_cast<std::size_t>(row)].text == day) return liste.setListIndex(row);
+  }
 }
 
 void FrmExam::hastaDegisti() {

@@ -14,6 +14,8 @@
 
 namespace exam {
 
+class ExamListing;
+
 class FrmExam : public shell::DatedRecordScreen {
  public:
   explicit FrmExam(shell::Station& istasyon);
@@ -161,6 +163,7 @@ class FrmExam : public shell::DatedRecordScreen {
   enum class Page { General, Special };
 
   void alanlariHazirla();
+  void gunuSec();
   void bransaGore();
   void menuleriBagla();
   void sayfaSec(Page page);
@@ -184,6 +187,8 @@ class FrmExam : public shell::DatedRecordScreen {
   [[nodiscard]] std::string kayittaki(const shell::FieldRow& row);
   [[nodiscard]] richtext::Document belge(const std::vector<ReportLine>& lines);
   void dokumYaz();
+  void dokumeEkle(ExamListing& listing, const forms::ListItem& item);
+  void dokumuSakla(ExamListing& listing);
 
   const Workspace& calisma_;
   // What the fields that follow the date were carried over with.

@@ -1,10 +1,20 @@
 // The examination as a text, and all examinations of the patient as a document.
+#include <algorithm>
+
 #include "exam/exam_listing.h"
 #include "exam/frm_exam.h"
 #include "platform/text/utf8.h"
+#include "shell/frm_progress.h"
+#include "shell/text_lookup.h"
 #include "shell/text_style.h"
 
 namespace exam {
+
+namespace {
+
+constexpr std::size_t recordsOfSlice = 20;
+
+}  // namespace
 
 // What a field would store if the record were saved now.
 std::string FrmExam::ekrandaki(const shell::FieldRow& row) {
@@ -41,15 +51,34 @@ richtext::Document FrmExam::belge(const std::vector<ReportLine>& lines) {
   return text;
 }
 
+void FrmExam::dokumeEkle(ExamListing& listing, const forms::ListItem& item) {
+  if (!tablo().Seek("=", item.data) || tablo().NoMatch()) return;
+  const std::string doctor = tablo().Fields("Doctor").text();
+  listing.add(
+      doctor.empty() ? item.text : item.text + "   " + doctor,
+      belge(reportLines(istasyon, *this, [this](const auto& row) { return kayittaki(row); })));
+}
+
+// The records are those that are stored, whatever is on the screen. A listing that was stopped
+// leaves no file.
 void FrmExam::dokumYaz() {
   ExamListing listing(sisim(lblisim.caption()), font());
-  for (const forms::ListItem& item : liste.items()) {
-    if (!tablo().Seek("=", item.data) || tablo().NoMatch()) continue;
-    const std::string doctor = tablo().Fields("Doctor").text();
-    listing.add(
-        doctor.empty() ? item.text : item.text + "   " + doctor,
-        belge(reportLines(istasyon, *this, [this](const auto& row) { return kayittaki(row); })));
-  }
+  const auto dates = liste.items();
+  std::size_t next = 0;
+  shell::surdurerekYap(
+      istasyon, {metinbul(istasyon, "muayenedokumu"), static_cast<std::int64_t>(dates.size()),
+                 [&]() -> std::optional<std::int64_t> {
+                   if (next == dates.size()) return std::nullopt;
+                   for (const std::size_t end = std::min(next + recordsOfSlice, dates.size());
+                        next < end; ++next) {
+                     dokumeEkle(listing, dates[next]);
+                   }
+                   return static_cast<std::int64_t>(next);
+                 }});
+  if (next == dates.size()) dokumuSakla(listing);
+}
+
+void FrmExam::dokumuSakla(ExamListing& listing) {
   const auto written = listing.write(istasyon);
   if (!written) return istasyon.host.runtimeError(written.error());
   durumYaz(written->filename().string());

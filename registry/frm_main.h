@@ -260,7 +260,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   [[nodiscard]] dao::Status kartiYenile(const std::string& name);
   [[nodiscard]] bool dogumSaklanir() const;
 
-  void yeniIsmiSor();
   [[nodiscard]] dao::Status kartiYaz();
   [[nodiscard]] dao::Status satiriYaz(const std::string& key);
   [[nodiscard]] dao::Status hastayiSil(const std::string& name);

@@ -88,15 +88,6 @@ bool FrmMain::hastaoku() {
   return true;
 }
 
-// Another name is written only with consent.
-void FrmMain::yeniIsmiSor() {
-  const std::string old = TxtEskiİsim.text();
-  if (old.empty() || old == Txtİsim.text()) return;
-  const bool rename =
-      istasyon.evetMi(old + ", " + Txtİsim.text() + metinbul(istasyon, "msgisimdegisti"));
-  if (!rename) Txtİsim.setText(old);
-}
-
 // The card and, under another name, all that carried the old one: everything or nothing.
 dao::Status FrmMain::kartiYaz() {
   const std::string name = Txtİsim.text();
@@ -135,7 +126,7 @@ void FrmMain::listelereEkle() {
 // A failed write leaves the card as it is, still to be saved: what was typed is not lost.
 void FrmMain::kayityap() {
   Txtİsim.setText(text::trim(Txtİsim.text()));
-  yeniIsmiSor();
+  isimDegistiSor(Txtİsim, TxtEskiİsim.text());
   const dao::Status written = kartiYaz();
   if (!written) return kaydedilemedi(written);
   TxtEskiİsim.setText(Txtİsim.text());

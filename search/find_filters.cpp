@@ -1,53 +1,55 @@
 #include "search/find_filters.h"
 
 #include "search/frm_find.h"
-#include "shell/field_row.h"
 
 namespace search {
 
 namespace {
 
-using shell::controlOf;
+template <auto Member>
+forms::TextControl& filter(forms::Form& form) {
+  return static_cast<FrmFind&>(form).*Member;
+}
 
 constexpr std::array<FilterRow, 25> rows{{
-    {controlOf<&FrmFind::Txtİsim>, "isim", Test::GivenName, {"Name"}},
-    {controlOf<&FrmFind::TxtSoyisim>, "Soyisim", Test::Surname, {"Name"}},
-    {controlOf<&FrmFind::ComCinsiyet>, "Cinsiyet", Test::ListIndex, {"Sex"}},
-    {controlOf<&FrmFind::ComKanGrubu>, "kangrubu", Test::Equal, {"Blood Group"}},
-    {controlOf<&FrmFind::comdogumyeri>, "dogumyeri", Test::ContainsFolded, {"Place of Birth"}},
-    {controlOf<&FrmFind::ComMeslek>, "Meslek", Test::ContainsFolded, {"Profession"}},
-    {controlOf<&FrmFind::TxtAnneAdı>, "anneadi", Test::ContainsFolded, {"Mothers Name"}},
-    {controlOf<&FrmFind::TxtBabaAdı>, "babaadi", Test::ContainsFolded, {"Fathers Name"}},
-    {controlOf<&FrmFind::txtidno>, "kimliknumarasi", Test::ContainsFolded, {"ID Number"}},
-    {controlOf<&FrmFind::ComHitap>, "Hitap", Test::ContainsFolded, {"Adressing"}},
-    {controlOf<&FrmFind::txtadres>,
+    {filter<&FrmFind::Txtİsim>, "isim", Test::GivenName, {"Name"}},
+    {filter<&FrmFind::TxtSoyisim>, "Soyisim", Test::Surname, {"Name"}},
+    {filter<&FrmFind::ComCinsiyet>, "Cinsiyet", Test::ListIndex, {"Sex"}},
+    {filter<&FrmFind::ComKanGrubu>, "kangrubu", Test::Equal, {"Blood Group"}},
+    {filter<&FrmFind::comdogumyeri>, "dogumyeri", Test::ContainsFolded, {"Place of Birth"}},
+    {filter<&FrmFind::ComMeslek>, "Meslek", Test::ContainsFolded, {"Profession"}},
+    {filter<&FrmFind::TxtAnneAdı>, "anneadi", Test::ContainsFolded, {"Mothers Name"}},
+    {filter<&FrmFind::TxtBabaAdı>, "babaadi", Test::ContainsFolded, {"Fathers Name"}},
+    {filter<&FrmFind::txtidno>, "kimliknumarasi", Test::ContainsFolded, {"ID Number"}},
+    {filter<&FrmFind::ComHitap>, "Hitap", Test::ContainsFolded, {"Adressing"}},
+    {filter<&FrmFind::txtadres>,
      "Adres",
      Test::ContainsFolded,
      {"Address1", "Address2", "Address3", "Address4"}},
-    {controlOf<&FrmFind::TxtMail>, "e-mail", Test::ContainsFolded, {"email"}},
-    {controlOf<&FrmFind::txttelefon>, "Telefon", Test::Contains, {"Telephone1", "Telephone2"}},
-    {controlOf<&FrmFind::TxtMobil>, "Mobil", Test::Contains, {"Mobil"}},
-    {controlOf<&FrmFind::TxtFax>, "Fax", Test::Contains, {"Fax"}},
-    {controlOf<&FrmFind::ComKurum>, "Kurum", Test::ContainsFolded, {"Company"}},
-    {controlOf<&FrmFind::TxtÇalışan>, "calisan", Test::ContainsFolded, {"Personnel"}},
-    {controlOf<&FrmFind::TxtSicil>, "Sicil", Test::Contains, {"Personnel Number"}},
-    {controlOf<&FrmFind::comgorev>, "gorev", Test::ContainsFolded, {"Job"}},
-    {controlOf<&FrmFind::comyakinlik>, "yakinlik", Test::ContainsFolded, {"Relationship"}},
-    {controlOf<&FrmFind::txtnot>, "Notlar", Test::ContainsFolded, {"Notes"}},
-    {controlOf<&FrmFind::ComRefere>, "refereeden", Test::ContainsFolded, {"Referance"}},
-    {controlOf<&FrmFind::TxtGün>, "gun", Test::Day, {"Date of Birth"}},
-    {controlOf<&FrmFind::TxtAy>, "Ay", Test::Month, {"Date of Birth"}},
-    {controlOf<&FrmFind::TxtYıl>, "yil", Test::Year, {"Date of Birth", "Year of Birth"}},
+    {filter<&FrmFind::TxtMail>, "e-mail", Test::ContainsFolded, {"email"}},
+    {filter<&FrmFind::txttelefon>, "Telefon", Test::Contains, {"Telephone1", "Telephone2"}},
+    {filter<&FrmFind::TxtMobil>, "Mobil", Test::Contains, {"Mobil"}},
+    {filter<&FrmFind::TxtFax>, "Fax", Test::Contains, {"Fax"}},
+    {filter<&FrmFind::ComKurum>, "Kurum", Test::ContainsFolded, {"Company"}},
+    {filter<&FrmFind::TxtÇalışan>, "calisan", Test::ContainsFolded, {"Personnel"}},
+    {filter<&FrmFind::TxtSicil>, "Sicil", Test::Contains, {"Personnel Number"}},
+    {filter<&FrmFind::comgorev>, "gorev", Test::ContainsFolded, {"Job"}},
+    {filter<&FrmFind::comyakinlik>, "yakinlik", Test::ContainsFolded, {"Relationship"}},
+    {filter<&FrmFind::txtnot>, "Notlar", Test::ContainsFolded, {"Notes"}},
+    {filter<&FrmFind::ComRefere>, "refereeden", Test::ContainsFolded, {"Referance"}},
+    {filter<&FrmFind::TxtGün>, "gun", Test::Day, {"Date of Birth"}},
+    {filter<&FrmFind::TxtAy>, "Ay", Test::Month, {"Date of Birth"}},
+    {filter<&FrmFind::TxtYıl>, "yil", Test::Year, {"Date of Birth", "Year of Birth"}},
 }};
 
 constexpr std::array<FilterList, 7> lists{{
-    {controlOf<&FrmFind::comdogumyeri>, "Place Of Birth"},
-    {controlOf<&FrmFind::ComMeslek>, "Profession"},
-    {controlOf<&FrmFind::ComHitap>, "Adressing"},
-    {controlOf<&FrmFind::ComKurum>, "Company"},
-    {controlOf<&FrmFind::comgorev>, "Job"},
-    {controlOf<&FrmFind::ComRefere>, "Referance"},
-    {controlOf<&FrmFind::comyakinlik>, "Relationship"},
+    {filter<&FrmFind::comdogumyeri>, "Place Of Birth"},
+    {filter<&FrmFind::ComMeslek>, "Profession"},
+    {filter<&FrmFind::ComHitap>, "Adressing"},
+    {filter<&FrmFind::ComKurum>, "Company"},
+    {filter<&FrmFind::comgorev>, "Job"},
+    {filter<&FrmFind::ComRefere>, "Referance"},
+    {filter<&FrmFind::comyakinlik>, "Relationship"},
 }};
 
 }  // namespace

@@ -190,6 +190,26 @@ constexpr std::array findRows{
     CaptionRow{"ButGit", "Git"},          CaptionRow{"PBar", "Ara"},
 };
 
+constexpr std::array laboratoryRows{
+    CaptionRow{"frmtest", "testsonuclari", Window},
+    CaptionRow{"frmtestedit", "testduzenle", Window},
+    CaptionRow{"frmdemand", "istem", Window},
+    CaptionRow{"frmtestfilter", "testfiltrele", Window},
+    CaptionRow{"Lsttest", "Tetkik"},
+    CaptionRow{"txtistem", "istem"},
+    CaptionRow{"comtest", "Test"},
+    CaptionRow{"msgrid1", "testsonuclari", Plain, "frmtest"},
+    CaptionRow{"dpt1", "ilktarih"},
+    CaptionRow{"dpt2", "sontarih"},
+    CaptionRow{"ChkYüksek", "yuksak"},
+    CaptionRow{"ChkDüşük", "alcak"},
+    CaptionRow{"ChkNormal", "Normal"},
+    CaptionRow{"mnutestler", "Test", Menu},
+    CaptionRow{"mnutestdüzenle", "testduzenle", Menu},
+    CaptionRow{"mnutestfiltrele", "testfiltrele", Menu},
+    CaptionRow{"mnugrafik", "Grafik", Menu},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -199,8 +219,8 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows =
-    joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows, findRows);
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows,
+                                findRows, laboratoryRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -245,6 +265,9 @@ constexpr std::array toolTips{
     KeyedCaption{"resim", "Resim"},
     KeyedCaption{"film", "Film"},
     KeyedCaption{"dokum", "muayenedokumu"},
+    KeyedCaption{"filtre", "testfiltrele"},
+    KeyedCaption{"grafik", "Grafik"},
+    KeyedCaption{"testler", "testduzenle"},
 };
 
 constexpr std::array tabs{
@@ -277,6 +300,7 @@ constexpr std::array phrases{
     PhraseRow{"mnuküçült", Phrase::ZoomOut},
     PhraseRow{"mnusayfaeni", Phrase::FitWidth},
     PhraseRow{"pageno", Phrase::PageNumber},
+    PhraseRow{"mnutümü", Phrase::AllResults},
 };
 
 }  // namespace

@@ -4,10 +4,9 @@
 
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
-#include "shell/age.h"
 #include "shell/fees.h"
 #include "shell/phrases.h"
-#include "shell/snapshot.h"
+#include "shell/record_date.h"
 #include "shell/text_lookup.h"
 #include "shell/visit_buttons.h"
 
@@ -27,12 +26,12 @@ DatedRecordScreen::DatedRecordScreen(Station& station, std::string_view name,
   lblisim.Change.connect([this] { hastaDegisti(); });
   liste.Click.connect([this] { tarihSecildi(); });
   txtnumara.Change.connect([this] { numaraDegisti(); });
-  txttarih.GotFocus.connect([this] { tarihOdakta(); });
+  txttarih.GotFocus.connect([this] { tarihOdakta(istasyon, txttarih); });
   txttarih.LostFocus.connect([this] {
     if (hatalitarih()) tarihBitti();
   });
   txttarih.Change.connect([this] {
-    yasGoster();
+    Lblyaş.setCaption(tarihteYas(istasyon, txttarih));
     tuskontrol();
   });
 }
@@ -52,7 +51,7 @@ void DatedRecordScreen::Load() {
 }
 
 void DatedRecordScreen::hastaDegisti() {
-  bandiYaz();
+  lblhasta.setCaption(hastaBandi(istasyon, lblisim.caption()));
   VTarihler();
   alanlaribosalt();
 }
@@ -298,56 +297,8 @@ void DatedRecordScreen::numaraDegisti() {
 
 // --- The date
 
-void DatedRecordScreen::tarihOdakta() {
-  istasyon.OncekiTarih = txttarih.text();
-  hepsinisec(*this);
-}
-
 bool DatedRecordScreen::hatalitarih() {
-  const auto date = txttarih.date(bugun());
-  if (date && tarihUygun(*date)) {
-    txttarih.setDate(*date);
-    return true;
-  }
-  istasyon.bilgi(metinbul(istasyon, "msghatalitarih"));
-  txttarih.setText(istasyon.OncekiTarih);
-  txttarih.setFocus();
-  txttarih.selectAll();
-  return false;
-}
-
-bool DatedRecordScreen::tarihUygun(const text::DateTime& date) const {
-  constexpr std::size_t shortestFullDate = 5;
-  if (date > bugun()) return false;
-  const std::string birth = istasyon.kart == nullptr ? "" : text::trim(istasyon.kart->dogum());
-  if (text::length(birth) < shortestFullDate) return date.year() >= text::Val(birth);
-  const auto born = text::parseDate(birth, bugun());
-  return !born || date >= *born;
-}
-
-void DatedRecordScreen::yasGoster() {
-  const auto date = txttarih.date(bugun());
-  const auto age = date && istasyon.kart != nullptr
-                       ? yasmetni(istasyon, text::trim(istasyon.kart->dogum()), *date)
-                       : std::nullopt;
-  Lblyaş.setCaption(age ? metinbul(istasyon, "yasi") + " : " + *age : std::string());
-}
-
-void DatedRecordScreen::bandiYaz() {
-  std::string banner = sisim(lblisim.caption());
-  if (istasyon.kart != nullptr) {
-    const auto age = yasmetni(istasyon, text::trim(istasyon.kart->dogum()), bugun());
-    const int sex = istasyon.kart->cinsiyet();
-    const std::string parts[] = {age.value_or(""),
-                                 sex == 0   ? metinbul(istasyon, "kadin")
-                                 : sex == 1 ? metinbul(istasyon, "Erkek")
-                                            : "",
-                                 istasyon.kart->kanGrubu()};
-    for (const std::string& part : parts) {
-      if (!part.empty()) banner += "   ·   " + part;
-    }
-  }
-  lblhasta.setCaption(banner);
+  return shell::hatalitarih(istasyon, txttarih);
 }
 
 }  // namespace shell

@@ -95,11 +95,7 @@ class DatedRecordScreen : public RecordScreen {
   void satiriSec();
   void tarihSecildi();
   void numaraDegisti();
-  void tarihOdakta();
   void sonrakineTasi();
-  [[nodiscard]] bool tarihUygun(const text::DateTime& date) const;
-  void yasGoster();
-  void bandiYaz();
 
   const stores::RecordKind& kind_;
   Records kayitlar_;        // in the order of the list

@@ -10,7 +10,7 @@ namespace shell {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 14> icons{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 17> icons{{
     {"mnuyeni", "New"},
     {"mnukaydet", "Save"},
     {"mnusil", "Delete"},
@@ -25,6 +25,9 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 14> icons{{
     {"mnuileri", "ileri"},
     {"mnubul", "Find"},
     {"mnusecenekler", "option"},
+    {"mnutestfiltrele", "filtre"},
+    {"mnugrafik", "grafik"},
+    {"mnutestdüzenle", "testler"},
 }};
 
 }  // namespace

@@ -54,6 +54,15 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::SampleText, "The text of the report stands here,\nline below line.",
      "Raporun metni burada yer alır,\nsatır satır."},
     {Phrase::SampleSignature, "Your sincerely\nDr. Ayşe Demir", "Saygılarımla\nDr. Ayşe Demir"},
+    {Phrase::NoTests, "No tests yet. Type a name and save it.",
+     "Henüz test yok. Bir isim yazıp kaydedin."},
+    {Phrase::NoResults, "No results. Choose a test, write its result and save it.",
+     "Sonuç yok. Bir test seçip sonucunu yazın ve kaydedin."},
+    {Phrase::Trend, "Course of a test", "Testin seyri"},
+    {Phrase::NoTrend, "There is no value to draw.", "Çizilecek değer yok."},
+    {Phrase::NotDrawnWithoutNumber, "not drawn, without a number: ", "çizilmedi, sayı değil: "},
+    {Phrase::NotDrawnOtherUnit, "not drawn, in another unit: ", "çizilmedi, birimi farklı: "},
+    {Phrase::AllResults, "All results", "Tüm sonuçlar"},
 });
 
 }  // namespace

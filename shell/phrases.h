@@ -44,7 +44,14 @@ enum class Phrase {
   SampleHeading,  // of two lines
   SamplePatient,
   SampleText,
-  SampleSignature  // of two lines
+  SampleSignature,  // of two lines
+  NoTests,
+  NoResults,
+  Trend,
+  NoTrend,
+  NotDrawnWithoutNumber,  // a number follows
+  NotDrawnOtherUnit,      // a number follows
+  AllResults
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

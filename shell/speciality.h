@@ -22,6 +22,8 @@ struct Speciality {
 
 namespace brans {
 inline constexpr int internalMedicine = 1;
+inline constexpr int pediatrics = 3;
+inline constexpr int gynecology = 4;
 inline constexpr int polyclinic = 8;
 inline constexpr int pathology = 9;
 inline constexpr int smoke = 13;

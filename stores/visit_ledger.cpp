@@ -1,7 +1,5 @@
 #include "stores/visit_ledger.h"
 
-#include <algorithm>
-
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
 
@@ -81,29 +79,16 @@ std::vector<DatedRecord> recordsOf(dao::Recordset& rows) {
   return records;
 }
 
-// The numbers one by one; `found` is in the order of the numbers.
-std::vector<DatedRecord> arrived(std::span<const std::int64_t> numbers,
-                                 const std::vector<DatedRecord>& found) {
-  std::vector<DatedRecord> records;
-  records.reserve(numbers.size());
-  for (const std::int64_t number : numbers) {
-    const auto at = std::ranges::lower_bound(found, number, {}, &DatedRecord::number);
-    if (at != found.end() && at->number == number) {
-      records.push_back(*at);
-    } else if (!records.empty()) {
-      records.push_back(DatedRecord(records.back()));
-    }
-  }
-  return records;
-}
-
 std::vector<DatedRecord> byDay(std::vector<DatedRecord> records) {
   std::ranges::stable_sort(records, {}, &DatedRecord::date);
   return records;
 }
 
-std::string selectFrom(const RecordKind& kind) {
-  return "SELECT [Count], [Date] FROM [" + std::string(kind.table) + "] ";
+constexpr std::string_view datedColumns = "[Count], [Date]";
+
+std::string select(std::string_view columns, const RecordKind& kind) {
+  std::string text = "SELECT ";
+  return text.append(columns).append(" FROM [").append(kind.table).append("] ");
 }
 
 }  // namespace
@@ -131,11 +116,17 @@ dao::Status writeLedgerRow(dao::Recordset& visit, std::string_view key, const Le
   return visit.NoMatch() ? dao::Status() : visit.Delete();
 }
 
+dao::Result<dao::Recordset> openListed(dao::Database& clinical, const RecordKind& kind,
+                                       std::string_view columns,
+                                       std::span<const std::int64_t> numbers) {
+  return clinical.OpenRecordset(
+      select(columns, kind) + "WHERE [Count] IN (SELECT value FROM json_each(?)) ORDER BY [Count]",
+      {jsonOf(numbers)});
+}
+
 dao::Result<std::vector<DatedRecord>> listedRecords(dao::Database& clinical, const RecordKind& kind,
                                                     std::span<const std::int64_t> numbers) {
-  auto rows = clinical.OpenRecordset(
-      selectFrom(kind) + "WHERE [Count] IN (SELECT value FROM json_each(?)) ORDER BY [Count]",
-      {jsonOf(numbers)});
+  auto rows = openListed(clinical, kind, datedColumns, numbers);
   if (!rows) return std::unexpected(rows.error());
   return byDay(arrived(numbers, recordsOf(*rows)));
 }
@@ -146,7 +137,7 @@ dao::Result<std::vector<DatedRecord>> patientRecords(dao::Database& clinical,
                                                      const RecordKind& kind,
                                                      std::string_view patient, int speciality) {
   auto rows = clinical.OpenRecordset(
-      selectFrom(kind) +
+      select(datedColumns, kind) +
           "WHERE ([Name] = ?1 OR ([Name] > '' AND [Name] < '_' AND "
           "order_key(trim([Name])) = order_key(?1))) AND [Speciality] = ?2 ORDER BY [Count]",
       {text::trimmed(patient), speciality});

@@ -3,6 +3,7 @@
 // word, and the ledger can be made anew from them.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -62,8 +63,32 @@ struct DatedRecord {
   bool operator==(const DatedRecord&) const = default;
 };
 
-// The records with these numbers by day; those of one day stay in the order of the numbers given. A
-// number whose record is gone repeats the record before it; without one before it, it is left out.
+// The given columns of the records with these numbers, in the order of `Count`: one read, however
+// many they are.
+[[nodiscard]] dao::Result<dao::Recordset> openListed(dao::Database& clinical,
+                                                     const RecordKind& kind,
+                                                     std::string_view columns,
+                                                     std::span<const std::int64_t> numbers);
+
+// One record for each of the numbers; `found` is in the order of the numbers. A number whose record
+// is gone repeats the record before it; without one before it, it is left out.
+template <class Record>
+[[nodiscard]] std::vector<Record> arrived(std::span<const std::int64_t> numbers,
+                                          const std::vector<Record>& found) {
+  std::vector<Record> records;
+  records.reserve(numbers.size());
+  for (const std::int64_t number : numbers) {
+    const auto at = std::ranges::lower_bound(found, number, {}, &Record::number);
+    if (at != found.end() && at->number == number) {
+      records.push_back(*at);
+    } else if (!records.empty()) {
+      records.push_back(Record(records.back()));
+    }
+  }
+  return records;
+}
+
+// The records with these numbers by day; those of one day stay in the order of the numbers given.
 [[nodiscard]] dao::Result<std::vector<DatedRecord>> listedRecords(
     dao::Database& clinical, const RecordKind& kind, std::span<const std::int64_t> numbers);
 

@@ -12,7 +12,10 @@
 #include "platform/richtext/rtf_writer.h"
 #include "shell/letterhead.h"
 #include "stores/value_list.h"
+#include "tools/exam_maker.h"
+#include "tools/lab_maker.h"
 #include "tools/visit_maker.h"
+#include "tools/word_lists.h"
 
 namespace tools {
 
@@ -21,6 +24,7 @@ namespace {
 using dao::Status;
 
 constexpr std::size_t patientsOfTransaction = 5000;
+constexpr std::uint64_t examSeed = 0x65786D;
 
 Status addRow(dao::Recordset& rows, const Card& card) {
   if (Status added = rows.AddNew(); !added) return added;
@@ -31,10 +35,10 @@ Status addRow(dao::Recordset& rows, const Card& card) {
 }
 
 Card ledgerCard(const LedgerRow& row) {
-  return {{"Visit Numbers", row.numbers},
+  return {{"Visit Numbers", row.numbers()},
           {"spname", row.key},
-          {"Visit Count", row.count},
-          {"Last Visit Date", row.last}};
+          {"Visit Count", row.visits.size()},
+          {"Last Visit Date", row.visits.back().date}};
 }
 
 // Runs the work inside one transaction of each store.
@@ -52,7 +56,11 @@ Status inTransactions(stores::Stores& stores, Work work) {
 class Filler {
  public:
   Filler(stores::Stores& stores, const PracticeOptions& options)
-      : stores_(stores), options_(options), visits_(~options.seed, options.reference) {}
+      : stores_(stores),
+        options_(options),
+        visits_(~options.seed, options.reference),
+        laboratory_(options.seed + 1, options.reference),
+        exams_(options.seed ^ examSeed) {}
 
   Status fill(const Progress& progress) {
     Random random(options_.seed);
@@ -65,7 +73,7 @@ class Filler {
       stored += size;
       if (progress) progress(stored);
     }
-    return inTransactions(stores_, [&] { return addListValues(); });
+    return inTransactions(stores_, [&] { return addCatalogues(); });
   }
 
  private:
@@ -81,7 +89,59 @@ class Filler {
     if (Status added = addRow(stores_.personal.IDCard, patient.card); !added) return added;
     noteListValues(patient.card);
     for (const LedgerRow& row : visits_.make(patient)) {
-      if (Status added = addRow(stores_.clinical.Visit, ledgerCard(row)); !added) return added;
+      if (Status added = addVisits(patient, row); !added) return added;
+    }
+    if (Status added = addLabWork(laboratory_.make(patient)); !added) return added;
+    return warn(patient);
+  }
+
+  Status addVisits(const Patient& patient, const LedgerRow& row) {
+    for (const Visit& visit : row.visits) {
+      const Card record = exams_.make(patient, visit);
+      if (Status added = addRow(stores_.clinical.PhysicalExam, record); !added) return added;
+    }
+    return addRow(stores_.clinical.Visit, ledgerCard(row));
+  }
+
+  // Whoever is allergic is warned of.
+  Status warn(const Patient& patient) {
+    const auto notes = std::ranges::find(patient.card, "Notes", &Entry::column);
+    if (notes == patient.card.end() || notes->value.text() != remarks().front()) return {};
+    return addRow(stores_.clinical.tblWarn,
+                  {{"name", patient.person.name}, {"warn", remarks().front()}});
+  }
+
+  Status addDoctors() {
+    for (const std::string_view doctor : examiners()) {
+      if (Status added = addRow(stores_.clinical.Doctors, {{"Doctor", doctor}}); !added)
+        return added;
+    }
+    return {};
+  }
+
+  // What every patient's screens offer.
+  Status addCatalogues() {
+    if (Status added = addDoctors(); !added) return added;
+    if (Status added = addTests(); !added) return added;
+    return addListValues();
+  }
+
+  Status addLabWork(const LabWork& work) {
+    if (work.values.empty()) return {};
+    for (const Card& value : work.values) {
+      if (Status added = addRow(stores_.clinical.Analyze, value); !added) return added;
+    }
+    return addRow(stores_.clinical.Visit, ledgerCard(work.ledger));
+  }
+
+  Status addTests() {
+    for (const CatalogueTest& test : catalogueTests()) {
+      const Card card{{"Test", test.name},
+                      {"Unit", test.unit},
+                      {"Min", test.min},
+                      {"Max", test.max},
+                      {"Information", test.information}};
+      if (Status added = addRow(stores_.clinical.Tests, card); !added) return added;
     }
     return {};
   }
@@ -106,6 +166,8 @@ class Filler {
   stores::Stores& stores_;
   const PracticeOptions& options_;
   VisitMaker visits_;
+  LabMaker laboratory_;
+  ExamMaker exams_;
   std::map<std::string_view, std::set<std::string>> listValues_;
 };
 

@@ -1,6 +1,7 @@
 #include "tools/visit_maker.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "shell/speciality.h"
 
@@ -9,8 +10,8 @@ namespace tools {
 namespace {
 
 constexpr int internalMedicine = shell::brans::internalMedicine;
-constexpr int pediatrics = 3;
-constexpr int gynecology = 4;
+constexpr int pediatrics = shell::brans::pediatrics;
+constexpr int gynecology = shell::brans::gynecology;
 constexpr int general = shell::brans::general;
 constexpr long longestAgo = 3000;  // days
 
@@ -33,15 +34,21 @@ std::vector<LedgerRow> VisitMaker::make(const Patient& patient) {
 }
 
 LedgerRow VisitMaker::row(const Patient& patient, int speciality) {
-  LedgerRow made{std::string(word(speciality)) + "\\" + patient.person.name, {}, 0, {}};
-  made.count = 1 + static_cast<int>(random_.ranked(9));
-  for (int visit = 0; visit < made.count; ++visit) {
-    made.numbers += std::to_string(++lastNumber_) + ";";
-  }
-  const long oldest = std::min(longestAgo, text::daysBetween(patient.birth, reference_));
-  const std::size_t ago = random_.ranked(static_cast<std::size_t>(oldest) + 1);
-  made.last = text::addDays(reference_, -static_cast<long>(ago));
+  const auto oldest =
+      static_cast<std::size_t>(std::min(longestAgo, text::daysBetween(patient.birth, reference_)));
+  std::vector<long> ago(1 + random_.ranked(9));
+  for (long& days : ago) days = static_cast<long>(random_.ranked(oldest + 1));
+  std::ranges::sort(ago, std::greater());
+  LedgerRow made{std::string(word(speciality)) + "\\" + patient.person.name, {}};
+  for (const long days : ago)
+    made.visits.push_back({++lastNumber_, text::addDays(reference_, -days), speciality});
   return made;
+}
+
+std::string LedgerRow::numbers() const {
+  std::string text;
+  for (const Visit& visit : visits) text += std::to_string(visit.number) + ";";
+  return text;
 }
 
 }  // namespace tools

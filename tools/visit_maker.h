@@ -8,12 +8,19 @@
 
 namespace tools {
 
+// One examination.
+struct Visit {
+  std::int64_t number = 0;
+  text::DateTime date;
+  int bransNo = 0;
+};
+
 // One row of the table `Visit`.
 struct LedgerRow {
-  std::string key;      // the speciality's word, a backslash and the patient's name
-  std::string numbers;  // "12;13;"
-  int count = 0;
-  text::DateTime last;
+  std::string key;            // the speciality's word, a backslash and the patient's name
+  std::vector<Visit> visits;  // by day
+
+  [[nodiscard]] std::string numbers() const;  // "12;13;"
 };
 
 // Numbers the visits of a practice as they come.
@@ -30,7 +37,7 @@ class VisitMaker {
 
   Random random_;
   text::DateTime reference_;
-  std::size_t lastNumber_ = 0;
+  std::int64_t lastNumber_ = 0;
 };
 
 }  // namespace tools

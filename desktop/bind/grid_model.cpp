@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <algorithm>
 
+#include "desktop/emphasis.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -17,26 +18,6 @@ using forms::Emphasis;
 constexpr int brightFrom = 128;
 constexpr double tint = 0.14;  // of the ink, in the ground of a cell that stands out
 
-// Each ink reads on its own shade of ground.
-struct Ink {
-  QRgb onLight;
-  QRgb onDark;
-};
-constexpr Ink highInk{0xFFA8201A, 0xFFFF9A8F};
-constexpr Ink lowInk{0xFF1A56A0, 0xFF8CC2FF};
-constexpr Ink strongInk{0xFF1F2328, 0xFFFFFFFF};
-
-QColor base() {
-  return QGuiApplication::palette().color(QPalette::Base);
-}
-
-QColor inkOf(Emphasis emphasis) {
-  const Ink& ink = emphasis == Emphasis::High  ? highInk
-                   : emphasis == Emphasis::Low ? lowInk
-                                               : strongInk;
-  return QColor::fromRgb(qGray(base().rgb()) < brightFrom ? ink.onDark : ink.onLight);
-}
-
 QColor mixed(const QColor& ground, const QColor& ink) {
   const auto part = [](int below, int above) {
     return below + static_cast<int>((above - below) * tint);
@@ -48,14 +29,14 @@ QColor mixed(const QColor& ground, const QColor& ink) {
 QVariant ground(const forms::GridCell& cell) {
   if (cell.backColour) return QColor::fromRgb(*cell.backColour);
   if (cell.emphasis == Emphasis::None) return {};
-  return mixed(base(), inkOf(cell.emphasis));
+  return mixed(QGuiApplication::palette().color(QPalette::Base), emphasisInk(cell.emphasis));
 }
 
 QVariant ink(const forms::GridCell& cell) {
   if (cell.foreColour) return QColor::fromRgb(*cell.foreColour);
   if (cell.backColour)
     return QColor(qGray(QRgb(*cell.backColour)) < brightFrom ? Qt::white : Qt::black);
-  return cell.emphasis == Emphasis::None ? QVariant() : QVariant(inkOf(cell.emphasis));
+  return cell.emphasis == Emphasis::None ? QVariant() : QVariant(emphasisInk(cell.emphasis));
 }
 
 QVariant letters(const forms::GridCell& cell) {

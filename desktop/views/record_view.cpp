@@ -1,21 +1,16 @@
 #include "desktop/views/record_view.h"
 
 #include <QMainWindow>
-#include <QMenuBar>
 #include <QSplitter>
-#include <QStatusBar>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 #include "desktop/bind/bind_label.h"
 #include "desktop/bind/bind_list.h"
-#include "desktop/bind/bind_menu.h"
-#include "desktop/bind/bind_timer.h"
 #include "desktop/bind/bind_toolbar.h"
-#include "desktop/elided_label.h"
 #include "desktop/hint_list.h"
 #include "desktop/layout.h"
 #include "desktop/views/record_page.h"
+#include "desktop/views/record_parts.h"
 #include "shell/dated_record_screen.h"
 
 namespace desktop {
@@ -23,39 +18,11 @@ namespace desktop {
 namespace {
 
 constexpr QSize usualSize{1180, 740};
-constexpr double bannerScale = 1.3;
 constexpr int dateListCharacters = 18;
 
 template <class Control>
 Control* as(forms::Control* control) {
   return dynamic_cast<Control*>(control);
-}
-
-QLabel* bannerLabel(forms::Label& text, QWidget& parent) {
-  auto* const label = new QLabel(&parent);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  bind(*label, text);
-  return label;
-}
-
-QWidget* banner(shell::DatedRecordScreen& form, QWidget& parent) {
-  auto* const strip = new QWidget(&parent);
-  auto* const row = new QHBoxLayout(strip);
-  row->setContentsMargins(gap::large, gap::normal, gap::large, 0);
-  QLabel* const patient = bannerLabel(form.lblhasta, *strip);
-  QFont large = patient->font();
-  large.setPointSizeF(large.pointSizeF() * bannerScale);
-  large.setBold(true);
-  patient->setFont(large);
-  row->addWidget(patient, 1);
-  if (auto* const warning = as<forms::Label>(form.find("lbluyarı"))) {
-    QLabel* const shown = bannerLabel(*warning, *strip);
-    shown->setWordWrap(true);
-    shown->setFrameShape(QFrame::StyledPanel);
-    shown->setMargin(gap::small);
-    row->addWidget(shown, 1);
-  }
-  return strip;
 }
 
 QWidget* dates(shell::DatedRecordScreen& form, QWidget& parent) {
@@ -135,24 +102,6 @@ class Pages {
   int pages_ = 0;
 };
 
-void placeStatus(shell::DatedRecordScreen& form, QMainWindow& window) {
-  QStatusBar& bar = *window.statusBar();
-  bar.setSizeGripEnabled(false);
-  auto* const state = new ElidedLabel(&bar);
-  auto* const today = new ElidedLabel(&bar);
-  for (QLabel* label : {static_cast<QLabel*>(state), static_cast<QLabel*>(today)})
-    label->setContentsMargins(gap::normal, 0, gap::normal, 0);
-  bar.addWidget(state, 1);
-  bar.addPermanentWidget(today);
-  bindStatus(bar, form.sbDurum, {state, today});
-}
-
-void bindTimers(QMainWindow& window, forms::Form& form) {
-  for (forms::Control* control : form.controls()) {
-    if (auto* const timer = as<forms::Timer>(control)) bind(static_cast<QObject&>(window), *timer);
-  }
-}
-
 }  // namespace
 
 std::unique_ptr<QWidget> recordView(forms::Form& form) {
@@ -160,15 +109,12 @@ std::unique_ptr<QWidget> recordView(forms::Form& form) {
   auto window = std::make_unique<QMainWindow>();
   window->setContextMenuPolicy(Qt::NoContextMenu);
   window->resize(usualSize);
-  bindMenus(*window->menuBar(), form);
-  auto* const bar = window->addToolBar(QString());
-  bar->setMovable(false);
-  bind(*bar, record.tbToolBar);
+  addRecordBars(*window, form);
   auto* const body = new QWidget(window.get());
   auto* const column = new QVBoxLayout(body);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(gap::normal);
-  column->addWidget(banner(record, *body));
+  column->addWidget(recordBanner(form, *body));
   auto* const splitter = new QSplitter(Qt::Horizontal, body);
   splitter->setChildrenCollapsible(false);
   splitter->addWidget(dates(record, *splitter));
@@ -176,8 +122,6 @@ std::unique_ptr<QWidget> recordView(forms::Form& form) {
   splitter->setStretchFactor(1, 1);
   column->addWidget(splitter, 1);
   window->setCentralWidget(body);
-  placeStatus(record, *window);
-  bindTimers(*window, form);
   return window;
 }
 

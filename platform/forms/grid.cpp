@@ -147,6 +147,11 @@ void Grid::chooseRange(Place cell, Place opposite) {
   RowColChange();
 }
 
+void Grid::dropChoice() {
+  chosen_ = opposite_ = {};
+  notify(Aspect::Selection);
+}
+
 void Grid::dropChoiceBeyond() {
   if (!has(chosen_.row, chosen_.col)) chosen_ = {};
   if (!has(opposite_.row, opposite_.col)) opposite_ = chosen_;

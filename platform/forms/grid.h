@@ -87,6 +87,8 @@ class Grid : public Control {
   void setColSel(int col) { chooseRange(chosen_, {opposite_.row, col}); }
   void choose(Place cell) { chooseRange(cell, cell); }
   void chooseRange(Place cell, Place opposite);
+  // No cell is chosen any more; fires nothing.
+  void dropChoice();
 
   // The selection, with a tab between columns and a carriage return between rows. Writing leaves
   // cells beyond the text, and passes over text beyond the cells; an empty entry clears its cell.

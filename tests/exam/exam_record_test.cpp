@@ -153,6 +153,18 @@ TEST_F(Exam, ADayThatHasARecordAsksBeforeTheNewOneIsLost) {
   EXPECT_EQ(desk.stored(2, "Complain"), "aynı gün ikinci kez");
 }
 
+TEST_F(Exam, OpenedForADayItShowsTheLatestRecordOfThatDay) {
+  save("1.1.2026", "sabah");
+  save("1.1.2026", "öğleden sonra");
+  save("2.1.2026", "ertesi gün");
+  desk.station.SeciliTarih = text::DateTime::of(2026, 1, 1);
+  screen = desk.open();
+  EXPECT_EQ(screen->txtşikayet.text(), "öğleden sonra");
+  desk.station.SeciliTarih = text::DateTime::of(2025, 1, 1);
+  screen = desk.open();
+  EXPECT_EQ(screen->txtnumara.text(), "");
+}
+
 TEST_F(Exam, TheDoctorsOfTheRecordsAreOffered) {
   screen->txtşikayet.setText("x");
   screen->comdoktor.setText("Dr. Gülşah Öztürk");

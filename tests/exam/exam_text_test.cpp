@@ -2,6 +2,7 @@
 #include <iterator>
 
 #include "platform/richtext/rtf_reader.h"
+#include "shell/frm_progress.h"
 #include "tests/exam/exam_fixture.h"
 
 namespace {
@@ -55,6 +56,7 @@ TEST_F(Exam, TheListingHoldsEveryStoredRecordAndReplacesNoFile) {
   screen->comdoktor.setText("Dr. İnci Su");
   screen->mnukaydet.press();
   screen->txtşikayet.setText("kaydedilmemiş");
+  desk.host.modal["frmprogress"] = [this](forms::Form&) { desk.host.runTasks(); };
   screen->tbToolBar.press("dokum");
   screen->tbToolBar.press("dokum");
   const std::filesystem::path parent = folder / "Documents/Diseases";
@@ -67,6 +69,12 @@ TEST_F(Exam, TheListingHoldsEveryStoredRecordAndReplacesNoFile) {
   EXPECT_GT(read->formatAt(0).halfPoints, read->formatAt(20).halfPoints);
   EXPECT_TRUE(std::filesystem::exists(parent / "Ayşe Yıldız 2026-11-22 (2).rtf"));
   EXPECT_EQ(screen->txtşikayet.text(), "kaydedilmemiş");
+  std::filesystem::remove_all(parent);
+  desk.host.modal["frmprogress"] = [](forms::Form& form) {
+    dynamic_cast<shell::FrmProgress&>(form).butdurdur.press();
+  };
+  screen->tbToolBar.press("dokum");
+  EXPECT_FALSE(std::filesystem::exists(parent));  // stopped: no file
 }
 
 }  // namespace

@@ -240,4 +240,41 @@ TEST_F(Card, ShutDownAsksSavesAndKeepsTheWindow) {
   EXPECT_EQ(desk.station.ayar("Main WindowState"), "0");
 }
 
+// Stands where a record screen would open.
+struct RecordStandIn : forms::Form {
+  explicit RecordStandIn(shell::Station&) : Form("FrmExam") {}
+};
+
+struct OpeningARecord : Card {
+  OpeningARecord() {
+    desk.screens.add("FrmExam", [](shell::Station& station) {
+      return std::make_unique<RecordStandIn>(station);
+    });
+    desk.host.modal["FrmExam"] = [this](forms::Form&) { opened = desk.station.SeciliHasta; };
+  }
+  std::string opened;
+};
+
+TEST_F(OpeningARecord, ACardThatIsNotStoredIsSavedFirst) {
+  main.mnuyeni.Click();
+  desk.typeName("Ayşe Yıldız");
+  main.TxtDTarihi.setText("1991");
+  main.tbToolBar.press("muayene");
+  EXPECT_EQ(opened, "Ayşe Yıldız");
+  EXPECT_EQ(desk.column("Ayşe Yıldız", "Year of Birth"), "1991");
+  main.txtnot.setText("alerjisi var");
+  main.mnumuayene1.Click();
+  EXPECT_EQ(desk.column("Ayşe Yıldız", "Notes"), "alerjisi var");
+}
+
+TEST_F(OpeningARecord, DoesNotHappenWhenTheCardWasRefused) {
+  main.mnuyeni.Click();
+  desk.typeName("Ayşe Yıldız");
+  main.TxtDTarihi.setText("1991");
+  desk.station.stores.personal.database.Close();
+  main.tbToolBar.press("muayene");
+  EXPECT_EQ(opened, "");
+  EXPECT_TRUE(main.mnukaydet.enabled());
+}
+
 }  // namespace

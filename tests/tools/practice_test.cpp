@@ -16,6 +16,7 @@
 #include "shell/age.h"
 #include "shell/letterhead.h"
 #include "stores/value_list.h"
+#include "stores/visit_ledger.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/card_maker.h"
 
@@ -167,21 +168,26 @@ TEST_F(PracticeTest, LedgerRowsBelongToPatientsAndCountTheirVisits) {
   dao::Recordset& cards = shared_->stores.personal.IDCard;
   std::set<std::string> numbers;
   std::size_t total = 0;
+  std::int64_t values = 0;
   for (visits.MoveFirst().ignore(); !visits.Eof(); visits.MoveNext().ignore()) {
     const std::string key = visits.Fields("spname").text();
     ASSERT_NE(key.find('\\'), std::string::npos) << key;
     ASSERT_TRUE(cards.Seek("=", key.substr(key.find('\\') + 1)));
     ASSERT_FALSE(cards.NoMatch()) << key;
+    // Each kind of record counts for itself.
+    const bool laboratory = key.find("Test\\") != std::string::npos;
+    const std::string kind = laboratory ? "Test" : "";
     std::size_t listed = 0;
     const std::string list = visits.Fields("Visit Numbers").text();
     for (std::size_t at = 0; at < list.size(); ++listed) {
       const std::size_t end = list.find(';', at);
       ASSERT_NE(end, std::string::npos) << list;
-      numbers.insert(list.substr(at, end - at));
+      numbers.insert(kind + list.substr(at, end - at));
       at = end + 1;
     }
     EXPECT_EQ(visits.Fields("Visit Count").Value().integer(), static_cast<int>(listed)) << list;
     total += listed;
+    if (laboratory) values += static_cast<std::int64_t>(listed);
     const auto last = visits.Fields("Last Visit Date").Value().date();
     ASSERT_TRUE(last);
     EXPECT_LE(*last, reference_);
@@ -189,7 +195,17 @@ TEST_F(PracticeTest, LedgerRowsBelongToPatientsAndCountTheirVisits) {
     EXPECT_GE(*last, birth.value_or(*last));
   }
   EXPECT_EQ(numbers.size(), total) << "a visit is listed twice";
+  EXPECT_EQ(static_cast<std::size_t>(shared_->stores.clinical.PhysicalExam.RecordCount()), total);
   EXPECT_GT(total, patients);
+  EXPECT_EQ(shared_->stores.clinical.Analyze.RecordCount(), values);
+  EXPECT_GT(values, 0);
+  EXPECT_GE(shared_->stores.clinical.Tests.RecordCount(), 40);
+}
+
+TEST_F(PracticeTest, TheLedgerIsTheOneThatTheRecordsGive) {
+  const auto before = rowsOf(shared_->stores.clinical.Visit);
+  ASSERT_TRUE(stores::vizitolustur(shared_->stores.clinical));
+  EXPECT_EQ(rowsOf(shared_->stores.clinical.Visit), before);
 }
 
 TEST_F(PracticeTest, HasALetterhead) {

@@ -1,0 +1,246 @@
+// The value that is written down: fields, save and delete.
+#include "exam/frm_test.h"
+
+#include <algorithm>
+#include <array>
+
+#include "exam/result_mark.h"
+#include "platform/text/number.h"
+#include "platform/text/utf8.h"
+#include "shell/font_record.h"
+#include "shell/list_completion.h"
+#include "shell/record_date.h"
+#include "shell/text_lookup.h"
+#include "stores/visit_ledger.h"
+
+namespace exam {
+
+namespace {
+
+const stores::RecordKind& laboratory = stores::kind::laboratory;
+
+}  // namespace
+
+FrmTest::FrmTest(shell::Station& station) : RecordScreen(station, "frmtest") {
+  for (forms::Control* hidden :
+       {static_cast<forms::Control*>(&lblisim), static_cast<forms::Control*>(&Lstkn),
+        static_cast<forms::Control*>(&txtcount)})
+    hidden->setVisible(false);
+  msgrid1.setColumnVisible(result_column::number, false);
+  for (const int column : {result_column::result, result_column::min, result_column::max})
+    msgrid1.setColumnAlign(column, forms::ColumnAlign::Right);
+  tusGrubu({"New", "Save", "Delete"});
+  if (mnuyazdır.visible()) tusGrubu({"Print"});
+  tusGrubu({"filtre", "grafik", "testler"});
+  tbToolBar.addButton("Exit", "Exit");
+  alanlariBagla();
+  olaylariBagla();
+}
+
+void FrmTest::olaylariBagla() {
+  mnuyeni.Click.connect([this] { Yeni(); });
+  mnuonizleme.Click.connect([this] { tetkikleriyazdır(Output::Preview); });
+  mnuyazdır.Click.connect([this] { tetkikleriyazdır(Output::Printer); });
+  mnutestfiltrele.Click.connect([this] { filtreAc(); });
+  mnutümü.Click.connect([this] { VAnalizleriyaz(); });
+  mnugrafik.Click.connect([this] { grafikAc(); });
+  mnutestdüzenle.Click.connect([this] { testDuzenleAc(); });
+  lblisim.Change.connect([this] { hastaDegisti(); });
+  txttarih.GotFocus.connect([this] { shell::tarihOdakta(istasyon, txttarih); });
+  txttarih.LostFocus.connect([this] { shell::hatalitarih(istasyon, txttarih); });
+  txttarih.Change.connect([this] { tuskontrol(); });
+  shell::completeWhileTyping(comtest);
+  comtest.Click.connect([this] { testSecildi(); });
+  comtest.LostFocus.connect([this] { testBitti(); });
+  msgrid1.RowColChange.connect([this] { satirSecildi(); });
+  msgrid1.DblClick.connect([this] { grafikAc(); });
+}
+
+std::span<const shell::FieldRow> FrmTest::alanlar() const {
+  using shell::controlOf;
+  static constexpr std::array<shell::FieldRow, 5> rows{{
+      {controlOf<&FrmTest::comtest>, "Test", "Test"},
+      {controlOf<&FrmTest::txtsonuç>, "result", "sonuc"},
+      {controlOf<&FrmTest::txtbirim>, "Unit", "Birim"},
+      {controlOf<&FrmTest::txtmin>, "Min", "Min"},
+      {controlOf<&FrmTest::txtmax>, "Max", "Max"},
+  }};
+  return rows;
+}
+
+int FrmTest::yaziKaydi() const {
+  return shell::font_record::laboratory;
+}
+
+void FrmTest::Load() {
+  alanGenislikleri(istasyon.stores.clinical.database, laboratory.table);
+  RecordScreen::Load();
+  Testlistele();
+  sbDurum.setPanel(2, text::shortDate(istasyon.clock.today()));
+  if (lblisim.caption() == istasyon.SeciliHasta) return hastaDegisti();
+  lblisim.setCaption(istasyon.SeciliHasta);
+}
+
+void FrmTest::hastaDegisti() {
+  lblhasta.setCaption(shell::hastaBandi(istasyon, lblisim.caption()));
+  txttarih.setDate(istasyon.clock.today());
+  alanlaribosalt();
+  VAnalizleriyaz();
+}
+
+// --- The fields
+
+void FrmTest::alanlaribosalt() {
+  txtcount.setText("");
+  sonTest_.clear();
+  RecordScreen::alanlaribosalt();
+  Eskialan();
+  msgrid1.dropChoice();
+  durumYaz({});
+}
+
+void FrmTest::Yeni() {
+  if (!kayitkontrol()) return;
+  alanlaribosalt();
+  comtest.setFocus();
+}
+
+bool FrmTest::alanlaritasi(const dao::Value& number) {
+  if (!tablo().Seek("=", number) || tablo().NoMatch()) return false;
+  txtcount.setText(tablo().Fields("Count").text());
+  const auto date = tablo().Fields("Date").Value().date();
+  date ? txttarih.setDate(*date) : txttarih.setText("");
+  const bool shown = RecordScreen::alanlaritasi(number);
+  sonTest_ = comtest.text();
+  return shown;
+}
+
+std::string FrmTest::YeniAlanlar() {
+  return RecordScreen::YeniAlanlar() + txttarih.text();
+}
+
+bool FrmTest::kaydedilebilir() {
+  return !lblisim.caption().empty() && !text::trimmed(comtest.text()).empty();
+}
+
+void FrmTest::tuskontrol() {
+  RecordScreen::tuskontrol();
+  gridkontrol();
+}
+
+dao::Status FrmTest::Forumalanlaritasi() {
+  dao::Recordset& table = tablo();
+  const auto date = txttarih.date(istasyon.clock.today());
+  const dao::Status results[] = {table.Fields("Name").Set(text::trim(lblisim.caption())),
+                                 table.Fields("Date").Set(date ? dao::Value(*date) : dao::Value()),
+                                 table.Fields("Speciality").Set(istasyon.BransNo),
+                                 RecordScreen::Forumalanlaritasi()};
+  for (const dao::Status& result : results) {
+    if (!result) return result;
+  }
+  return {};
+}
+
+// --- The record
+
+void FrmTest::Kaydet() {
+  // Saved by a key while the date is typed, or with a date that is none.
+  const bool unchecked = activeControl() == &txttarih || !txttarih.date(istasyon.clock.today());
+  if (unchecked && !shell::hatalitarih(istasyon, txttarih)) return;
+  testBitti();
+  for (forms::TextBox* const number : {&txtsonuç, &txtmin, &txtmax})
+    number->setText(noktali(number->text()));
+  const dao::Status written = kayitYaz();
+  if (!written) return kaydedilemedi(written);
+  alanlaribosalt();
+  VAnalizleriyaz();
+  kaydedildi();
+}
+
+dao::Status FrmTest::kayitYaz() {
+  auto transaction = istasyon.stores.clinical.database.beginTransaction();
+  if (!transaction) return transaction.error();
+  const auto number = kaydiYaz();
+  if (!number) return number.error();
+  const auto listed = [&](Numbers& numbers) {
+    if (std::ranges::find(numbers, *number) == numbers.end()) numbers.push_back(*number);
+  };
+  Visitkaydet(listed).ignore();
+  return transaction->commit();
+}
+
+// The number of the row that was written. A value that another station deleted is stored anew.
+dao::Result<std::int64_t> FrmTest::kaydiYaz() {
+  dao::Recordset& table = tablo();
+  const auto old = text::wholeNumber(txtcount.text());
+  const bool stored = old && table.Seek("=", *old) && !table.NoMatch();
+  auto number = stored ? dao::Result<std::int64_t>(*old)
+                       : istasyon.stores.clinical.database.nextNumber(laboratory.table, "Count");
+  if (!number) return number;
+  dao::Status done = stored ? table.Edit() : table.AddNew();
+  if (done) done = table.Fields("Count").Set(*number);
+  if (done) done = Forumalanlaritasi();
+  if (done) done = table.Update();
+  if (done) return number;
+  table.CancelUpdate();
+  return std::unexpected(done);
+}
+
+void FrmTest::Sil() {
+  const auto number = text::wholeNumber(txtcount.text());
+  if (!number || !tablo().Seek("=", *number) || tablo().NoMatch()) return;
+  if (!istasyon.evetMi(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  const dao::Status deleted = silVeListele(*number);
+  if (!deleted) return istasyon.host.runtimeError(deleted);
+  alanlaribosalt();
+  VAnalizleriyaz();
+}
+
+dao::Status FrmTest::silVeListele(std::int64_t number) {
+  auto transaction = istasyon.stores.clinical.database.beginTransaction();
+  if (!transaction) return transaction.error();
+  // Deleted at another station meanwhile: its number goes all the same.
+  const bool there = tablo().Seek("=", number) && !tablo().NoMatch();
+  const dao::Status deleted = there ? tablo().Delete() : dao::Status();
+  if (!deleted) return deleted;
+  Visitkaydet([number](Numbers& numbers) { std::erase(numbers, number); }).ignore();
+  return transaction->commit();
+}
+
+template <class Change>
+dao::Status FrmTest::Visitkaydet(Change change) {
+  dao::Recordset& visit = istasyon.stores.clinical.Visit;
+  const std::string anahtar = stores::ledgerKey(istasyon.BransAdi, laboratory, lblisim.caption());
+  auto row = stores::readLedgerRow(visit, anahtar);
+  if (!row) return row.error();
+  change(row->numbers);
+  row->lastVisit = txttarih.date(istasyon.clock.today());
+  return stores::writeLedgerRow(visit, anahtar, *row);
+}
+
+// --- The test
+
+// A test that was chosen brings its unit and range; one that the catalogue does not have leaves
+// them as they are.
+void FrmTest::testSecildi() {
+  sonTest_ = comtest.text();
+  dao::Recordset& tests = istasyon.stores.clinical.Tests;
+  if (!tests.Seek("=", text::trimmed(sonTest_)) || tests.NoMatch()) return;
+  txtbirim.setText(text::trim(tests.Fields("Unit").text()));
+  txtmin.setText(text::trim(tests.Fields("Min").text()));
+  txtmax.setText(text::trim(tests.Fields("Max").text()));
+}
+
+void FrmTest::testBitti() {
+  if (!comtest.text().empty() && comtest.text() != sonTest_) testSecildi();
+}
+
+void FrmTest::Testlistele() {
+  std::vector<std::string> names;
+  dao::Recordset& tests = istasyon.stores.clinical.Tests;
+  for (tests.MoveFirst().ignore(); !tests.Eof(); tests.MoveNext().ignore())
+    names.push_back(tests.Fields("Test").text());
+  comtest.setItems(std::move(names));
+}
+
+}  // namespace exam

@@ -1,0 +1,104 @@
+#include "exam/frm_demand.h"
+#include "exam/frm_test_edit.h"
+#include "tests/exam/laboratory_fixture.h"
+
+namespace {
+
+using support::LabDesk;
+
+struct Requests : testing::Test {
+  Requests() {
+    desk.addTest("AKŞ", "mg/dL", "70", "105");
+    desk.addTest("CRP", "mg/L", "", "5");
+    screen.Load();
+  }
+  support::TemporaryFolder folder;
+  LabDesk desk{folder.path()};
+  exam::FrmDemand screen{desk.station};
+
+  void add(int row) {
+    screen.Lsttest.setListIndex(-1);
+    screen.Lsttest.setListIndex(row);
+    screen.buttasi.press();
+  }
+};
+
+TEST_F(Requests, TestsStandBehindEachOther) {
+  EXPECT_FALSE(screen.buttasi.enabled());
+  add(1);
+  EXPECT_EQ(screen.txtistem.text(), "CRP");
+  EXPECT_EQ(screen.txttest.text(), "");
+  EXPECT_FALSE(screen.buttasi.enabled());
+  add(0);
+  EXPECT_EQ(screen.txtistem.text(), "CRP, AKŞ");
+}
+
+TEST_F(Requests, ASecondTimeIsAskedAbout) {
+  add(0);
+  desk.host.expect("AKŞ önceden istendi. İkinci defa istiyor musunuz?", host::Answer::No);
+  add(0);
+  EXPECT_EQ(screen.txtistem.text(), "AKŞ");
+  desk.host.expect("AKŞ önceden istendi.", host::Answer::Yes);
+  add(0);
+  EXPECT_EQ(screen.txtistem.text(), "AKŞ, AKŞ");
+}
+
+TEST_F(Requests, OnlyAnAcceptedTextIsHandedOver) {
+  add(0);
+  screen.Butİptal.press();
+  EXPECT_EQ(desk.station.AktarilanMetin, "");
+  screen.txtistem.setText("AKŞ\n  ");
+  screen.buttamam.press();
+  EXPECT_EQ(desk.station.AktarilanMetin, "AKŞ");
+}
+
+TEST_F(Requests, ATestThatTheCatalogueLacksIsRequestedAndNotKept) {
+  screen.txttest.setText("Ferritin");
+  screen.buttasi.press();
+  EXPECT_EQ(screen.txtistem.text(), "Ferritin");
+  screen.buttamam.press();
+  screen.Testlistele();
+  EXPECT_EQ(screen.Lsttest.count(), 2U);
+}
+
+struct Catalogue : Requests {
+  Catalogue() { edit.Load(); }
+  exam::FrmTestEdit edit{desk.station};
+
+  [[nodiscard]] std::string names() const {
+    std::string all;
+    for (const forms::ListItem& item : edit.Lsttest.items()) all += item.text + " ";
+    return all;
+  }
+};
+
+TEST_F(Catalogue, ARenameIsAskedAboutAndKeepsTheRow) {
+  edit.Lsttest.setListIndex(1);
+  edit.txttest.setText("hsCRP");
+  edit.txtmax.setText("3,2");
+  desk.host.expect("CRP, hsCRP olarak değiştirilsin mi?", host::Answer::No);
+  edit.mnukaydet.press();
+  EXPECT_EQ(names(), "AKŞ CRP ");
+  EXPECT_EQ(edit.txttest.text() + " " + edit.txtmax.text(), "CRP 3.2");
+  edit.txttest.setText("hsCRP");
+  desk.host.expect("CRP, hsCRP olarak değiştirilsin mi?", host::Answer::Yes);
+  edit.mnukaydet.press();
+  EXPECT_EQ(names(), "AKŞ hsCRP ");
+  EXPECT_EQ(edit.Lsttest.text(), "hsCRP");
+}
+
+TEST_F(Catalogue, TheListFollowsTypingAndLeavingTheNameShowsItsTest) {
+  edit.txttest.setText("c");
+  edit.txttest.KeyUp({.code = 'C'});
+  EXPECT_EQ(edit.Lsttest.text(), "CRP");
+  EXPECT_EQ(edit.txtmax.text(), "");
+  edit.txttest.setText("crp");
+  edit.txttest.LostFocus();
+  EXPECT_EQ(edit.txttest.text() + " " + edit.txtmax.text(), "CRP 5");
+  EXPECT_FALSE(edit.mnukaydet.enabled());
+  edit.txtmax.setText("6");
+  edit.txttest.LostFocus();  // the same test: what was typed stays
+  EXPECT_EQ(edit.txtmax.text(), "6");
+}
+
+}  // namespace
