@@ -149,10 +149,7 @@ dao::Status FrmMain::kartiYenile(const std::string& name) {
   if (!sought) return sought;
   if (tablo().NoMatch() || tablo().Fields("Name").text() != name || !dogumSaklanir())
     return refusal(name);
-  dao::Status status = tablo().Edit();
-  if (status) status = Forumalanlaritasi();
-  if (status) status = tablo().Update();
-  if (!status) tablo().CancelUpdate();
+  const dao::Status status = satiriYaz(name);
   if (status) listelereEkle();
   return status;
 }
