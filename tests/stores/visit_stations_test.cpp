@@ -38,9 +38,10 @@ bool saveInATightLoop(const std::string& folder, Signal& start) {
   stores.folder = folder + "/";
   if (!OpenStores(stores) || !start.await()) return false;
   for (int visits = 0; visits < savesOfAStation; ++visits) {
-    if (!save(stores.clinical, patients[static_cast<std::size_t>(visits) % patients.size()],
-              visits))
-      return false;
+    const auto patient = static_cast<std::size_t>(visits) % patients.size();
+    const dao::Status saved = save(stores.clinical, patients[patient], visits);
+    EXPECT_TRUE(saved) << saved.text();
+    if (!saved) return false;
   }
   return true;
 }
@@ -48,9 +49,12 @@ bool saveInATightLoop(const std::string& folder, Signal& start) {
 // The number of entries, or -1 when the list is no list of the patient's records.
 int lengthOfList(ClinicalStore& clinical, std::string_view patient) {
   const auto row = readLedgerRow(clinical.Visit, ledgerKey(word, kind::examination, patient));
+  EXPECT_TRUE(row) << row.error().text();
   if (!row) return -1;
   const auto records = listedRecords(clinical.database, kind::examination, row->numbers);
-  if (!records || numbersOf(records) != row->numbers) return -1;
+  EXPECT_TRUE(records) << records.error().text();
+  EXPECT_EQ(numbersOf(records), row->numbers);
+  if (numbersOf(records) != row->numbers) return -1;
   const std::set<std::int64_t> distinct(row->numbers.begin(), row->numbers.end());
   return distinct.size() == row->numbers.size() ? static_cast<int>(distinct.size()) : -1;
 }
