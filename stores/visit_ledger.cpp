@@ -49,7 +49,8 @@ std::string jsonOf(std::span<const std::int64_t> numbers) {
 }
 
 dao::Status fill(dao::Recordset& visit, std::string_view key, const LedgerRow& row) {
-  const dao::Value lastVisit = row.lastVisit ? dao::Value(*row.lastVisit) : dao::Value();
+  dao::Value lastVisit;
+  if (row.lastVisit) lastVisit = *row.lastVisit;
   dao::Status status = visit.Fields("spname").Set(key);
   if (status) status = visit.Fields("Visit Count").Set(row.numbers.size());
   if (status) status = visit.Fields("Last Visit Date").Set(lastVisit);

@@ -33,26 +33,44 @@ dao::Status save(ClinicalStore& clinical, std::string_view patient, int visits) 
   return written ? transaction->commit() : written;
 }
 
+// A disk that takes its time keeps a station waiting for longer than it is willing to; then its
+// user is told to try again.
+bool mayTryAgain(const dao::Status& status) {
+  EXPECT_TRUE(status || status.fault() == dao::Fault::Busy) << status.text();
+  return status.fault() == dao::Fault::Busy;
+}
+
 bool saveInATightLoop(const std::string& folder, Signal& start) {
   Stores stores;
   stores.folder = folder + "/";
   if (!OpenStores(stores) || !start.await()) return false;
   for (int visits = 0; visits < savesOfAStation; ++visits) {
-    if (!save(stores.clinical, patients[static_cast<std::size_t>(visits) % patients.size()],
-              visits))
-      return false;
+    const auto patient = static_cast<std::size_t>(visits) % patients.size();
+    dao::Status saved;
+    do {
+      saved = save(stores.clinical, patients[patient], visits);
+    } while (mayTryAgain(saved));
+    if (!saved) return false;
   }
   return true;
 }
 
-// The number of entries, or -1 when the list is no list of the patient's records.
-int lengthOfList(ClinicalStore& clinical, std::string_view patient) {
+// Whether it is whole: no record twice, none that is not there.
+bool isListOf(const dao::Result<std::vector<DatedRecord>>& records, const LedgerRow& row) {
+  const std::vector<std::int64_t> listed = numbersOf(records);
+  EXPECT_EQ(listed, row.numbers);
+  const std::set<std::int64_t> distinct(listed.begin(), listed.end());
+  return listed == row.numbers && distinct.size() == listed.size();
+}
+
+// The number of entries, nothing when another station is in the way, -1 when the list is torn.
+std::optional<int> lengthOfList(ClinicalStore& clinical, std::string_view patient) {
   const auto row = readLedgerRow(clinical.Visit, ledgerKey(word, kind::examination, patient));
+  if (!row && mayTryAgain(row.error())) return std::nullopt;
   if (!row) return -1;
   const auto records = listedRecords(clinical.database, kind::examination, row->numbers);
-  if (!records || numbersOf(records) != row->numbers) return -1;
-  const std::set<std::int64_t> distinct(row->numbers.begin(), row->numbers.end());
-  return distinct.size() == row->numbers.size() ? static_cast<int>(distinct.size()) : -1;
+  if (!records && mayTryAgain(records.error())) return std::nullopt;
+  return isListOf(records, *row) ? static_cast<int>(row->numbers.size()) : -1;
 }
 
 // Until every save has come through.
@@ -64,7 +82,7 @@ bool readListsAllTheTime(const std::string& folder, Signal& start) {
   for (int total = 0; total < 2 * savesOfAStation;) {
     total = 0;
     for (const std::string_view patient : patients) {
-      const int length = lengthOfList(stores.clinical, patient);
+      const int length = lengthOfList(stores.clinical, patient).value_or(seen[patient]);
       if (length < seen[patient]) return false;
       seen[patient] = length;
       total += length;
