@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "images/frm_picture.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_max.h"
@@ -38,6 +39,7 @@ shell::ScreenDirectory screens() {
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmMax>(directory, "frmmax");
+  add<images::FrmPicture>(directory, "frmpicture");
   return directory;
 }
 

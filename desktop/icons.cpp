@@ -16,7 +16,7 @@ struct IconName {
   const char* theme;
 };
 
-constexpr std::array<IconName, 32> names{{
+constexpr std::array<IconName, 35> names{{
     {"New", "document-new"},
     {"Save", "document-save"},
     {"Delete", "edit-delete"},
@@ -45,6 +45,9 @@ constexpr std::array<IconName, 32> names{{
     {"Center", "format-justify-center"},
     {"Align Right", "format-justify-right"},
     {"foto", "insert-image"},
+    {"picture", "view-preview"},
+    {"Add", "list-add"},
+    {"Open", "document-open"},
     {"appointment", "view-calendar-day"},
     {"password", "dialog-password"},
     {"program", "user-identity"},
@@ -56,7 +59,8 @@ struct FilledName {
   std::string_view image;
   std::string_view outline;
 };
-constexpr std::array<FilledName, 2> filledNames{{{"muayenev", "muayene"}, {"raporv", "rapor"}}};
+constexpr std::array<FilledName, 3> filledNames{
+    {{"muayenev", "muayene"}, {"raporv", "rapor"}, {"picturev", "picture"}}};
 
 constexpr int filledSizes[] = {22, 33, 44, 66};
 constexpr double corner = 0.16;

@@ -4,36 +4,14 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "desktop/pictures/picture_reader.h"
+
 namespace desktop {
 
-namespace {
-
-constexpr qint64 mostPixels = 150'000'000;
-
-// The size as it stands after the camera's rotation.
-QSize uprightSize(const QImageReader& reader) {
-  const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-  return turned ? reader.size().transposed() : reader.size();
-}
-
-QSize scaledSize(const QImageReader& reader, const QSize& limit) {
-  const QSize upright = uprightSize(reader);
-  const QSize fitted =
-      upright.scaled(limit.boundedTo(upright), Qt::KeepAspectRatio).expandedTo({1, 1});
-  return uprightSize(reader) == reader.size() ? fitted : fitted.transposed();
-}
-
-}  // namespace
-
 QImage loadPicture(const QString& path, const QSize& limit, QSize* natural) {
-  QImageReader reader(path);
-  reader.setAutoTransform(true);
-  reader.setDecideFormatFromContent(true);
-  const QSize size = reader.size();
-  if (size.isEmpty() || qint64{size.width()} * size.height() > mostPixels) return {};
-  if (natural != nullptr) *natural = uprightSize(reader);
-  if (!limit.isEmpty()) reader.setScaledSize(scaledSize(reader, limit));
-  return reader.read();
+  ReadPicture read = readPicture(path, limit);
+  if (natural != nullptr) *natural = read.natural;
+  return std::move(read.image);
 }
 
 PictureFrame::PictureFrame(QWidget* parent) : QFrame(parent) {

@@ -9,6 +9,7 @@
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
+#include "desktop/tour_pictures.h"
 #include "platform/forms/menu.h"
 
 namespace desktop {
@@ -101,6 +102,7 @@ class Tour {
     takeTabs(album_, host_, main_, suffix);
     nameList(suffix);
     takeVariants(suffix);
+    takeArchive(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -145,6 +147,31 @@ class Tour {
     takeScreen("FrmOption", QStringLiteral("-dark") + suffix);
     applyAppearance(shade);
     takeEnlarged(window, suffix);
+  }
+
+  // The archive with pictures in it: as usual, small, dark and enlarged.
+  void takeArchive(const QString& suffix) {
+    SampleArchive archive(host_, istasyon_);
+    QWidget& window = archive.window();
+    album_.take(window, QStringLiteral("frmpicture-large") + suffix);
+    archive.zoom();
+    album_.take(window, QStringLiteral("frmpicture-zoomed") + suffix);
+    window.resize(smallestSize);
+    archive.chooseMissing();
+    album_.take(window, QStringLiteral("frmpicture-1024x700") + suffix);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    archive.choose();
+    album_.take(window, QStringLiteral("frmpicture-dark") + suffix);
+    applyAppearance(shade);
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * enlarged);
+    QApplication::setFont(large);
+    window.resize(usualSize * enlarged);
+    archive.choose();
+    album_.take(window, QStringLiteral("frmpicture-150") + suffix);
+    QApplication::setFont(usual);
   }
 
   void takeEnlarged(QWidget& window, const QString& suffix) {

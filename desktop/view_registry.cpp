@@ -5,6 +5,7 @@
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
+#include "desktop/views/picture_view.h"
 #include "desktop/views/splash_view.h"
 
 namespace desktop {
@@ -23,6 +24,7 @@ ViewRegistry programViews() {
   views.add("frmpass", passwordView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
+  views.add("frmpicture", pictureView);
   return views;
 }
 

@@ -134,6 +134,11 @@ constexpr std::array dialogRows{
     CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
     CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
     CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"frmpicture", "Resim", Window},
+    CaptionRow{"mnuaç", "ac", Menu},
+    CaptionRow{"MnuBoyut", "Boyut", Menu},
+    CaptionRow{"HSlFoto", "Yatay"},
+    CaptionRow{"VSlfoto", "dusey"},
 };
 
 template <std::size_t... Sizes>
@@ -158,6 +163,7 @@ constexpr std::array toolTips{
     KeyedCaption{"keyclose", "isimgizle"},
     KeyedCaption{"keyopen", "isimsifrele"},
     KeyedCaption{"idpass", "listeduzenle"},
+    KeyedCaption{"resim", "Resim"},
     KeyedCaption{"Exit", "cik"},
     KeyedCaption{"Undo", "gerial"},
     KeyedCaption{"Cut", "Kes"},

@@ -12,7 +12,7 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 14> phraseRows{{
+constexpr std::array<Row, 23> phraseRows{{
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
@@ -30,6 +30,20 @@ constexpr std::array<Row, 14> phraseRows{{
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
     {Phrase::RecordGone, "this record was deleted at another station",
      "bu kayıt başka bir istasyonda silinmiş"},
+    {Phrase::PictureHint,
+     "Choose a picture to see it here; a double click on a place opens a file.",
+     "Görmek için bir resim seçin; bir yere çift tıklamak dosya açar."},
+    {Phrase::PictureMissing, "The file is not there.", "Dosya yerinde yok."},
+    {Phrase::PictureFolder, "This is no ordinary file.", "Bu, sıradan bir dosya değil."},
+    {Phrase::PictureEmpty, "The file is empty.", "Dosya boş."},
+    {Phrase::PictureRefused, "The file may not be read.", "Dosyayı okuma izni yok."},
+    {Phrase::NotAPicture, "The file is not a picture.", "Dosya bir resim değil."},
+    {Phrase::PictureDamaged, "The picture is damaged.", "Resim bozuk."},
+    {Phrase::PictureTooLarge, "The picture has too many pixels to be shown.",
+     "Resim gösterilemeyecek kadar büyük."},
+    {Phrase::PicturePathTooLong,
+     "The name of the file with its folders is too long. Longest, in characters: ",
+     "Dosyanın klasörleriyle birlikte adı çok uzun. En çok karakter: "},
 }};
 
 }  // namespace

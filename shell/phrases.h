@@ -22,7 +22,16 @@ enum class Phrase {
   LetterheadIcon,
   OpeningFailed,
   StoreFailed,
-  RecordGone
+  RecordGone,
+  PictureHint,
+  PictureMissing,
+  PictureFolder,
+  PictureEmpty,
+  PictureRefused,
+  NotAPicture,
+  PictureDamaged,
+  PictureTooLarge,
+  PicturePathTooLong  // the largest number of characters follows
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

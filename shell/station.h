@@ -9,6 +9,7 @@
 #include "platform/host/host.h"
 #include "platform/settings/settings.h"
 #include "shell/patient_card.h"
+#include "shell/picture_exchange.h"
 #include "shell/screen_directory.h"
 #include "stores/stores.h"
 
@@ -46,6 +47,8 @@ struct Station {
   std::string AktarilanMetin;  // what the prescription or the request screen hands back; empty
                                // until it is accepted
   int SifreSonucu = 0;         // 1 when the password dialog accepted
+
+  PictureExchange Resimler;  // the six shared slots of the picture archive
 
   stores::Stores stores;
 

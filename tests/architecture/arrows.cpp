@@ -20,7 +20,8 @@ const std::vector<Part> table{
     {"stores", {"platform/dao", "platform/files"}},
     {"shell", {"stores", "platform/host", "platform/settings", "shell/vocabulary"}},
     {"registry", {"shell"}},
-    {"app", {"registry"}},
+    {"images", {"shell"}},
+    {"app", {"registry", "images"}},
     {"tools", {"shell"}},
     {"desktop", {"app", "tools"}},
 };

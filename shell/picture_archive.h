@@ -1,0 +1,30 @@
+// The pictures of a record: six paths that its screen keeps in its text fields txtp1 to txtp6. The
+// fields are rows of the screen's field table as any other, so that storing, snapshot and clearing
+// know them.
+#pragma once
+
+#include <string_view>
+
+#include "shell/station.h"
+
+namespace shell {
+
+inline constexpr std::string_view pictureScreen = "frmpicture";
+
+// The record whose pictures are opened: the caption of the menu entry, the date and the patient.
+struct PictureRecord {
+  std::string_view entry;
+  std::string_view tarih;
+  std::string_view isim;
+};
+
+// What a screen's entry `mnuresim` does: opens the archive on the fields of the screen and, when it
+// was left with OK, writes those that differ, each of which fires its Change.
+void resimArsivi(Station& istasyon, const forms::Form& owner, const PictureRecord& record);
+
+// Shows on the toolbar button `resim` whether the record has a picture.
+void ResimVar(const forms::Form& owner);
+// ResimVar at every change of the fields; for the screen's constructor.
+void resimleriBagla(forms::Form& owner);
+
+}  // namespace shell
