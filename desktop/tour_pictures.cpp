@@ -15,7 +15,8 @@ namespace desktop {
 
 namespace {
 
-constexpr int longestWait = 10'000;  // milliseconds; a picture that never comes is no reason to hang
+constexpr int longestWait =
+    10'000;  // milliseconds; a picture that never comes is no reason to hang
 
 // A retina: a disc, and vessels that leave it.
 QImage retina() {

@@ -1,6 +1,7 @@
 #include "images/frm_picture.h"
 
 #include <filesystem>
+#include <vector>
 
 #include "images/picture_words.h"
 #include "platform/text/number.h"
@@ -78,8 +79,7 @@ void FrmPicture::ac(std::size_t number) {
   if (number == 0) return;
   const auto chosen = istasyon.host.openFile(
       {.title = shell::metinbul(istasyon, "Resim") + " " + std::to_string(number),
-       .filters = {shell::metinbul(istasyon, "Resim") +
-                       " (*.bmp *.jpg *.jpeg *.png *.gif *.ico)",
+       .filters = {shell::metinbul(istasyon, "Resim") + " (*.bmp *.jpg *.jpeg *.png *.gif *.ico)",
                    "*.bmp", "*.jpg", "*.png", "*.gif", "*.ico"},
        .folder = baslangicKlasoru(number)});
   if (!chosen) return;
@@ -138,10 +138,22 @@ std::string FrmPicture::baslangicKlasoru(std::size_t number) const {
   const std::string& own = resimler_.at(number - 1)->path();
   if (!own.empty()) return own;
   for (const ArchivePicture* other : resimler_) {
-    if (!other->path().empty())
-      return std::filesystem::path(other->path()).parent_path().string();
+    if (!other->path().empty()) return std::filesystem::path(other->path()).parent_path().string();
   }
   return {};
+}
+
+void FrmPicture::sayfayaYaz(PictureDevice& device) const {
+  std::vector<PrintedPicture> pictures;
+  if (picfoto.natural()) {
+    pictures.push_back({picfoto.path(), *picfoto.natural()});
+  } else {
+    for (const ArchivePicture* picture : resimler_)
+      pictures.push_back({picture->path(), picture->natural().value_or(Extent())});
+  }
+  drawPicturePage(
+      device,
+      {.isim = istasyon.Resimler.isim, .tarih = istasyon.Resimler.tarih, .pictures = pictures});
 }
 
 void FrmPicture::sozleriYaz() {

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "images/archive_picture.h"
+#include "images/picture_page.h"
 #include "platform/forms/button.h"
 #include "platform/forms/menu.h"
 #include "platform/forms/text_control.h"
@@ -71,6 +72,9 @@ class FrmPicture : public forms::Form {
   enum class Step { Smaller, Larger };
   void boyutDegistir(Step step);
   [[nodiscard]] int boyut() const { return boyut_; }
+  // The page of the record, for a printer and the preview alike: the large picture alone, else the
+  // sheet of six.
+  void sayfayaYaz(PictureDevice& device) const;
 
  private:
   struct Zoom {

@@ -31,7 +31,8 @@ Extent fitted(Extent picture, Extent room, Enlarging enlarging) {
 
 Extent zoomed(Extent fitted, int percent) {
   if (fitted.empty()) return {};
-  return {scaled(fitted.width, percent, wholePercent), scaled(fitted.height, percent, wholePercent)};
+  return {scaled(fitted.width, percent, wholePercent),
+          scaled(fitted.height, percent, wholePercent)};
 }
 
 Pan pan(int picture, int frame) {

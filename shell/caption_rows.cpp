@@ -134,6 +134,9 @@ constexpr std::array dialogRows{
     CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
     CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
     CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
+};
+
+constexpr std::array pictureRows{
     CaptionRow{"frmpicture", "Resim", Window},
     CaptionRow{"mnuaç", "ac", Menu},
     CaptionRow{"MnuBoyut", "Boyut", Menu},
@@ -150,7 +153,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows);
+constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, pictureRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextOption>
 #include <cmath>
 
 #include "desktop/layout.h"
@@ -67,8 +68,8 @@ void ArchiveFrame::take(const ReadPicture& picture) {
 
 // In pixels of the screen, as far as memory allows.
 QSize ArchiveFrame::wanted() const {
-  const QSize room = (place_.isEmpty() ? contentsRect().size() : place_.size()) *
-                     devicePixelRatioF();
+  const QSize room =
+      (place_.isEmpty() ? contentsRect().size() : place_.size()) * devicePixelRatioF();
   const double pixels = double(room.width()) * room.height();
   return pixels <= mostDecodedPixels ? room : room * std::sqrt(mostDecodedPixels / pixels);
 }
@@ -98,8 +99,9 @@ void ArchiveFrame::paintEvent(QPaintEvent* event) {
 void ArchiveFrame::drawWords(QPainter& painter) {
   painter.setPen(palette().color(path_.isEmpty() ? QPalette::PlaceholderText : QPalette::Text));
   const QRect room = contentsRect().adjusted(gap::small, gap::small, -gap::small, -gap::small);
-  painter.drawText(room, int(Qt::AlignCenter) | int(Qt::TextWordWrap) | int(Qt::TextWrapAnywhere),
-                   words_);
+  QTextOption wrapped(Qt::AlignCenter);
+  wrapped.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  painter.drawText(QRectF(room), words_, wrapped);
 }
 
 void ArchiveFrame::resizeEvent(QResizeEvent* event) {

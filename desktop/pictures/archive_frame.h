@@ -19,7 +19,7 @@ class ArchiveFrame : public QFrame {
   void setPath(const QString& path);
   // Where the picture stands in the frame; an empty rectangle fits it in, in its proportions.
   void setPlace(const QRect& place);
-  // What is said while there is no picture; the first line is the heavier one.
+  // What is said while there is no picture.
   void setWords(const QString& words);
   [[nodiscard]] bool showsPicture() const { return !image_.isNull(); }
   [[nodiscard]] bool isReading() const { return loader_.busy() || start_.isActive(); }

@@ -20,7 +20,8 @@ void PictureCanvas::mousePressEvent(QMouseEvent* event) {
 
 void PictureCanvas::mouseMoveEvent(QMouseEvent* event) {
   if (!event->buttons().testFlag(Qt::LeftButton)) return;
-  const QPoint moved = event->position().toPoint() - std::exchange(held_, event->position().toPoint());
+  const QPoint moved =
+      event->position().toPoint() - std::exchange(held_, event->position().toPoint());
   sideways_.setValue(sideways_.value() - moved.x());
   upDown_.setValue(upDown_.value() - moved.y());
 }

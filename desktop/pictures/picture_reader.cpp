@@ -16,24 +16,35 @@ constexpr int usualBits = 32;
 constexpr int bitsPerByte = 8;
 constexpr qint64 megabyte = 1024 * 1024;
 
-// A file that can be stopped, and that knows whether more was asked of it than it has. It is read
-// unbuffered: what is asked is what the decoder asks.
+// A file that can be stopped, and that knows whether more was asked of it than it has: decoders
+// show what there is of a file that was cut off. It is read unbuffered: what is asked is what the
+// decoder asks.
 class WatchedFile : public QFile {
  public:
   WatchedFile(const QString& path, const std::function<bool()>& stopped)
       : QFile(path), stopped_(stopped) {}
-  [[nodiscard]] bool endedEarly() const { return endedEarly_; }
+  [[nodiscard]] bool open() { return QFile::open(ReadOnly | Unbuffered); }
+  // Some decoders look for the end before they begin.
+  void forgetReads() { cutShort_ = askedBehindEnd_ = false; }
+  // Whether the decoder of that format missed something. A bitmap is read line by line, any other
+  // in chunks, of which the last one is short.
+  [[nodiscard]] bool endedEarly(const QByteArray& format) const {
+    return askedBehindEnd_ || (format == "bmp" && cutShort_);
+  }
 
  protected:
   qint64 readData(char* data, qint64 most) override {
     const bool stop = stopped_ && stopped_();
-    endedEarly_ = endedEarly_ || stop || (most > 0 && pos() >= size());
-    return stop ? -1 : QFile::readData(data, most);
+    askedBehindEnd_ = askedBehindEnd_ || stop || (most > 0 && pos() >= size());
+    const qint64 got = stop ? -1 : QFile::readData(data, most);
+    cutShort_ = cutShort_ || got < most;
+    return got;
   }
 
  private:
   const std::function<bool()>& stopped_;
-  bool endedEarly_ = false;
+  bool cutShort_ = false;
+  bool askedBehindEnd_ = false;
 };
 
 bool isTurned(const QImageReader& reader) {
@@ -53,15 +64,15 @@ bool isTooLarge(const QImageReader& reader, const QSize& size) {
   const qint64 pixels = qint64{size.width()} * size.height();
   if (reader.format() == "jpeg") return pixels > mostPixels;
   const QImage::Format format = reader.imageFormat();
-  const int bits = format == QImage::Format_Invalid
-                       ? usualBits
-                       : QImage::toPixelFormat(format).bitsPerPixel();
+  const int bits =
+      format == QImage::Format_Invalid ? usualBits : QImage::toPixelFormat(format).bitsPerPixel();
   return pixels > mostPixels ||
          pixels * bits / bitsPerByte > QImageReader::allocationLimit() * megabyte;
 }
 
-std::optional<PictureFault> faultOf(QImageReader& reader, const QSize& size) {
+std::optional<PictureFault> faultOf(QImageReader& reader) {
   if (!reader.canRead()) return PictureFault::NotAPicture;
+  const QSize size = reader.size();
   if (size.isEmpty()) return PictureFault::Damaged;
   if (isTooLarge(reader, size)) return PictureFault::TooLarge;
   return std::nullopt;
@@ -78,22 +89,23 @@ ReadPicture readPicture(const QString& path, const QSize& limit,
   ReadPicture read{.image = {}, .natural = {}, .fault = faultOf(QFileInfo(path))};
   if (read.fault) return read;
   WatchedFile file(path, stopped);
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+  if (!file.open()) {
     read.fault = PictureFault::Refused;
     return read;
   }
   QImageReader reader(&file);
   reader.setAutoTransform(true);
   reader.setDecideFormatFromContent(true);
-  const QSize size = reader.size();
-  read.fault = faultOf(reader, size);
+  read.fault = faultOf(reader);
   if (read.fault) return read;
-  read.natural = isTurned(reader) ? size.transposed() : size;
+  read.natural = isTurned(reader) ? reader.size().transposed() : reader.size();
   if (!limit.isEmpty()) {
     const QSize small = scaledSize(read.natural, limit);
     reader.setScaledSize(isTurned(reader) ? small.transposed() : small);
   }
-  if (reader.read(&read.image) && !file.endedEarly()) return read;
+  const QByteArray format = reader.format();
+  file.forgetReads();
+  if (reader.read(&read.image) && !file.endedEarly(format)) return read;
   return {.image = {}, .natural = {}, .fault = PictureFault::Damaged};
 }
 

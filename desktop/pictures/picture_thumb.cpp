@@ -42,7 +42,7 @@ QSize PictureThumb::minimumSizeHint() const {
 void PictureThumb::paintEvent(QPaintEvent* event) {
   ArchiveFrame::paintEvent(event);
   QPainter painter(this);
-  QPen pen(palette().color(chosen_ ? QPalette::Highlight : QPalette::Mid),
+  QPen pen(palette().color(chosen_ ? QPalette::Highlight : QPalette::PlaceholderText),
            chosen_ ? chosenLine : plainLine, path().isEmpty() ? Qt::DashLine : Qt::SolidLine);
   painter.setPen(pen);
   painter.drawRect(rect().adjusted(1, 1, -2, -2));

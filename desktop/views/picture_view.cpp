@@ -101,6 +101,8 @@ PictureCanvas* canvasFor(FrmPicture& form, QScrollBar& sideways, QScrollBar& upD
 QWidget* largePicture(FrmPicture& form, QMainWindow& window) {
   auto* const frame = new QFrame(&window);
   frame->setFrameShape(QFrame::StyledPanel);
+  frame->setAutoFillBackground(true);
+  frame->setBackgroundRole(QPalette::Base);
   auto* const grid = new QGridLayout(frame);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(0);

@@ -41,13 +41,13 @@ struct PictureReader : testing::Test {
     return file.fileName().toStdString();
   }
   // A file whose header promises that many pixels, and nothing behind it.
-  std::string bitmapHeader(quint32 width, quint32 height) {
+  std::string bitmapHeader(const char* name, quint32 width, quint32 height) {
     QByteArray header("BM", 2);
     const auto add = [&](quint32 value) {
       for (int shift = 0; shift < 32; shift += 8) header.append(char((value >> shift) & 255));
     };
     for (const quint32 word : {0U, 0U, 54U, 40U, width, height, 0x0018'0001U}) add(word);
-    return write("large.bmp", header.append(24, '\0'));
+    return write(name, header.append(24, '\0'));
   }
 };
 
@@ -67,8 +67,8 @@ TEST_F(PictureReader, WhatCannotBeShownSaysWhy) {
       {cutInHalf("half.png"), PictureFault::Damaged},
       {cutInHalf("half.bmp"), PictureFault::Damaged},
       {write("header.png", "\x89PNG\r\n\x1a\n and then nothing"), PictureFault::Damaged},
-      {bitmapHeader(10'000, 10'000), PictureFault::TooLarge},
-      {bitmapHeader(0x7FFF'0000, 0x7FFF'0000), PictureFault::TooLarge},
+      {bitmapHeader("large.bmp", 10'000, 10'000), PictureFault::TooLarge},
+      {bitmapHeader("absurd.bmp", 0x7FFF'0000, 0x7FFF'0000), PictureFault::Damaged},
   };
   for (const Case& c : cases) {
     const desktop::ReadPicture read = readPicture(qs(c.path), {100, 100});
@@ -78,13 +78,21 @@ TEST_F(PictureReader, WhatCannotBeShownSaysWhy) {
 }
 
 TEST_F(PictureReader, EveryFormatIsReadSmallAndNeverEnlarged) {
-  for (const char* name : {"Göz dibi sağ İĞŞ.jpg", "a.jpeg", "a.png", "a.bmp"}) {
-    const desktop::ReadPicture read = readPicture(qs(save(name, {600, 300})), {100, 100});
-    EXPECT_EQ(read.image.size(), QSize(100, 50)) << name;
-    EXPECT_EQ(read.natural, QSize(600, 300)) << name;
+  for (const char* name : {"Göz dibi sağ İĞŞ.jpg", "a.jpeg", "a.png", "a.bmp", "a.ico"}) {
+    const desktop::ReadPicture read = readPicture(qs(save(name, {200, 100})), {50, 50});
+    EXPECT_EQ(read.image.size(), QSize(50, 25)) << name;
+    EXPECT_EQ(read.natural, QSize(200, 100)) << name;
     EXPECT_FALSE(read.fault) << name;
   }
   EXPECT_EQ(readPicture(qs(save("b.png", {60, 30})), {100, 100}).image.size(), QSize(60, 30));
+}
+
+TEST_F(PictureReader, AnAnimationShowsItsFirstPicture) {
+  const QByteArray whole =
+      QByteArray::fromHex("47494638396102000200800000ff0000ffffff2c00000000020002000002028451003b");
+  const desktop::ReadPicture read = readPicture(qs(write("a.gif", whole)), {});
+  EXPECT_EQ(read.image.size(), QSize(2, 2));
+  EXPECT_EQ(readPicture(qs(write("b.gif", whole.left(28))), {}).fault, PictureFault::Damaged);
 }
 
 TEST_F(PictureReader, AHundredMegapixelPhotographIsReadSmall) {

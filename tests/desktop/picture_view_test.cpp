@@ -43,8 +43,8 @@ struct ArchiveDesk : support::WindowDesk {
   void waitForReading() {
     support::settle();
     const auto frames = host.windowOf(form)->findChildren<ArchiveFrame*>();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return std::ranges::none_of(frames, &ArchiveFrame::isReading); },
-                                30'000));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return std::ranges::none_of(frames, &ArchiveFrame::isReading); }, 30'000));
     support::settle();
   }
 };
@@ -112,7 +112,7 @@ TEST(PictureView, MayBeClosedWhileItReads) {
   const std::string path = desk.save("a.jpg", {6000, 4000});
   desk.open({});
   for (images::ArchivePicture* picture : desk.form.resimler()) picture->open(path);
-  QTest::qWait(20);  // some are under way
+  support::settle();  // the first are under way
   desk.host.close(desk.form);
   support::settle();
   EXPECT_FALSE(desk.form.Img6.natural());

@@ -46,9 +46,8 @@ struct Owner : testing::Test {
   FrmOwner owner{desk.station};
 
   Owner() {
-    desk.screens.add("frmpicture", [](shell::Station& station) {
-      return std::make_unique<FrmPicture>(station);
-    });
+    desk.screens.add("frmpicture",
+                     [](shell::Station& station) { return std::make_unique<FrmPicture>(station); });
     owner.txtp1.setText("/a.jpg");
     owner.txtp3.setText("/kayıp.jpg");
     shell::alanyedekle(desk.station, owner);
