@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/forms/menu.h"
 #include "platform/forms/text_control.h"
-#include "shell/record_screen.h"
 
 namespace shell {
 
@@ -43,7 +41,7 @@ std::size_t longestPath(const Fields& fields) {
 
 }  // namespace
 
-void resimArsivi(Station& istasyon, const forms::Form& owner, const PictureRecord& record) {
+void resimArsivi(Station& istasyon, RecordScreen& owner, const PictureRecord& record) {
   const Fields fields = fieldsOf(owner);
   istasyon.Resimler = {.yollar = {},
                        .baslik = titleOf(record),
@@ -57,21 +55,7 @@ void resimArsivi(Station& istasyon, const forms::Form& owner, const PictureRecor
   for (std::size_t i = 0; i < pictureCount; ++i) {
     if (fields[i] != nullptr) fields[i]->setText(istasyon.Resimler.yollar[i]);
   }
-}
-
-void ResimVar(const forms::Form& owner) {
-  auto* const toolbar = dynamic_cast<forms::Toolbar*>(owner.find("tbToolBar"));
-  if (toolbar == nullptr) return;
-  const bool any = std::ranges::any_of(fieldsOf(owner), [](const forms::TextControl* field) {
-    return field != nullptr && !field->text().empty();
-  });
-  toolbar->setButtonImage("resim", any ? "picturev" : "picture");
-}
-
-void resimleriBagla(forms::Form& owner) {
-  for (forms::TextControl* field : fieldsOf(owner)) {
-    if (field != nullptr) field->Change.connect([&owner] { ResimVar(owner); });
-  }
+  owner.ResimVar();
 }
 
 }  // namespace shell

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "shell/station.h"
+#include "shell/record_screen.h"
 
 namespace shell {
 
@@ -20,11 +20,6 @@ struct PictureRecord {
 
 // What a screen's entry `mnuresim` does: opens the archive on the fields of the screen and, when it
 // was left with OK, writes those that differ, each of which fires its Change.
-void resimArsivi(Station& istasyon, const forms::Form& owner, const PictureRecord& record);
-
-// Shows on the toolbar button `resim` whether the record has a picture.
-void ResimVar(const forms::Form& owner);
-// ResimVar at every change of the fields; for the screen's constructor.
-void resimleriBagla(forms::Form& owner);
+void resimArsivi(Station& istasyon, RecordScreen& owner, const PictureRecord& record);
 
 }  // namespace shell

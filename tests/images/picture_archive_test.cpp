@@ -2,34 +2,30 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "images/frm_picture.h"
-#include "shell/snapshot.h"
 #include "tests/support/practice.h"
 
 namespace {
 
 using images::FrmPicture;
 
-// A record screen as far as pictures go: its six fields, its button and its dirty test.
-struct FrmOwner : forms::Form {
-  explicit FrmOwner(shell::Station& station) : Form("FrmOwner"), istasyon(station) {
+// A record screen as far as pictures go.
+struct FrmOwner : shell::RecordScreen {
+  explicit FrmOwner(shell::Station& station) : RecordScreen(station, "FrmOwner") {
     tbToolBar.addButton("resim", "picture");
-    shell::resimleriBagla(*this);
+    alanlariBagla();
     for (forms::TextBox* field : {&txtp1, &txtp2, &txtp3, &txtp4, &txtp5, &txtp6}) {
       field->setMaxLength(255);
-      field->Change.connect([this] {
-        mnukaydet.setEnabled(shell::alanMetinleri(*this) != istasyon.AlanYedegi);
-        ++changes;
-      });
+      field->Change.connect([this] { ++changes; });
     }
     mnuresim.Click.connect([this] {
       shell::resimArsivi(istasyon, *this,
                          {.entry = "&Resim", .tarih = "22.11.2026", .isim = "Ayşe Yıldız*"});
     });
   }
-  shell::Station& istasyon;
-  forms::Toolbar tbToolBar{*this, "tbToolBar"};
-  forms::MenuItem mnukaydet{*this, "mnukaydet"};
+
   forms::MenuItem mnuresim{*this, "mnuresim"};
   forms::TextBox txtp1{*this, "txtp1"};
   forms::TextBox txtp2{*this, "txtp2"};
@@ -38,6 +34,23 @@ struct FrmOwner : forms::Form {
   forms::TextBox txtp5{*this, "txtp5"};
   forms::TextBox txtp6{*this, "txtp6"};
   int changes = 0;
+
+  [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override {
+    static constexpr std::array<shell::FieldRow, 6> rows{
+        {{shell::controlOf<&FrmOwner::txtp1>, "Picture1", "Resim"},
+         {shell::controlOf<&FrmOwner::txtp2>, "Picture2", "Resim"},
+         {shell::controlOf<&FrmOwner::txtp3>, "Picture3", "Resim"},
+         {shell::controlOf<&FrmOwner::txtp4>, "Picture4", "Resim"},
+         {shell::controlOf<&FrmOwner::txtp5>, "Picture5", "Resim"},
+         {shell::controlOf<&FrmOwner::txtp6>, "Picture6", "Resim"}}};
+    return rows;
+  }
+  [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.personal.Financier; }
+  [[nodiscard]] std::string eskiAnahtar() const override { return {}; }
+  [[nodiscard]] std::string& yedek() override { return istasyon.AlanYedegi; }
+  void Kaydet() override {}
+  void Sil() override {}
+  void durumYaz(std::string) override {}
 };
 
 struct Owner : testing::Test {
@@ -50,7 +63,8 @@ struct Owner : testing::Test {
                      [](shell::Station& station) { return std::make_unique<FrmPicture>(station); });
     owner.txtp1.setText("/a.jpg");
     owner.txtp3.setText("/kayıp.jpg");
-    shell::alanyedekle(desk.station, owner);
+    owner.ResimVar();
+    owner.Eskialan();
     owner.changes = 0;
   }
   void openAnd(std::function<void(FrmPicture&)> act) {
