@@ -2,10 +2,14 @@
 
 #include <memory>
 
+#include "exam/frm_drug.h"
+#include "exam/frm_exam.h"
 #include "images/frm_picture.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
+#include "registry/frm_key.h"
 #include "registry/frm_max.h"
+#include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
@@ -38,7 +42,11 @@ shell::ScreenDirectory screens() {
   add<shell::FrmPass>(directory, "frmpass");
   add<shell::FrmAbout>(directory, "frmabout");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
+  add<registry::FrmKey>(directory, "Frmkey");
   add<registry::FrmMax>(directory, "frmmax");
+  add<exam::FrmExam>(directory, "FrmExam");
+  add<exam::FrmDrug>(directory, "frmdrug");
+  add<search::FrmFind>(directory, "FrmFind");
   add<images::FrmPicture>(directory, "frmpicture");
   return directory;
 }

@@ -4,153 +4,18 @@
 // Each line compares the card with the least work that gives the same records: for the list of
 // names that is dao::PrefixReader alone, walking the same index; for a load and a save it is the
 // record alone. Ours and baseline are measured in turn; the medians are shown.
-#include <stdlib.h>
-
-#include <algorithm>
-#include <array>
-#include <chrono>
-#include <cstdio>
-#include <deque>
-#include <filesystem>
-#include <functional>
-#include <optional>
-#include <stdexcept>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include "platform/settings/backend.h"
+#include "bench/bench_desk.h"
+#include "bench/lines.h"
 #include "platform/text/number.h"
 #include "registry/card_fields.h"
-#include "registry/frm_main.h"
 #include "shell/text_lookup.h"
 #include "tools/practice.h"
 
 namespace {
 
-using Milliseconds = std::chrono::duration<double, std::milli>;
+using namespace bench;
 
 constexpr std::size_t rounds = 7;
-constexpr double frame = 16;  // milliseconds until a window seems to stand still
-
-// A desk where nobody sits: put-off tasks wait until the measurement asks for them.
-class EmptyDesk : public host::Host {
- public:
-  std::deque<std::function<void()>> tasks;
-
-  host::Answer messageBox(const host::Message&) override { return host::Answer::Yes; }
-  std::string inputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
-  std::optional<std::string> openFile(const host::FileRequest&) override { return std::nullopt; }
-  std::optional<std::string> chooseFolder(std::string_view, std::string_view) override {
-    return std::nullopt;
-  }
-  std::optional<forms::Font> chooseFont(const forms::Font&) override { return std::nullopt; }
-  std::optional<forms::Colour> chooseColour(forms::Colour) override { return std::nullopt; }
-  void show(forms::Form&) override {}
-  void showModal(forms::Form&) override {}
-  void close(forms::Form&) override {}
-  void later(std::function<void()> task) override { tasks.push_back(std::move(task)); }
-  void pause(int) override {}
-  void shellOpen(std::string_view) override {}
-  void beep() override {}
-  void sendKeys(std::string_view) override {}
-  void runtimeError(const platform::Status& status) override {
-    std::fprintf(stderr, "%s\n", status.text().c_str());
-  }
-  std::optional<Size> pictureSize(std::string_view) override { return std::nullopt; }
-};
-
-class StandingClock : public host::Clock {
- public:
-  [[nodiscard]] text::DateTime now() const override { return tools::PracticeOptions().reference; }
-};
-
-struct Desk {
-  explicit Desk(const std::string& folder)
-      : settings(std::make_unique<settings::MemoryBackend>()),
-        station({host, clock, settings, screens}, folder, "General Medicine"),
-        main(station) {
-    main.Load();
-  }
-
-  EmptyDesk host;
-  StandingClock clock;
-  settings::Settings settings;
-  shell::ScreenDirectory screens;
-  shell::Station station;
-  registry::FrmMain main;
-};
-
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "registry-bench-XXXXXX");
-    if (::mkdtemp(pattern.data()) != nullptr) path_ = pattern;
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    if (!path_.empty()) std::filesystem::remove_all(path_, ignored);
-  }
-  [[nodiscard]] const std::string& path() const { return path_; }
-
- private:
-  std::string path_;
-};
-
-[[noreturn]] void fail(const std::string& why) {
-  throw std::runtime_error(why);
-}
-void need(const platform::Status& status) {
-  if (!status) fail(status.text());
-}
-
-template <class Work>
-double timed(Work work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return Milliseconds(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> times) {
-  std::ranges::sort(times);
-  return times[times.size() / 2];
-}
-
-struct Line {
-  std::string what;
-  double ours = 0;
-  std::optional<double> baseline;
-  std::string goal;
-  bool reached = true;
-};
-
-void printHeadings() {
-  std::printf("%-44s %12s %12s %7s   %s\n", "what (medians)", "ours ms", "baseline ms", "ratio",
-              "goal");
-}
-
-void print(const Line& line) {
-  std::printf("%-44s %12.3f ", line.what.c_str(), line.ours);
-  if (line.baseline) {
-    std::printf("%12.3f %7.2f", *line.baseline, line.ours / *line.baseline);
-  } else {
-    std::printf("%12s %7s", "-", "-");
-  }
-  std::printf("   %s: %s\n", line.goal.c_str(), line.reached ? "reached" : "MISSED");
-}
-
-Line belowFrame(std::string what, double ours) {
-  return {std::move(what), ours, std::nullopt, "below 16 ms", ours < frame};
-}
-
-Line atMost(std::string what, double ours, double baseline, double ratio) {
-  std::array<char, 32> goal{};
-  std::snprintf(goal.data(), goal.size(), "ratio below %.1f", ratio);
-  return {std::move(what), ours, baseline, goal.data(), ours < ratio * baseline};
-}
-
 struct Listing {
   double total = 0;
   double longestSlice = 0;

@@ -1,5 +1,6 @@
 #include "desktop/form_frame.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -19,7 +20,16 @@ namespace {
 forms::CommandButton* cancelButton(const forms::Form& form) {
   for (const char* name : {"Butİptal", "butkapat"}) {
     auto* const button = dynamic_cast<forms::CommandButton*>(form.find(name));
-    if (button != nullptr && button->visible() && button->enabled()) return button;
+    if (button != nullptr && button->usable()) return button;
+  }
+  return nullptr;
+}
+
+// The button that Enter stands for now; a form may have one per page.
+forms::CommandButton* defaultButton(const forms::Form& form) {
+  for (forms::Control* control : form.controls()) {
+    auto* const button = dynamic_cast<forms::CommandButton*>(control);
+    if (button != nullptr && button->isDefault() && button->usable()) return button;
   }
   return nullptr;
 }
@@ -27,6 +37,10 @@ forms::CommandButton* cancelButton(const forms::Form& form) {
 bool isSingleLine(const QWidget* widget) {
   return qobject_cast<const QLineEdit*>(widget) != nullptr ||
          qobject_cast<const QComboBox*>(widget) != nullptr;
+}
+
+bool isList(const QWidget* widget) {
+  return qobject_cast<const QAbstractItemView*>(widget) != nullptr;
 }
 
 QFont fontOf(const forms::Font& font) {
@@ -136,7 +150,10 @@ bool FormFrame::keyPressed(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Escape) return escape();
   const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
   QWidget* const focus = window_.focusWidget();
-  if (!enter || !isSingleLine(focus)) return false;
+  if (!enter) return false;
+  forms::CommandButton* const button = defaultButton(form_);
+  if (button != nullptr && (isSingleLine(focus) || isList(focus))) return button->press(), true;
+  if (!isSingleLine(focus)) return false;
   QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
   QCoreApplication::sendEvent(focus, &tab);
   return true;

@@ -16,19 +16,23 @@
 
 #include "desktop/bind/bind_button.h"
 #include "desktop/bind/bind_combo.h"
+#include "desktop/bind/bind_date.h"
+#include "desktop/bind/bind_grid.h"
 #include "desktop/bind/bind_label.h"
 #include "desktop/bind/bind_list.h"
 #include "desktop/bind/bind_picture.h"
 #include "desktop/bind/bind_rich_text.h"
 #include "desktop/bind/bind_text.h"
+#include "desktop/growing_text.h"
 #include "desktop/hint_list.h"
+#include "desktop/text.h"
 
 namespace desktop {
 
 namespace {
 
 constexpr int charactersForTwoColumns = 86;
-constexpr int gridColumnsPerField = 2;
+constexpr int gridColumnsPerField = 3;  // caption, field, unit
 
 template <class Widget, class Control>
 QWidget* made(forms::Control& control, QWidget& parent) {
@@ -43,7 +47,7 @@ QWidget* madeText(forms::Control& control, QWidget& parent) {
   const auto* const box = dynamic_cast<forms::TextBox*>(&control);
   if (box == nullptr) return nullptr;
   if (box->lines() == forms::TextLines::Multiple)
-    return made<QPlainTextEdit, forms::TextBox>(control, parent);
+    return made<GrowingText, forms::TextBox>(control, parent);
   return made<QLineEdit, forms::TextBox>(control, parent);
 }
 
@@ -81,6 +85,7 @@ QLabel* captionFor(QWidget& field) {
 QWidget* makeWidget(forms::Control& control, QWidget& parent) {
   using Maker = QWidget* (*)(forms::Control&, QWidget&);
   constexpr Maker makers[] = {madeText,
+                              made<DateEdit, forms::DateBox>,
                               made<QComboBox, forms::ComboBox>,
                               made<QCheckBox, forms::CheckBox>,
                               made<QRadioButton, forms::OptionButton>,
@@ -88,6 +93,7 @@ QWidget* makeWidget(forms::Control& control, QWidget& parent) {
                               made<QLabel, forms::Label>,
                               made<HintList, forms::ListBox>,
                               made<QTreeView, forms::ListView>,
+                              made<GridTable, forms::Grid>,
                               made<PictureFrame, forms::Picture>,
                               made<QProgressBar, forms::ProgressBar>,
                               made<RichTextEdit, forms::RichTextBox>,
@@ -105,24 +111,42 @@ FieldColumns::FieldColumns(QWidget* parent) : QWidget(parent), grid_(new QGridLa
 }
 
 void FieldColumns::add(QWidget* field, Width width) {
-  rows_.push_back({captionFor(*field), field, width, false});
-  columns_ = 0;
+  append(captionFor(*field), field, width, false);
 }
 
 void FieldColumns::addGrowing(QWidget* field) {
-  rows_.push_back({captionFor(*field), field, Width::Full, true});
+  append(captionFor(*field), field, Width::Full, true);
+}
+
+void FieldColumns::addBare(QWidget* field) {
+  append(nullptr, field, Width::Column, false);
+}
+
+void FieldColumns::append(QLabel* caption, QWidget* field, Width width, bool grows) {
+  const auto* const text = dynamic_cast<const forms::TextControl*>(controlOf(field));
+  QLabel* unit = nullptr;
+  if (text != nullptr && !text->unit().empty()) {
+    unit = new QLabel(qs(text->unit()), this);
+    unit->setForegroundRole(QPalette::PlaceholderText);
+  }
+  rows_.push_back({caption, field, unit, width, grows});
   columns_ = 0;
 }
 
+void FieldColumns::setMostColumns(int columns) {
+  mostColumns_ = columns;
+  if (const int wanted = columnsForWidth(); wanted != columns_) arrange(wanted);
+}
+
 int FieldColumns::columnsForWidth() const {
-  return width() >= characters(*this, charactersForTwoColumns) ? 2 : 1;
+  return mostColumns_ > 1 && width() >= characters(*this, charactersForTwoColumns) ? 2 : 1;
 }
 
 QSize FieldColumns::minimumSizeHint() const {
   int caption = 0;
   int field = 0;
   for (const Row& row : rows_) {
-    caption = std::max(caption, row.caption->sizeHint().width());
+    if (row.caption != nullptr) caption = std::max(caption, row.caption->sizeHint().width());
     field = std::max(field, row.field->minimumSizeHint().width());
   }
   const QMargins margins = contentsMargins();
@@ -165,12 +189,17 @@ void FieldColumns::arrange(int columns) {
 
 void FieldColumns::placeRow(const Row& row, int line, int column, int columns) {
   const int at = column * gridColumnsPerField;
-  const int span = row.width == Width::Full ? gridColumnsPerField * columns - 1 : 1;
+  const int span = row.width == Width::Full ? gridColumnsPerField * columns - 1
+                   : row.unit == nullptr    ? gridColumnsPerField - 1
+                                            : 1;
   const Qt::Alignment top = row.grows ? Qt::AlignTop : Qt::Alignment();
-  // A wider gap parts the columns.
-  row.caption->setContentsMargins(column > 0 ? gap::large : 0, 0, 0, 0);
-  grid_->addWidget(row.caption, line, at, top);
+  if (row.caption != nullptr) {
+    // A wider gap parts the columns.
+    row.caption->setContentsMargins(column > 0 ? gap::large : 0, 0, 0, 0);
+    grid_->addWidget(row.caption, line, at, top);
+  }
   grid_->addWidget(row.field, line, at + 1, 1, span);
+  if (row.unit != nullptr) grid_->addWidget(row.unit, line, at + 2);
   if (row.grows) grid_->setRowStretch(line, 1);
 }
 

@@ -48,6 +48,10 @@ class FieldColumns : public QWidget {
   void add(QWidget* field, Width width = Width::Column);
   // Takes the room that is left below the fields, and grows.
   void addGrowing(QWidget* field);
+  // A widget that says itself what it is, such as a check box.
+  void addBare(QWidget* field);
+  // At most that many columns, however wide it is.
+  void setMostColumns(int columns);
   // One column always fits; a second one never keeps the window wide.
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -57,11 +61,13 @@ class FieldColumns : public QWidget {
 
  private:
   struct Row {
-    QLabel* caption;
+    QLabel* caption;  // null for a bare widget
     QWidget* field;
+    QLabel* unit;  // null without one
     Width width;
     bool grows;
   };
+  void append(QLabel* caption, QWidget* field, Width width, bool grows);
   void arrange(int columns);
   void placeRow(const Row& row, int line, int column, int columns);
   [[nodiscard]] int columnsForWidth() const;
@@ -69,6 +75,7 @@ class FieldColumns : public QWidget {
   QGridLayout* grid_;
   std::vector<Row> rows_;
   int columns_ = 0;
+  int mostColumns_ = 2;
 };
 
 }  // namespace desktop

@@ -2,17 +2,23 @@
 
 #include "desktop/main/main_window.h"
 #include "desktop/views/dialog_views.h"
+#include "desktop/views/drug_view.h"
+#include "desktop/views/find_view.h"
 #include "desktop/views/generic_view.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
 #include "desktop/views/picture_view.h"
+#include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
+#include "shell/dated_record_screen.h"
 
 namespace desktop {
 
 std::unique_ptr<QWidget> ViewRegistry::build(forms::Form& form) const {
   const auto found = builders_.find(form.name());
-  return found == builders_.end() ? genericView(form) : found->second(form);
+  if (found != builders_.end()) return found->second(form);
+  const bool record = dynamic_cast<shell::DatedRecordScreen*>(&form) != nullptr;
+  return record ? recordView(form) : genericView(form);
 }
 
 ViewRegistry programViews() {
@@ -22,8 +28,12 @@ ViewRegistry programViews() {
   views.add("Logo", splashView);
   views.add("Frmbirthday", birthdayView);
   views.add("frmpass", passwordView);
+  views.add("Frmkey", hiddenNamesView);
+  views.add("frmprogress", progressView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
+  views.add("frmdrug", drugView);
+  views.add("FrmFind", findView);
   views.add("frmpicture", pictureView);
   return views;
 }

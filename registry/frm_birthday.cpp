@@ -36,7 +36,7 @@ void dogumGunuHatirlat(shell::Station& istasyon) {
   if (!istasyon.acik("BDrem")) return;
   FrmBirthday reminder(istasyon);
   reminder.Load();
-  if (!reminder.Lvisim.rows().empty()) istasyon.host.showModal(reminder);
+  if (reminder.Lvisim.rowCount() > 0) istasyon.host.showModal(reminder);
 }
 
 }  // namespace registry

@@ -18,6 +18,8 @@ namespace registry {
 namespace {
 
 constexpr int tickMilliseconds = 50;
+constexpr unsigned ticksPerLook = 20;
+constexpr unsigned ticksPerDayList = 200;
 constexpr int defaultWidth = 1240;
 constexpr int defaultHeight = 780;
 constexpr auto windowName = "Main";
@@ -40,6 +42,7 @@ FrmMain::FrmMain(Station& station) : RecordScreen(station, "FrmMain") {
   araclariKur();
   menuleriBagla();
   kartiBagla();
+  gunuBagla();
   alanlariBagla();
 }
 
@@ -65,7 +68,8 @@ void FrmMain::Load() {
   alanlaribosalt();
   Eskialanmain();
   shell::Setkayitlarioku(istasyon, *this, shell::font_record::card);
-  txttarih.setText(text::shortDate(istasyon.clock.today()));
+  bugun_ = istasyon.clock.today();
+  gunuGoster(bugun_);
   ayarlarioku();
   isimleriAc(false);
   tbToolBar.setButtonEnabled("muayene", false);
@@ -81,7 +85,7 @@ void FrmMain::Load() {
 
 void FrmMain::Activate() {
   Pexam.setVisible(istasyon.acik("dexam"));
-  Liste.setToolTip(phrase(istasyon, shell::Phrase::NobodyExamined));
+  gunlukListele();
 }
 
 void FrmMain::Unload() {
@@ -102,6 +106,7 @@ void FrmMain::klasorleriAc() {
 void FrmMain::basliklariYenile() {
   RecordScreen::basliklariYenile();
   hakkindaYaz();
+  gunlukBaslik();
 }
 
 // The workspace is set up anew for its words; on a polyclinic copy the chosen speciality stays the
@@ -149,10 +154,19 @@ void FrmMain::sigaraGirisi() {
   tbToolBar.setButtonVisible("smok", shown);
 }
 
+// What the user's other stations wrote into the settings.
+void FrmMain::digerleriniGor() {
+  const platform::Status seen = istasyon.settings.refresh();
+  if (!seen) durumYaz(seen.text());
+}
+
 void FrmMain::saatVurusu() {
   const text::DateTime now = istasyon.clock.now();
   sbDurum.setPanel(1, text::shortDate(now));
   sbDurum.setPanel(2, text::shortTime(now));
+  ++vurus_;
+  if (vurus_ % ticksPerLook == 0) digerleriniGor();
+  if (vurus_ % ticksPerDayList == 0) gunuTazele();
   const auto counter = text::wholeNumber(idk.caption()).value_or(6);
   if (counter == 6) return;
   idk.setCaption(std::to_string(counter + 1));

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/forms/button.h"
 #include "platform/forms/label.h"
@@ -76,6 +77,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
+  forms::MenuItem çizgi9{MnuSecenek, "çizgi9", forms::MenuKind::Separator};
+  forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
+  forms::MenuItem mnugebekart{MnuSecenek, "mnugebekart"};
 
   forms::MenuItem MnuYardim{*this, "MnuYardim"};
   forms::MenuItem mnuhakkinda{MnuYardim, "mnuhakkinda"};
@@ -172,6 +176,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   bool hastaoku() override;
   void Eskialanmain() override { Eskialan(); }
+  void hastaSec(const std::string& name) override;
+  [[nodiscard]] bool gizliMi(std::string_view key) const override;
   void kayityap();
   void Kaydet() override;
   void Sil() override;
@@ -197,6 +203,14 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   [[nodiscard]] std::string fotograf() const override { return txtfoto.text(); }
   [[nodiscard]] const std::string& baslik() const override { return caption(); }
 
+  // Brings the patient of the clicked row of the day's list onto the card and opens the
+  // examination, which finds the day in Station::SeciliTarih.
+  void gunlukMuayenebul();
+  // Saves every card anew, which restores the value lists and cuts what is too long.
+  void Tamir2();
+  // Adds a card for every name of the Pregnancy table that has none.
+  void Command1();
+
   // Fits the photograph into its panel.
   void ResimBoyutla();
 
@@ -211,6 +225,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void araclariKur();
   void kartiBagla();
   void ekranAc(const forms::MenuItem& entry, std::string_view screen);
+  [[nodiscard]] bool kartSaklandi();
   bool tusBas(std::string_view key) override;
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);
@@ -219,23 +234,36 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   NameCheck isimBitti();
   NameCheck adasSor();
   [[nodiscard]] bool baskaHasta(const std::string& name);
-  void hastaSec(const std::string& name);
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
   void hastayiGoster(const std::string& name);
   void saatVurusu();
+  void digerleriniGor();
   void isimYazildi();
   void listeyiBaslat(dao::Fold fold);
   void listeyiSurdur();
   void listeyiSay();
   void listeyiKapat();
-  [[nodiscard]] bool gizliMi(std::string_view key) const;
   void isimleriAc(bool unlocked);
   void isimSifresi();
+  void gizlileriSec();
 
+  void gunuBagla();
+  void gunuGoster(const text::DateTime& day);
+  void tarihBitti();
+  void gunlukListele();
+  void gunlukBaslik();
+  [[nodiscard]] bool gizliHasta(const std::string& name);
+  void gunuTazele();
+
+  [[nodiscard]] dao::Status kartiYenile(const std::string& name);
+  [[nodiscard]] bool dogumSaklanir() const;
+
+  void yeniIsmiSor();
   [[nodiscard]] dao::Status kartiYaz();
-  [[nodiscard]] dao::Status kaydiBul();
+  [[nodiscard]] dao::Status satiriYaz(const std::string& key);
+  [[nodiscard]] dao::Status hastayiSil(const std::string& name);
   void listelereEkle();
 
   void yasGoster();
@@ -258,7 +286,11 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   // Tasks that were put off look whether the card is still there.
   std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);
   bool listeBekliyor_ = false;
-  std::string aranan_;  // the text that the list stands for
+  std::string aranan_;               // the text that the list stands for
+  std::vector<std::string> gunluk_;  // the full names behind the rows of the day's list
+  text::DateTime gun_;               // the day that it shows
+  text::DateTime bugun_;             // today, when it was last looked at
+  unsigned vurus_ = 0;               // ticks since the program came up
   Extent panofoto_;
   int cinsiyet_ = 2;  // the row of the sex that was chosen last
 };

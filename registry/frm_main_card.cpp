@@ -7,24 +7,26 @@
 #include "registry/card_fields.h"
 #include "registry/frm_main.h"
 #include "shell/age.h"
+#include "shell/blood_groups.h"
 #include "shell/list_completion.h"
 #include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
+#include "stores/patient_cascade.h"
 #include "stores/value_list.h"
 
 namespace registry {
 
 namespace {
 
+using stores::PatientCascade;
+
 constexpr int female = 0;
 constexpr int male = 1;
 constexpr int unknownSex = 2;
 constexpr forms::Colour femaleColour = forms::fromBgr(0xC0C0FF);
 constexpr forms::Colour maleColour = forms::fromBgr(0xFFC0C0);
-constexpr std::array bloodGroups{"0 Rh(+)", "0 Rh(-)", "A Rh(+)",  "A Rh(-)",
-                                 "B Rh(+)", "B Rh(-)", "AB Rh(+)", "AB Rh(-)"};
 
 }  // namespace
 
@@ -54,7 +56,7 @@ void FrmMain::kartiBagla() {
 
 void FrmMain::Listeleriyaz() {
   ComCinsiyet.setItems({metinbul(istasyon, "kadin"), metinbul(istasyon, "Erkek"), ""});
-  ComKanGrubu.setItems({bloodGroups.begin(), bloodGroups.end()});
+  ComKanGrubu.setItems({shell::bloodGroups.begin(), shell::bloodGroups.end()});
   for (const ListField& row : listFields()) {
     static_cast<forms::ComboBox&>(row.control(*this))
         .setItems(stores::values(istasyon.stores.personal, row.table));
@@ -86,33 +88,40 @@ bool FrmMain::hastaoku() {
   return true;
 }
 
-// Asks about a new name and seeks the row to write, which is the old name's.
-dao::Status FrmMain::kaydiBul() {
+// Another name is written only with consent.
+void FrmMain::yeniIsmiSor() {
   const std::string old = TxtEskiİsim.text();
-  if (!old.empty() && old != Txtİsim.text()) {
-    const bool rename =
-        istasyon.evetMi(old + ", " + Txtİsim.text() + metinbul(istasyon, "msgisimdegisti"));
-    if (!rename) Txtİsim.setText(old);
-  }
-  const dao::Status sought = tablo().Seek("=", old.empty() ? Txtİsim.text() : old);
-  // A card that another station deleted meanwhile is stored anew, under the name on the screen.
-  if (!sought || !tablo().NoMatch() || old.empty()) return sought;
-  return tablo().Seek("=", Txtİsim.text());
+  if (old.empty() || old == Txtİsim.text()) return;
+  const bool rename =
+      istasyon.evetMi(old + ", " + Txtİsim.text() + metinbul(istasyon, "msgisimdegisti"));
+  if (!rename) Txtİsim.setText(old);
 }
 
+// The card and, under another name, all that carried the old one: everything or nothing.
 dao::Status FrmMain::kartiYaz() {
-  auto transaction = istasyon.stores.personal.database.beginTransaction();
-  if (!transaction) return transaction.error();
+  const std::string name = Txtİsim.text();
+  const std::string old = TxtEskiİsim.text().empty() ? name : TxtEskiİsim.text();
+  const auto work = old == name ? PatientCascade::Work::Store : PatientCascade::Work::Rename;
+  auto change = PatientCascade::begin(istasyon.stores, work);
+  if (!change) return change.error();
+  dao::Status status = old == name ? dao::Status() : change->rename(old, name);
+  if (status) status = satiriYaz(old);
+  if (!status) return status;
+  listelereEkle();
+  return change->commit();
+}
+
+// A card that another station deleted or renamed meanwhile is stored anew, under the name on the
+// screen.
+dao::Status FrmMain::satiriYaz(const std::string& key) {
+  const dao::Status sought = tablo().Seek("=", key);
+  if (!sought) return sought;
   const dao::Status begun = tablo().NoMatch() ? tablo().AddNew() : tablo().Edit();
   if (!begun) return begun;
   const dao::Status moved = Forumalanlaritasi();
   const dao::Status updated = moved ? tablo().Update() : moved;
-  if (!updated) {
-    tablo().CancelUpdate();
-    return updated;
-  }
-  listelereEkle();
-  return transaction->commit();
+  if (!updated) tablo().CancelUpdate();
+  return updated;
 }
 
 // A value that its list refuses, such as one wider than the list's column, stays on the card alone.
@@ -126,8 +135,8 @@ void FrmMain::listelereEkle() {
 // A failed write leaves the card as it is, still to be saved: what was typed is not lost.
 void FrmMain::kayityap() {
   Txtİsim.setText(text::trim(Txtİsim.text()));
-  const dao::Status found = kaydiBul();
-  const dao::Status written = found ? kartiYaz() : found;
+  yeniIsmiSor();
+  const dao::Status written = kartiYaz();
   if (!written) return kaydedilemedi(written);
   TxtEskiİsim.setText(Txtİsim.text());
   hastayiGoster(Txtİsim.text());
@@ -171,7 +180,7 @@ void FrmMain::alanlaribosalt() {
   txtyaşı.setCaption("");
   istasyon.SeciliHasta.clear();
   listeyiKapat();
-  tbToolBar.setButtonImage("muayene", shell::visitImage(istasyon.BransNo, shell::Visits::None));
+  ButtonsForPatient();
   durumYaz({});
 }
 
@@ -179,11 +188,21 @@ void FrmMain::Sil() {
   if (TxtEskiİsim.text().empty() || TxtEskiİsim.text() != Txtİsim.text()) return;
   if (!tablo().Seek("=", TxtEskiİsim.text()) || tablo().NoMatch()) return;
   if (!istasyon.evetMi(Txtİsim.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
-  const dao::Status deleted = tablo().Delete();
+  const dao::Status deleted = hastayiSil(TxtEskiİsim.text());
   if (!deleted) return istasyon.host.runtimeError(deleted);
   Listeleriyaz();
   alanlaribosalt();
   Eskialanmain();
+}
+
+// Sought anew behind the question: another station may have been quicker.
+dao::Status FrmMain::hastayiSil(const std::string& name) {
+  auto change = PatientCascade::begin(istasyon.stores, PatientCascade::Work::Delete);
+  if (!change) return change.error();
+  dao::Status status = tablo().Seek("=", name);
+  if (status) status = tablo().Delete();
+  if (status) status = change->digerkayitlarisil(name);
+  return status ? change->commit() : status;
 }
 
 bool FrmMain::kaydedilebilir() {

@@ -1,9 +1,9 @@
 // Menus and toolbar of the main window: which entry does what.
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "registry/frm_main.h"
-#include "shell/phrases.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
 #include "stores/visit_ledger.h"
@@ -18,7 +18,7 @@ struct EntryScreen {
 };
 
 // The screen behind each entry, by its name in the screen directory.
-constexpr std::array<EntryScreen, 36> entryScreens{{
+constexpr std::array<EntryScreen, 37> entryScreens{{
     {&FrmMain::mnumuayene1, "FrmExam"},
     {&FrmMain::MnuMuayene2, "FrmExam"},
     {&FrmMain::MnuMuayene3, "FrmExam"},
@@ -46,6 +46,7 @@ constexpr std::array<EntryScreen, 36> entryScreens{{
     {&FrmMain::mnumuayenetarihleri, "frmexamdate"},
     {&FrmMain::mnulensstok, "frmlensstock"},
     {&FrmMain::mnubekdoğum, "frmsearchgrav"},
+    {&FrmMain::mnubul, "FrmFind"},
     {&FrmMain::mnumuayeneara, "frmsearch"},
     {&FrmMain::mnutestara, "frmsearchtest"},
     {&FrmMain::mnuameliyatara, "frmsearchgen"},
@@ -91,7 +92,8 @@ void FrmMain::menuleriBagla() {
   });
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
-  mnubul.Click.connect([this] { Txtİsim.setFocus(); });
+  mnutamir.Click.connect([this] { Tamir2(); });
+  mnugebekart.Click.connect([this] { Command1(); });
   mnugeri.setShortcut("Ctrl+PgUp");
   mnuileri.setShortcut("Ctrl+PgDown");
   mnubul.setShortcut("Ctrl+F");
@@ -101,13 +103,23 @@ void FrmMain::menuleriBagla() {
       shell::bransSec(istasyon, *this, option->name());
       sbDurum.setPanel(5, caption());
       ButtonsForPatient();
+      gunlukListele();
     });
   }
 }
 
+// A record belongs to a stored card: what was typed on the card is saved first, with the questions
+// that a save asks.
 void FrmMain::ekranAc(const forms::MenuItem& entry, std::string_view screen) {
-  if (istasyon.screens.has(screen)) return istasyon.ekranAc(screen);
-  istasyon.bilgi(entry.caption().substr(1) + phrase(istasyon, shell::Phrase::NotInThisVersion));
+  const bool clinical = std::ranges::any_of(
+      clinicalEntries, [&](forms::MenuItem FrmMain::*each) { return &(this->*each) == &entry; });
+  if (clinical && istasyon.screens.has(screen) && !kartSaklandi()) return;
+  istasyon.ekranAc(screen, entry.caption());
+}
+
+bool FrmMain::kartSaklandi() {
+  if (mnukaydet.enabled()) Kaydet();
+  return !mnukaydet.enabled() && !TxtEskiİsim.text().empty();
 }
 
 bool FrmMain::tusBas(std::string_view key) {
@@ -119,7 +131,7 @@ bool FrmMain::tusBas(std::string_view key) {
   if (key == "smok") return mnusigarabp.press(), true;
   if (key == "keyclose") return isimSifresi(), true;
   if (key == "keyopen") return isimleriAc(false), true;
-  if (key == "idpass") return istasyon.ekranAc("Frmkey"), true;
+  if (key == "idpass") return gizlileriSec(), true;
   return false;
 }
 

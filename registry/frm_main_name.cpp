@@ -34,12 +34,26 @@ void FrmMain::isimleriAc(bool unlocked) {
   tbToolBar.setButtonVisible("keyclose", !unlocked);
   tbToolBar.setButtonVisible("keyopen", unlocked);
   tbToolBar.setButtonVisible("idpass", unlocked && istasyon.screens.has("Frmkey"));
+  listeyiKapat();
+  gunlukListele();
 }
 
 void FrmMain::isimSifresi() {
   if (!shell::sifreSor(istasyon, shell::password::names)) return;
   istasyon.SifreSonucu = 0;
   isimleriAc(true);
+}
+
+// The card carries the mark along: it must not write an old one back.
+void FrmMain::gizlileriSec() {
+  istasyon.ekranAc("Frmkey");
+  listeyiKapat();
+  gunlukListele();
+  dao::Recordset& cards = tablo();
+  if (TxtEskiİsim.text().empty() || !cards.Seek("=", TxtEskiİsim.text()) || cards.NoMatch()) return;
+  const bool changed = mnukaydet.enabled();
+  txtkey.setText(text::trimmed(cards.Fields("Key").text()));
+  if (!changed) Eskialanmain();
 }
 
 // A key that left the text as it was, such as Ctrl coming up after Ctrl+S, asks for no list.

@@ -128,12 +128,53 @@ constexpr std::array optionRows{
 };
 
 constexpr std::array dialogRows{
-    CaptionRow{"buttamam", "Tamam"},          CaptionRow{"Butİptal", "iptal"},
-    CaptionRow{"butkapat", "Tamam"},          CaptionRow{"Frmbirthday", "dogumgunu", Window},
-    CaptionRow{"Lvisim", "dogumgunu"},        CaptionRow{"frmpass", "sifre", Window},
-    CaptionRow{"txtsifre", "sifre"},          CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
-    CaptionRow{"frmmax", "fotograf", Window}, CaptionRow{"frmabout", "hakkinda", Window},
-    CaptionRow{"SclYatay", "Yatay"},          CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"buttamam", "Tamam"},
+    CaptionRow{"Butİptal", "iptal"},
+    CaptionRow{"butkapat", "Tamam"},
+    CaptionRow{"Frmbirthday", "dogumgunu", Window},
+    CaptionRow{"Lvisim", "dogumgunu"},
+    CaptionRow{"frmpass", "sifre", Window},
+    CaptionRow{"txtsifre", "sifre"},
+    CaptionRow{"ButŞifreDeğiştir", "sifredegistir"},
+    CaptionRow{"frmmax", "fotograf", Window},
+    CaptionRow{"frmabout", "hakkinda", Window},
+    CaptionRow{"SclYatay", "Yatay"},
+    CaptionRow{"SclDüşey", "dusey"},
+    CaptionRow{"Frmkey", "isimgizle", Window},
+    CaptionRow{"txtara", "Ara", Plain, "Frmkey"},
+    CaptionRow{"Lstkey", "isim"},
+};
+
+constexpr std::array examRows{
+    CaptionRow{"mnureçete", "recete", Menu},
+    CaptionRow{"mnuistem", "istem", Menu},
+    CaptionRow{"mnugözlük", "gozlukrecetesi", Menu},
+    CaptionRow{"mnuresim", "Resim", Menu},
+    CaptionRow{"mnufilm", "Film", Menu},
+    CaptionRow{"mnuwarn", "warning", Menu},
+    CaptionRow{"mnumuayenedökümü", "muayenedokumu", Menu},
+    CaptionRow{"Lstmuayeneler", "Tarihler"},
+    CaptionRow{"TabStrip1", "Muayene", Plain, "FrmExam"},
+    CaptionRow{"pgenel", "Genel"},
+    CaptionRow{"pözel", "ozel"},
+    CaptionRow{"FKado", "kadindogum"},
+    CaptionRow{"FGoz", "goz"},
+    CaptionRow{"FKBB", "KBB"},
+    CaptionRow{"FKalp", "Kardiyoloji"},
+};
+
+constexpr std::array drugRows{
+    CaptionRow{"frmdrug", "ilac", Window}, CaptionRow{"Lstilaç", "ilac"},
+    CaptionRow{"buttasi", "Ekle"},         CaptionRow{"lblRp", "recete"},
+    CaptionRow{"txtrecete", "recete"},
+};
+
+constexpr std::array findRows{
+    CaptionRow{"FrmFind", "Bul", Window}, CaptionRow{"PDoğum", "dogumtarihi"},
+    CaptionRow{"PFiltre", "Filtreler"},   CaptionRow{"Frame1", "Listele"},
+    CaptionRow{"BulList", "Listele"},     CaptionRow{"ButTümListe", "tumliste"},
+    CaptionRow{"butbul", "Bul"},          CaptionRow{"ButFiltre", "Filtreler"},
+    CaptionRow{"ButGit", "Git"},          CaptionRow{"PBar", "Ara"},
 };
 
 constexpr std::array pictureRows{
@@ -153,7 +194,8 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   }());
   return all;
 }
-constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, pictureRows);
+constexpr auto allRows =
+    joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows, findRows, pictureRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -166,7 +208,6 @@ constexpr std::array toolTips{
     KeyedCaption{"keyclose", "isimgizle"},
     KeyedCaption{"keyopen", "isimsifrele"},
     KeyedCaption{"idpass", "listeduzenle"},
-    KeyedCaption{"resim", "Resim"},
     KeyedCaption{"Exit", "cik"},
     KeyedCaption{"Undo", "gerial"},
     KeyedCaption{"Cut", "Kes"},
@@ -179,13 +220,34 @@ constexpr std::array toolTips{
     KeyedCaption{"Align Left", "solayasla"},
     KeyedCaption{"Center", "Ortala"},
     KeyedCaption{"Align Right", "sagayasla"},
+    KeyedCaption{"recete", "recete"},
+    KeyedCaption{"istem", "istem"},
+    KeyedCaption{"test", "testsonuclari"},
+    KeyedCaption{"operation", "Ameliyat"},
+    KeyedCaption{"fizikgelişme", "fizikgelisme"},
+    KeyedCaption{"motmengelişme", "motormentalgel"},
+    KeyedCaption{"asi", "asi"},
+    KeyedCaption{"Gebe", "gebetakip"},
+    KeyedCaption{"Lens", "Lens"},
+    KeyedCaption{"glass", "gozlukrecetesi"},
+    KeyedCaption{"angio", "Anjiyo"},
+    KeyedCaption{"echo", "Eko"},
+    KeyedCaption{"efor", "Efor"},
+    KeyedCaption{"resim", "Resim"},
+    KeyedCaption{"film", "Film"},
+    KeyedCaption{"dokum", "muayenedokumu"},
 };
 
 constexpr std::array tabs{
-    KeyedCaption{"TSKişisel", "kisisel"},      KeyedCaption{"TSAdres", "Adres"},
-    KeyedCaption{"TSKurum", "Kurum"},          KeyedCaption{"TSNot", "Notlar"},
-    KeyedCaption{"TSAyarlar", "genelayarlar"}, KeyedCaption{"TSListeler", "Listeler"},
+    KeyedCaption{"TSKişisel", "kisisel"},
+    KeyedCaption{"TSAdres", "Adres"},
+    KeyedCaption{"TSKurum", "Kurum"},
+    KeyedCaption{"TSNot", "Notlar"},
+    KeyedCaption{"TSAyarlar", "genelayarlar"},
+    KeyedCaption{"TSListeler", "Listeler"},
     KeyedCaption{"TSBaşlık", "baslik"},
+    KeyedCaption{"TSGenel", "Genel"},
+    KeyedCaption{"TSÖzel", "ozel"},
 };
 
 constexpr std::array phrases{
@@ -194,6 +256,12 @@ constexpr std::array phrases{
     PhraseRow{"butikonseç", Phrase::LetterheadIcon},
     PhraseRow{"ImgBaşlık", Phrase::LetterheadPicture},
     PhraseRow{"Imgicon", Phrase::LetterheadIcon},
+    PhraseRow{"butdurdur", Phrase::Stop},
+    PhraseRow{"mnutamir", Phrase::SaveAllCards},
+    PhraseRow{"mnugebekart", Phrase::CardsFromPregnancies},
+    PhraseRow{"Lbulunan", Phrase::PatientCount},
+    PhraseRow{"ButTemizle", Phrase::ClearFilters},
+    PhraseRow{"ButDur", Phrase::Stop},
 };
 
 }  // namespace

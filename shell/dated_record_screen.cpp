@@ -5,6 +5,7 @@
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "shell/age.h"
+#include "shell/fees.h"
 #include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/text_lookup.h"
@@ -94,6 +95,8 @@ void DatedRecordScreen::kayitYuklendi() {
   date ? txttarih.setDate(*date) : txttarih.setText("");
   ResimVar();
   satiriSec();
+  const auto fee = std::ranges::find(alanlar(), "Fee", &FieldRow::column);
+  if (fee != alanlar().end()) eskiUcretSor(istasyon, kontrol(*fee));
 }
 
 std::string DatedRecordScreen::YeniAlanlar() {

@@ -8,6 +8,8 @@ namespace shell {
 // The record numbers, one per screen or family of screens.
 namespace font_record {
 inline constexpr int card = 1;
+inline constexpr int examination = 9;  // and the radiology report
+inline constexpr int find = 23;
 }  // namespace font_record
 
 // Applies the record's font to the form. A record that another form wrote last, or that was never

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace shell {
 
@@ -13,6 +14,12 @@ class PatientCard {
   // has no card. The caller takes the snapshot with Eskialanmain afterwards.
   virtual bool hastaoku() = 0;
   virtual void Eskialanmain() = 0;
+
+  // Brings the patient of that name onto the card as a choice in its own name list does: what was
+  // changed on the card is asked about first, and stays when it cannot be saved.
+  virtual void hastaSec(const std::string& name) = 0;
+  // Whether a card with that key mark is not to be shown while names are hidden.
+  [[nodiscard]] virtual bool gizliMi(std::string_view key) const = 0;
 
   // What stands on the card: the birth field as typed (a date or a year) and the list index of the
   // sex.

@@ -12,15 +12,14 @@ struct Row {
   const char* turkish;
 };
 
-constexpr std::array<Row, 23> phraseRows{{
+constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::NotInThisVersion, " is not part of this version yet.", " bu sürümde henüz yok."},
     {Phrase::StateSaved, "saved ", "kaydedildi "},
     {Phrase::StateChanged, "changed, not saved", "değişti, kaydedilmedi"},
     {Phrase::StateNotSaved, "could not be saved: ", "kaydedilemedi: "},
     {Phrase::PatientCount, "patients: ", "hasta: "},
     {Phrase::NoNameFound, "no patient begins with this name", "bu isimle başlayan hasta yok"},
-    {Phrase::NobodyExamined, "Nobody has been examined today yet.",
-     "Bugün henüz muayene yapılmadı."},
+    {Phrase::NobodyExamined, "Nobody was examined on this day.", "Bu tarihte muayene yok."},
     {Phrase::AboutText, "Patient records of the practice", "Muayenehane hasta kayıtları"},
     {Phrase::ChoosePhotograph, "Choose photograph", "Fotoğraf seç"},
     {Phrase::LetterheadPicture, "Letterhead picture", "Başlık resmi"},
@@ -30,6 +29,17 @@ constexpr std::array<Row, 23> phraseRows{{
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
     {Phrase::RecordGone, "this record was deleted at another station",
      "bu kayıt başka bir istasyonda silinmiş"},
+    {Phrase::Stop, "Stop", "Durdur"},
+    {Phrase::HiddenCount, "hidden: ", "gizli: "},
+    {Phrase::SaveAllCards, "Save All Cards Anew", "Tüm Kartları Yeniden Kaydet"},
+    {Phrase::CardsSaved, "Cards saved anew: ", "Yeniden kaydedilen kart: "},
+    {Phrase::CardsFromPregnancies, "Add Cards from Pregnancies", "Gebeliklerden Kart Ekle"},
+    {Phrase::CardsAdded, "Cards added: ", "Eklenen kart: "},
+    {Phrase::CardsPassedOver, "Cards that could not be saved: ", "Kaydedilemeyen kart: "},
+    {Phrase::NobodyFound, "Nobody fits all filters. Go back and clear some of them.",
+     "Tüm filtrelere uyan hasta yok. Geri dönüp bazı filtreleri boşaltınız."},
+    {Phrase::SearchStopped, "stopped", "durduruldu"},
+    {Phrase::ClearFilters, "Clear", "Temizle"},
     {Phrase::PictureHint,
      "Choose a picture to see it here; a double click on a place opens a file.",
      "Görmek için bir resim seçin; bir yere çift tıklamak dosya açar."},
@@ -44,7 +54,7 @@ constexpr std::array<Row, 23> phraseRows{{
     {Phrase::PicturePathTooLong,
      "The name of the file with its folders is too long. Longest, in characters: ",
      "Dosyanın klasörleriyle birlikte adı çok uzun. En çok karakter: "},
-}};
+});
 
 }  // namespace
 

@@ -23,6 +23,16 @@ enum class Phrase {
   OpeningFailed,
   StoreFailed,
   RecordGone,
+  Stop,
+  HiddenCount,  // a number follows
+  SaveAllCards,
+  CardsSaved,  // a number follows
+  CardsFromPregnancies,
+  CardsAdded,       // a number follows
+  CardsPassedOver,  // a number follows
+  NobodyFound,
+  SearchStopped,
+  ClearFilters,
   PictureHint,
   PictureMissing,
   PictureFolder,

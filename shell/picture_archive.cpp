@@ -51,7 +51,7 @@ void resimArsivi(Station& istasyon, RecordScreen& owner, const PictureRecord& re
   for (std::size_t i = 0; i < pictureCount; ++i) {
     if (fields[i] != nullptr) istasyon.Resimler.yollar[i] = fields[i]->text();
   }
-  istasyon.ekranAc(pictureScreen);
+  istasyon.ekranAc(pictureScreen, record.entry);
   for (std::size_t i = 0; i < pictureCount; ++i) {
     if (fields[i] != nullptr) fields[i]->setText(istasyon.Resimler.yollar[i]);
   }

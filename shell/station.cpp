@@ -66,13 +66,15 @@ void Station::bilgi(std::string_view text) {
   mesaj(text, host::Buttons::Ok, host::Icon::Information);
 }
 
-void Station::ekranAc(std::string_view name) {
+void Station::ekranAc(std::string_view name, std::string_view entry, const Prepare& prepare) {
   const auto form = screens.make(name, *this);
   if (form == nullptr) {
-    bilgi(std::string(name) + phrase(*this, Phrase::NotInThisVersion));
-    return;
+    std::string asked(entry.empty() ? name : entry);
+    std::erase(asked, '&');
+    return bilgi(asked + phrase(*this, Phrase::NotInThisVersion));
   }
   form->Load();
+  if (prepare) prepare(*form);
   host.showModal(*form);
 }
 

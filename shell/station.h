@@ -2,8 +2,11 @@
 // can hold two stations on one folder in one process.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/host/clock.h"
 #include "platform/host/host.h"
@@ -46,11 +49,16 @@ struct Station {
   std::string OncekiTarih;     // the date field's value when it took the focus
   std::string AktarilanMetin;  // what the prescription or the request screen hands back; empty
                                // until it is accepted
-  int SifreSonucu = 0;         // 1 when the password dialog accepted
+  // The day whose record the examination screen selects when it opens; none for the latest.
+  std::optional<text::DateTime> SeciliTarih;
+  int SifreSonucu = 0;  // 1 when the password dialog accepted
 
   PictureExchange Resimler;  // the six shared slots of the picture archive
 
   stores::Stores stores;
+
+  // The list of the caller that opens the finder to pick addresses; null at all other times.
+  std::vector<std::string>* AdresListesi = nullptr;
 
   // The patient card, while the main window is loaded.
   PatientCard* kart = nullptr;
@@ -68,9 +76,11 @@ struct Station {
   host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon);
   [[nodiscard]] bool evetMi(std::string_view question);
   void bilgi(std::string_view text);
-  // Opens a screen by its name and waits until it is closed; says so when this version has no such
-  // screen.
-  void ekranAc(std::string_view name);
+  // Opens a screen by its name and waits until it is closed. `prepare` sets up the loaded screen
+  // before it is seen. When this version has no such screen, says so under the caption of the menu
+  // entry that asked for it, else under the screen's name.
+  using Prepare = std::function<void(forms::Form&)>;
+  void ekranAc(std::string_view name, std::string_view entry = {}, const Prepare& prepare = {});
 };
 
 inline constexpr std::string_view applicationName = "Sanavel";

@@ -74,6 +74,9 @@ constexpr std::array physicalExamFields{longText("Complain"),
                                         text("ECG", 250),
                                         text("Tele", 250)};
 constexpr std::array physicalExamIndexes{primaryKey("Count")};
+// The lists of a day find its examinations by their date.
+constexpr std::array examHelpers{dao::HelperDef{dao::HelperIndex::Plain, "Name"},
+                                 dao::HelperDef{dao::HelperIndex::Plain, "Date"}};
 
 constexpr std::array doctorsFields{text("Key", 2), text("Doctor", 40)};
 constexpr std::array doctorsIndexes{primaryKey("Doctor")};
@@ -99,7 +102,7 @@ constexpr std::array analyzeIndexes{primaryKey("Count")};
 }  // namespace
 
 const dao::TableDef physicalExam{"Physical Exam", physicalExamFields, physicalExamIndexes,
-                                 recordHelpers};
+                                 examHelpers};
 const dao::TableDef doctors{"Doctors", doctorsFields, doctorsIndexes, {}};
 const dao::TableDef drug{"drug", drugFields, drugIndexes, {}};
 const dao::TableDef tests{"Tests", testsFields, testsIndexes, {}};

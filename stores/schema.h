@@ -31,6 +31,9 @@ constexpr dao::FieldDef integer(std::string_view name) {
 constexpr dao::FieldDef byte(std::string_view name) {
   return {name, dao::FieldType::Byte};
 }
+constexpr dao::FieldDef yesNo(std::string_view name) {
+  return {name, dao::FieldType::Boolean};
+}
 constexpr dao::FieldDef autoNumber(std::string_view name) {
   return {name, dao::FieldType::Long, 0, dao::ZeroLength::Refused, dao::AutoIncrement::Yes};
 }

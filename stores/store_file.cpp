@@ -26,6 +26,17 @@ dao::Result<dao::Database> createStore(const std::string& path, dao::Order order
   return database;
 }
 
+dao::Result<dao::Database> openStoreFile(const std::string& path) {
+  auto database = dao::OpenDatabase(path);
+  if (!database) return database;
+  const auto current = database->orderIsCurrent();
+  if (!current) return std::unexpected(current.error());
+  if (*current || database->isReadOnly()) return database;
+  const dao::Status rebuilt = database->rebuildOrder();
+  if (!rebuilt) return std::unexpected(rebuilt);
+  return database;
+}
+
 dao::Result<dao::Recordset> openTable(dao::Database& database, const dao::TableDef& table) {
   // Helpers are only a faster way to an answer: without them the rules give the same.
   database.ensureHelpers(table).ignore();

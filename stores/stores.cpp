@@ -15,12 +15,6 @@ constexpr auto personalFile = "Data/Personal.mdb";
 constexpr auto clinicalFile = "Data/Sanavel.mdb";
 constexpr auto settingsFile = "Data/setting.dat";
 
-template <class Store>
-struct Handle {
-  std::string_view table;
-  dao::Recordset Store::*recordset;
-};
-
 // In the order of opening.
 constexpr std::array<Handle<PersonalStore>, 12> personalHandles{{
     {"IDCard", &PersonalStore::IDCard},
@@ -63,32 +57,13 @@ constexpr std::array<Handle<ClinicalStore>, 23> clinicalHandles{{
 }};
 
 template <class Store, std::size_t N>
-dao::Status openHandles(Store& store, const std::array<Handle<Store>, N>& handles, Schema schema) {
-  for (const Handle<Store>& handle : handles) {
-    auto recordset = openTable(store.database, *tableOf(schema, handle.table));
-    if (!recordset) return recordset.error();
-    store.*handle.recordset = std::move(*recordset);
-  }
-  return {};
-}
-
-// Keys made by the collation rules of another release would be missed by Seek; they are made anew.
-// A store that cannot be written stays as it is.
-dao::Status keepOrder(dao::Database& database) {
-  const auto current = database.orderIsCurrent();
-  if (!current) return current.error();
-  return *current || database.isReadOnly() ? dao::Status() : database.rebuildOrder();
-}
-
-template <class Store, std::size_t N>
 dao::Status openStore(Store& store, const std::string& path,
                       const std::array<Handle<Store>, N>& handles, Schema schema) {
   store = {};
-  auto database = dao::OpenDatabase(path);
+  auto database = openStoreFile(path);
   if (!database) return database.error();
   store.database = std::move(*database);
-  const dao::Status ordered = keepOrder(store.database);
-  return ordered ? openHandles(store, handles, schema) : ordered;
+  return openHandles(store, handles, schema);
 }
 
 // Opens, and on any failure creates what is missing and opens again.

@@ -51,10 +51,11 @@ struct LedgerRow {
 [[nodiscard]] bool hasLedgerRow(dao::Recordset& visit, std::string_view key);
 // An empty row when there is none.
 [[nodiscard]] dao::Result<LedgerRow> readLedgerRow(dao::Recordset& visit, std::string_view key);
-// A row without numbers is deleted.
+// A row without numbers is deleted. Outside the transaction that saves the record, another station
+// that writes the same row at the same moment makes this Exists or Stale.
 dao::Status writeLedgerRow(dao::Recordset& visit, std::string_view key, const LedgerRow& row);
 
-// A record as the list of dates shows it.
+// A record as the list of dates shows it: a whole day, day 0 for a record without a date.
 struct DatedRecord {
   std::int64_t number = 0;
   text::DateTime date;
@@ -66,14 +67,16 @@ struct DatedRecord {
 [[nodiscard]] dao::Result<std::vector<DatedRecord>> listedRecords(
     dao::Database& clinical, const RecordKind& kind, std::span<const std::int64_t> numbers);
 
-// What the table itself holds of the patient under the speciality, in the same order: the full
-// listing after a save or delete.
+// What the table itself holds of the patient under the speciality, by day and by number within a
+// day: the full listing after a save or delete. Names are the same as the store's keys are, without
+// the blanks around them.
 [[nodiscard]] dao::Result<std::vector<DatedRecord>> patientRecords(dao::Database& clinical,
                                                                    const RecordKind& kind,
                                                                    std::string_view patient,
                                                                    int speciality);
 
 // Makes the whole ledger anew from the record tables, all or nothing. Other when it was stopped.
+// Progress counts records; while rows are written it is called with all of them done.
 dao::Status vizitolustur(ClinicalStore& clinical, const Progress& progress = {});
 
 }  // namespace stores

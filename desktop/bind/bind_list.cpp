@@ -1,7 +1,10 @@
 #include "desktop/bind/bind_list.h"
 
+#include <QAction>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include "desktop/bind/list_models.h"
 
@@ -24,62 +27,68 @@ void showCurrent(QAbstractItemView& view, int row) {
   view.viewport()->update();
 }
 
-void showSelected(QAbstractItemView& view, const forms::ListBox& list) {
-  QItemSelection selection;
-  for (int row = 0; row < view.model()->rowCount(); ++row) {
-    const QModelIndex index = view.model()->index(row, 0);
-    if (list.items()[static_cast<std::size_t>(row)].selected) selection.select(index, index);
-  }
-  const QSignalBlocker quiet(view.selectionModel());
-  view.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-  view.viewport()->update();
-}
-
-void takeSelected(const QItemSelection& changed, bool selected, forms::ListBox& list) {
-  for (const QModelIndex& index : changed.indexes())
-    list.setSelected(static_cast<std::size_t>(index.row()), selected);
-}
-
 void refreshList(QListView& view, ListBoxModel& model, const forms::ListBox& list, Aspect aspect) {
   if (aspect == Aspect::Items) model.refresh();
   if (aspect != Aspect::Items && aspect != Aspect::Selection) return;
-  if (list.choice() == forms::ListChoice::Several) {
-    showSelected(view, list);
-  } else {
-    showCurrent(view, list.listIndex());
+  showCurrent(view, model.mapped(list.listIndex()));
+  view.viewport()->update();
+}
+
+void toggle(const QModelIndex& index, forms::ListBox& list) {
+  if (!index.isValid()) return;
+  const auto row = static_cast<std::size_t>(index.row());
+  list.setSelected(row, !list.items()[row].selected);
+}
+
+// The space bar on the marked row.
+class SpaceBar : public QObject {
+ public:
+  SpaceBar(QListView& view, forms::ListBox& list, QObject* parent)
+      : QObject(parent), view_(view), list_(list) {
+    view.installEventFilter(this);
   }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Space) return false;
+    toggle(view_.currentIndex(), list_);
+    return true;
+  }
+
+ private:
+  QListView& view_;
+  forms::ListBox& list_;
+};
+
+// The frame of an empty box has to be seen on a dark ground too.
+class BoxedRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->palette.setColor(QPalette::Window, option->palette.color(QPalette::PlaceholderText));
+  }
+};
+
+// A check mark shows more than a colour, and a hundred thousand rows are as quick as ten.
+void checkRows(Binding& binding, QListView& view, forms::ListBox& list) {
+  QObject::connect(&view, &QListView::clicked, &binding,
+                   [&list](const QModelIndex& index) { toggle(index, list); });
+  new SpaceBar(view, list, &binding);
+  view.setItemDelegate(new BoxedRows(&view));
 }
 
-void listenToSeveral(Binding& binding, QListView& view, forms::ListBox& list) {
-  view.setSelectionMode(QAbstractItemView::MultiSelection);
-  QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &binding,
-                   [&](const QItemSelection& on, const QItemSelection& off) {
-                     takeSelected(off, false, list);
-                     takeSelected(on, true, list);
-                   });
-}
-
-}  // namespace
-
-void bind(QListView& view, forms::ListBox& list) {
-  auto* const model = new ListBoxModel(list, &view);
+ListBoxModel* giveModel(QListView& view, const forms::ListBox& list, RowOrder order) {
+  auto* const model = new ListBoxModel(list, order, &view);
   view.setUniformItemSizes(true);
   view.setEditTriggers(QAbstractItemView::NoEditTriggers);
   view.setModel(model);
-  Binding& binding = attach(view, list, Follow::All,
-                            [&, model](Aspect aspect) { refreshList(view, *model, list, aspect); });
-  model->setParent(&binding);  // gone with it: the list may be gone before the view
-  if (list.choice() == forms::ListChoice::Several) listenToSeveral(binding, view, list);
-  QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
-                   [&](const QModelIndex& current) { list.setListIndex(current.row()); });
-  QObject::connect(&view, &QListView::doubleClicked, &binding, [&] { list.DblClick(); });
+  return model;
 }
 
-void bind(QTreeView& view, forms::ListView& list) {
+void bindRows(QAbstractItemView& view, forms::ListView& list) {
   auto* const model = new ListViewModel(list, &view);
-  view.setUniformRowHeights(true);
-  view.setRootIsDecorated(false);
-  view.setAlternatingRowColors(true);
   view.setModel(model);
   Binding& binding = attach(view, list, Follow::All, [&view, &list, model](Aspect aspect) {
     if (aspect == Aspect::Items) model->refresh();
@@ -89,7 +98,54 @@ void bind(QTreeView& view, forms::ListView& list) {
   model->setParent(&binding);
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
                    [&](const QModelIndex& current) { list.setSelectedRow(current.row()); });
-  QObject::connect(&view, &QTreeView::doubleClicked, &binding, [&] { list.DblClick(); });
+  QObject::connect(&view, &QAbstractItemView::doubleClicked, &binding, [&] { list.DblClick(); });
+}
+
+}  // namespace
+
+void bind(QListView& view, forms::ListBox& list, RowOrder order) {
+  ListBoxModel* const model = giveModel(view, list, order);
+  Binding& binding = attach(view, list, Follow::All,
+                            [&, model](Aspect aspect) { refreshList(view, *model, list, aspect); });
+  model->setParent(&binding);  // gone with it: the list may be gone before the view
+  if (list.choice() == forms::ListChoice::Several) checkRows(binding, view, list);
+  QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
+                   [&list, model](const QModelIndex& current) {
+                     list.setListIndex(model->mapped(current.row()));
+                   });
+  QObject::connect(&view, &QListView::doubleClicked, &binding, [&] { list.DblClick(); });
+}
+
+void bindTaken(QListView& view, forms::ListBox& list) {
+  ListBoxModel* const model = giveModel(view, list, RowOrder::AsListed);
+  Binding& binding = attach(view, list, Follow::All, [&view, model](Aspect aspect) {
+    if (aspect == Aspect::Items) model->refresh();
+    if (aspect == Aspect::Items) view.viewport()->update();
+  });
+  model->setParent(&binding);
+  const auto take = [&list](const QModelIndex& index) {
+    list.setListIndex(-1);
+    list.setListIndex(index.row());
+  };
+  QObject::connect(&view, &QListView::clicked, &binding, take);
+  auto* const enter = new QAction(&view);
+  enter->setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+  enter->setShortcutContext(Qt::WidgetShortcut);
+  QObject::connect(enter, &QAction::triggered, &binding, [&view, take] {
+    if (view.currentIndex().isValid()) take(view.currentIndex());
+  });
+  view.addAction(enter);
+}
+
+void bind(QTreeView& view, forms::ListView& list) {
+  view.setUniformRowHeights(true);
+  view.setRootIsDecorated(false);
+  view.setAlternatingRowColors(true);
+  bindRows(view, list);
+}
+
+void bind(QTableView& view, forms::ListView& list) {
+  bindRows(view, list);
 }
 
 }  // namespace desktop

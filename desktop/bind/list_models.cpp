@@ -4,28 +4,19 @@
 
 namespace desktop {
 
-namespace {
-
-// The text at a place, as far as it is still there: the control may be ahead of the view.
-template <class Texts>
-QString textAt(const Texts& texts, int place) {
-  return place >= 0 && std::cmp_less(place, texts.size())
-             ? qs(texts[static_cast<std::size_t>(place)])
-             : QString();
-}
-
-}  // namespace
-
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
-  const auto row = static_cast<std::size_t>(index.row());
-  if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.count())
-    return {};
-  return qs(list_.items()[row].text);
+  const auto row = static_cast<std::size_t>(mapped(index.row()));
+  if (row >= list_.count()) return {};
+  const forms::ListItem& item = list_.items()[row];
+  if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return qs(item.text);
+  if (role == Qt::CheckStateRole && list_.choice() == forms::ListChoice::Several)
+    return item.selected ? Qt::Checked : Qt::Unchecked;
+  return {};
 }
 
 void ListBoxModel::refresh() {
   const int now = static_cast<int>(list_.count());
-  if (now < rows_ || rows_ == 0) {
+  if (now < rows_ || rows_ == 0 || order_ == RowOrder::Reversed) {
     beginResetModel();
     rows_ = now;
     endResetModel();
@@ -40,19 +31,20 @@ void ListBoxModel::refresh() {
 }
 
 QVariant ListViewModel::data(const QModelIndex& index, int role) const {
-  const auto row = static_cast<std::size_t>(index.row());
-  if ((role != Qt::DisplayRole && role != Qt::AccessibleTextRole) || row >= list_.rows().size())
-    return {};
-  return textAt(list_.rows()[row].cells, index.column());
+  if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
+  return qs(
+      list_.cell(static_cast<std::size_t>(index.row()), static_cast<std::size_t>(index.column())));
 }
 
 QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return {};
-  return textAt(list_.columns(), section);
+  // The control may be ahead of the view.
+  const bool known = std::cmp_less(section, list_.columns().size());
+  return known ? qs(list_.columns()[static_cast<std::size_t>(section)]) : QString();
 }
 
 void ListViewModel::refresh() {
-  const int rows = static_cast<int>(list_.rows().size());
+  const int rows = static_cast<int>(list_.rowCount());
   const int columns = static_cast<int>(list_.columns().size());
   if (columns == columns_ && rows > rows_) {
     beginInsertRows({}, rows_, rows - 1);

@@ -9,11 +9,15 @@
 
 namespace desktop {
 
+// Whether the first row of a list stands at the top or at the bottom.
+enum class RowOrder { AsListed, Reversed };
+
+// The rows of a list of which several can be chosen carry a check mark.
 class ListBoxModel : public QAbstractListModel {
   Q_OBJECT
  public:
-  ListBoxModel(const forms::ListBox& list, QObject* parent)
-      : QAbstractListModel(parent), list_(list) {}
+  ListBoxModel(const forms::ListBox& list, RowOrder order, QObject* parent)
+      : QAbstractListModel(parent), list_(list), order_(order) {}
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
     return parent.isValid() ? 0 : rows_;
@@ -21,9 +25,14 @@ class ListBoxModel : public QAbstractListModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   // The rows of the control changed. Rows that were added leave the view where it is.
   void refresh();
+  // The row of the control that a row of the view shows, and the other way round.
+  [[nodiscard]] int mapped(int row) const {
+    return order_ == RowOrder::AsListed || row < 0 ? row : rows_ - 1 - row;
+  }
 
  private:
   const forms::ListBox& list_;
+  RowOrder order_;
   int rows_ = 0;  // as the view knows it
 };
 

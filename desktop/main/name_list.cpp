@@ -22,7 +22,7 @@ NameList::NameList(forms::ListBox& list, QLineEdit& field)
       field_(field),
       view_(new HintList(this)),
       count_(new QLabel(this)),
-      model_(new ListBoxModel(list, this)) {
+      model_(new ListBoxModel(list, RowOrder::AsListed, this)) {
   setFrameShape(QFrame::StyledPanel);
   setFrameShadow(QFrame::Raised);
   setAutoFillBackground(true);

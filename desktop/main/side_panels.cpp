@@ -3,7 +3,9 @@
 #include <QVBoxLayout>
 
 #include "desktop/bind/bind_label.h"
+#include "desktop/bind/bind_list.h"
 #include "desktop/bind/bind_picture.h"
+#include "desktop/hint_list.h"
 #include "desktop/layout.h"
 
 namespace desktop {
@@ -72,7 +74,9 @@ QWidget* today(registry::FrmMain& form, QWidget& parent) {
   day->addWidget(captionFor(*date));
   day->addWidget(date, 1);
   layout->addLayout(day);
-  layout->addWidget(makeWidget(form.Liste, *box), 1);
+  auto* const list = new HintList(box);
+  bindTaken(*list, form.Liste);
+  layout->addWidget(list, 1);
   return box;
 }
 

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -10,6 +11,7 @@
 #include "desktop/bind/bind_label.h"
 #include "desktop/bind/bind_list.h"
 #include "desktop/bind/bind_text.h"
+#include "desktop/hint_list.h"
 #include "desktop/icons.h"
 #include "desktop/layout.h"
 
@@ -18,7 +20,9 @@ namespace desktop {
 namespace {
 
 constexpr QSize birthdaySize{460, 380};
+constexpr QSize hiddenNamesSize{480, 560};
 constexpr int passwordWidth = 380;
+constexpr int progressCharacters = 60;
 constexpr int iconSize = 48;
 
 struct Dialog {
@@ -83,6 +87,48 @@ std::unique_ptr<QWidget> passwordView(forms::Form& form) {
   dialog.column->addStretch(1);
   dialog.column->addLayout(buttons);
   password->setFocus();
+  return std::move(dialog.window);
+}
+
+std::unique_ptr<QWidget> hiddenNamesView(forms::Form& form) {
+  Dialog dialog;
+  dialog.window->resize(hiddenNamesSize);
+  auto* const sought = new QLineEdit(dialog.window.get());
+  bind(*sought, control<forms::TextBox>(form, "txtara"));
+  sought->setClearButtonEnabled(true);
+  auto* const search = new QHBoxLayout;
+  search->setSpacing(gap::normal);
+  search->addWidget(captionFor(*sought));
+  search->addWidget(sought, 1);
+  auto* const list = new HintList(dialog.window.get());
+  bind(static_cast<QListView&>(*list), control<forms::ListBox>(form, "Lstkey"));
+  auto* const count = new QLabel(dialog.window.get());
+  count->setForegroundRole(QPalette::PlaceholderText);
+  bind(*count, control<forms::Label>(form, "Lsayi"));
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(count, 1);
+  buttons->addWidget(dialog.button(form, "buttamam"));
+  buttons->addWidget(dialog.button(form, "Butİptal"));
+  dialog.column->addLayout(search);
+  dialog.column->addWidget(list, 1);
+  dialog.column->addLayout(buttons);
+  sought->setFocus();
+  return std::move(dialog.window);
+}
+
+std::unique_ptr<QWidget> progressView(forms::Form& form) {
+  Dialog dialog;
+  dialog.window->setMinimumWidth(characters(*dialog.window, progressCharacters));
+  auto* const bar = new QProgressBar(dialog.window.get());
+  bind(*bar, control<forms::ProgressBar>(form, "PBdurum"));
+  auto* const count = new QLabel(dialog.window.get());
+  count->setForegroundRole(QPalette::PlaceholderText);
+  bind(*count, control<forms::Label>(form, "Lsayi"));
+  auto* const below = new QHBoxLayout;
+  below->addWidget(count, 1);
+  below->addWidget(dialog.button(form, "butdurdur"));
+  dialog.column->addWidget(bar);
+  dialog.column->addLayout(below);
   return std::move(dialog.window);
 }
 

@@ -1,4 +1,4 @@
-// Small dialogs: birthdays, password, about.
+// Small dialogs: birthdays, password, hidden names, progress, about.
 #pragma once
 
 #include <QWidget>
@@ -10,6 +10,8 @@ namespace desktop {
 
 [[nodiscard]] std::unique_ptr<QWidget> birthdayView(forms::Form& form);
 [[nodiscard]] std::unique_ptr<QWidget> passwordView(forms::Form& form);
+[[nodiscard]] std::unique_ptr<QWidget> hiddenNamesView(forms::Form& form);
+[[nodiscard]] std::unique_ptr<QWidget> progressView(forms::Form& form);
 [[nodiscard]] std::unique_ptr<QWidget> aboutView(forms::Form& form);
 
 }  // namespace desktop

@@ -12,6 +12,7 @@
 #include "desktop/bind/bind_toolbar.h"
 #include "desktop/layout.h"
 #include "platform/forms/button.h"
+#include "platform/forms/grid.h"
 #include "platform/forms/list_control.h"
 #include "platform/forms/menu.h"
 #include "platform/forms/rich_text_box.h"
@@ -107,7 +108,8 @@ class GenericLayout {
       fields_ = nullptr;
       const bool large =
           as<forms::ListBox>(&control) != nullptr || as<forms::ListView>(&control) != nullptr ||
-          as<forms::RichTextBox>(&control) != nullptr || as<forms::Picture>(&control) != nullptr;
+          as<forms::Grid>(&control) != nullptr || as<forms::RichTextBox>(&control) != nullptr ||
+          as<forms::Picture>(&control) != nullptr;
       room()->addWidget(widget, large ? 1 : 0);
     }
   }

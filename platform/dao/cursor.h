@@ -89,5 +89,8 @@ class Cursor {
 [[nodiscard]] Result<std::unique_ptr<Cursor>> openSelect(std::shared_ptr<Engine> engine,
                                                          std::string_view text,
                                                          const std::vector<Value>& parameters);
+[[nodiscard]] Result<std::unique_ptr<Cursor>> openForward(std::shared_ptr<Engine> engine,
+                                                          std::string_view text,
+                                                          const std::vector<Value>& parameters);
 
 }  // namespace dao

@@ -44,11 +44,23 @@ std::string Database::path() const {
   return engine_ ? engine_->path().string() : "";
 }
 
+bool Database::sameKey(std::string_view one, std::string_view other) const {
+  return isOpen() ? engine_->collator().compare(one, other) == 0 : one == other;
+}
+
 Result<Recordset> Database::OpenRecordset(std::string_view source,
                                           const std::vector<Value>& parameters) {
   if (!isOpen()) return std::unexpected(closed());
   auto cursor =
       isSelect(source) ? openSelect(engine_, source, parameters) : openTable(engine_, source);
+  if (!cursor) return std::unexpected(cursor.error());
+  return Recordset(std::move(*cursor));
+}
+
+Result<Recordset> Database::OpenForward(std::string_view select,
+                                        const std::vector<Value>& parameters) {
+  if (!isOpen()) return std::unexpected(closed());
+  auto cursor = openForward(engine_, select, parameters);
   if (!cursor) return std::unexpected(cursor.error());
   return Recordset(std::move(*cursor));
 }
@@ -135,6 +147,10 @@ Result<std::int64_t> Database::nextNumber(std::string_view table, std::string_vi
   const auto row = statement->step(subject);
   if (!row) return std::unexpected(row.error());
   return statement->integer(0) + 1;
+}
+
+std::string Database::orderKey(std::string_view text) const {
+  return isOpen() ? engine_->collator().key(text) : std::string(text);
 }
 
 }  // namespace dao

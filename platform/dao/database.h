@@ -75,12 +75,21 @@ class Database {
   [[nodiscard]] Order order() const;
   [[nodiscard]] std::string path() const;
 
+  // Whether both texts are one key in the store's order.
+  [[nodiscard]] bool sameKey(std::string_view one, std::string_view other) const;
+
   // A table name gives a table-type recordset; a text that begins with SELECT gives a read-only set
   // of the rows that it finds now. "like" takes * ? # [a-z] [!x]; left, len and DateValue are
   // there; texts stand in single or double quotes, names with blanks in [brackets]. Missing when
   // there is no such table.
   [[nodiscard]] Result<Recordset> OpenRecordset(std::string_view source,
                                                 const std::vector<Value>& parameters = {});
+
+  // The rows of a select text, each read when MoveNext comes to it and none kept: forward only and
+  // without a count, for walks over very many rows. A read lock is held until Eof or Close, so a
+  // long walk is made of pages.
+  [[nodiscard]] Result<Recordset> OpenForward(std::string_view select,
+                                              const std::vector<Value>& parameters = {});
 
   // Runs one statement of the same language. The number of rows changed. The rules of the fields
   // (width, zero length) are not tested here, keys are.
@@ -102,6 +111,10 @@ class Database {
   // The highest number of the field plus one, 1 for an empty table. Only inside a transaction: no
   // other station can take the same number before it ends.
   [[nodiscard]] Result<std::int64_t> nextNumber(std::string_view table, std::string_view field);
+
+  // Bytes that are equal for texts that are one key, and compare as the texts do in the order of
+  // the store.
+  [[nodiscard]] std::string orderKey(std::string_view text) const;
 
   // Damaged, with what was found, unless every table and index is sound.
   [[nodiscard]] Status integrityCheck();

@@ -112,6 +112,16 @@ Status Engine::readMarks(const OpenOptions& options) {
   return {};
 }
 
+Status Engine::useOrder(Order order) {
+  if (!handle_) return closedFault();
+  if (order == order_ || otherCollator_) return {};
+  auto collator = std::make_unique<Collator>(order);
+  if (!collator->usable()) return {Fault::Other, "The collation rules of the system are missing."};
+  if (addCollation(handle_, order, *collator) != SQLITE_OK) return fault(path_.filename().string());
+  otherCollator_ = std::move(collator);
+  return {};
+}
+
 Result<std::int64_t> Engine::number(std::string_view sql) {
   const std::string subject = path_.filename().string();
   auto statement = prepare(sql, subject);

@@ -89,6 +89,9 @@ class Engine {
   void rollback();
   [[nodiscard]] bool inTransaction() const { return depth_ > 0; }
 
+  // Lets this connection compare the texts of a store of another order.
+  Status useOrder(Order order);
+
   // Writes the marks of a store into a file that has none.
   Status mark();
 
@@ -113,6 +116,7 @@ class Engine {
   sqlite3* handle_ = nullptr;
   Order order_;
   std::unique_ptr<Collator> collator_;
+  std::unique_ptr<Collator> otherCollator_;  // of the order that is not the store's own
   bool marked_ = false;
   int depth_ = 0;
   bool doomed_ = false;

@@ -40,16 +40,23 @@ bool outOfRoom(int systemError) {
 
 // The system's own error may stand with the connection, with the file or with its journal,
 // whichever was written last.
-bool outOfRoom(sqlite3* connection) {
-  if (outOfRoom(sqlite3_system_errno(connection))) return true;
+bool outOfRoom(sqlite3* connection, const char* store) {
   int last = 0;
-  sqlite3_file_control(connection, "main", SQLITE_FCNTL_LAST_ERRNO, &last);
+  sqlite3_file_control(connection, store, SQLITE_FCNTL_LAST_ERRNO, &last);
   if (outOfRoom(last)) return true;
   sqlite3_file* journal = nullptr;
-  sqlite3_file_control(connection, "main", SQLITE_FCNTL_JOURNAL_POINTER, &journal);
+  sqlite3_file_control(connection, store, SQLITE_FCNTL_JOURNAL_POINTER, &journal);
   if (journal == nullptr || journal->pMethods == nullptr) return false;
   journal->pMethods->xFileControl(journal, SQLITE_FCNTL_LAST_ERRNO, &last);
   return outOfRoom(last);
+}
+
+bool outOfRoom(sqlite3* connection) {
+  if (outOfRoom(sqlite3_system_errno(connection))) return true;
+  for (int position = 0; const char* store = sqlite3_db_name(connection, position); ++position) {
+    if (outOfRoom(connection, store)) return true;
+  }
+  return false;
 }
 
 const Meaning* constraint(int extended) {

@@ -83,6 +83,11 @@ struct Function {
 
 }  // namespace
 
+int addCollation(sqlite3* connection, Order order, const Collator& collator) {
+  return sqlite3_create_collation_v2(connection, collationName(order).data(), SQLITE_UTF8,
+                                     const_cast<Collator*>(&collator), compareTexts, nullptr);
+}
+
 int addFunctions(sqlite3* connection, Order order, const Collator& collator) {
   const std::array functions{
       Function{"fold_general", 1, foldText<Fold::General>},
@@ -95,8 +100,7 @@ int addFunctions(sqlite3* connection, Order order, const Collator& collator) {
   };
   constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
   void* context = const_cast<Collator*>(&collator);
-  int code = sqlite3_create_collation_v2(connection, collationName(order).data(), SQLITE_UTF8,
-                                         context, compareTexts, nullptr);
+  int code = addCollation(connection, order, collator);
   for (const Function& function : functions) {
     if (code != SQLITE_OK) return code;
     code = sqlite3_create_function_v2(connection, function.name, function.arguments, kFlags,

@@ -10,6 +10,9 @@
 
 namespace dao {
 
+// Adds the collation alone, for the texts of another store. The collator outlives the connection.
+int addCollation(sqlite3* connection, Order order, const Collator& collator);
+
 // Adds the collation of the store and the functions fold_general, fold_turkish, order_key, left,
 // len, DateValue and like. The collator outlives the connection. An engine result code.
 int addFunctions(sqlite3* connection, Order order, const Collator& collator);

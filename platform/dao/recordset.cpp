@@ -1,5 +1,7 @@
 #include "platform/dao/recordset.h"
 
+#include <algorithm>
+
 #include "platform/dao/cursor.h"
 #include "platform/text/fold.h"
 
@@ -14,12 +16,15 @@ Status closed() {
 
 int FieldNames::find(std::string_view name) const {
   if (expected_ < names_.size() && names_[expected_] == name) return static_cast<int>(expected_++);
-  for (std::size_t position = 0; position < names_.size(); ++position) {
-    if (!text::equalsNoCase(names_[position], name)) continue;
-    expected_ = position + 1;
-    return static_cast<int>(position);
+  // Most callers write names as the table does; comparing without case is much slower.
+  auto found = std::ranges::find(names_, name);
+  if (found == names_.end()) {
+    found = std::ranges::find_if(names_,
+                                 [&](const auto& held) { return text::equalsNoCase(held, name); });
   }
-  return -1;
+  if (found == names_.end()) return -1;
+  expected_ = static_cast<std::size_t>(found - names_.begin()) + 1;
+  return static_cast<int>(expected_ - 1);
 }
 
 dao::Value Field::Value() const {

@@ -13,9 +13,16 @@ class CommandButton : public Control {
   using Control::Control;
   // As the user does: a disabled or hidden button does nothing.
   void press() {
-    if (enabled() && visible()) Click();
+    if (usable()) Click();
   }
+  [[nodiscard]] bool usable() const { return enabled() && visible(); }
+  // Enter in a field or list of the form stands for it, while it can be pressed.
+  [[nodiscard]] bool isDefault() const { return default_; }
+  void setDefault() { default_ = true; }
   Event<> Click;
+
+ private:
+  bool default_ = false;
 };
 
 // A different value fires Click.

@@ -19,8 +19,13 @@ std::size_t ListBox::addItem(std::string_view text, long data) {
 }
 
 void ListBox::appendItems(std::vector<std::string> texts) {
-  items_.reserve(items_.size() + texts.size());
+  // No reserve: growing to the exact size each time would move all rows at every call.
   for (std::string& text : texts) items_.push_back({std::move(text), 0, false});
+  notify(Aspect::Items);
+}
+
+void ListBox::addItems(std::vector<ListItem> items) {
+  for (ListItem& item : items) items_.push_back(std::move(item));
   notify(Aspect::Items);
 }
 
@@ -55,8 +60,9 @@ std::string ListBox::text() const {
 }
 
 void ListBox::setSelected(std::size_t row, bool selected) {
-  items_.at(row).selected = selected;
+  if (std::exchange(items_.at(row).selected, selected) == selected) return;
   notify(Aspect::Selection);
+  ItemCheck();
 }
 
 void ListBox::setVisibleRows(int rows) {
@@ -68,8 +74,13 @@ void ListView::setColumns(std::vector<std::string> headings) {
   notify(Aspect::Items);
 }
 
-void ListView::addRow(Row row) {
-  rows_.push_back(std::move(row));
+void ListView::addRow(const Row& row) {
+  appendRows({&row, 1});
+}
+
+void ListView::appendRows(std::span<const Row> rows) {
+  if (rows.empty()) return;
+  for (const Row& row : rows) rows_.add(row.cells, row.key);
   notify(Aspect::Items);
 }
 
@@ -84,6 +95,11 @@ void ListView::setSelectedRow(int row) {
   if (std::exchange(selectedRow_, index) == index) return;
   notify(Aspect::Selection);
   if (index >= 0) ItemClick();
+}
+
+std::string ListView::selectedKey() const {
+  return selectedRow_ < 0 ? std::string()
+                          : std::string(key(static_cast<std::size_t>(selectedRow_)));
 }
 
 }  // namespace forms

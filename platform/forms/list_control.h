@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/forms/control.h"
+#include "platform/forms/packed_rows.h"
 
 namespace forms {
 
@@ -33,6 +35,8 @@ class ListBox : public Control {
   std::size_t addItem(std::string_view text, long data = 0);
   // Appends many rows at once, in their order; the widget is told once.
   void appendItems(std::vector<std::string> texts);
+  // The same with data and selection.
+  void addItems(std::vector<ListItem> items);
   // Other rows, in the order given; the index is dropped, and the widget is told once.
   void setItems(std::vector<ListItem> items);
   void removeItem(std::size_t row);
@@ -43,6 +47,7 @@ class ListBox : public Control {
   void setListIndex(int row);
   // The text of the focused row, empty when there is none.
   [[nodiscard]] std::string text() const;
+  // A different selection of the row fires ItemCheck.
   void setSelected(std::size_t row, bool selected);
 
   // How many rows the drop-down shows without scrolling; 0 leaves it to the window.
@@ -51,6 +56,7 @@ class ListBox : public Control {
 
   Event<> Click;
   Event<> DblClick;
+  Event<> ItemCheck;
 
  private:
   ListOrder order_;
@@ -60,31 +66,42 @@ class ListBox : public Control {
   int visibleRows_ = 0;
 };
 
-// Rows of columns with headings; the key of a row is the caller's own.
+// Rows of columns with headings, of any number. The key of a row is the caller's own and never
+// shown.
 class ListView : public Control {
  public:
   struct Row {
     std::vector<std::string> cells;
-    long key = 0;
+    std::string key = {};
   };
 
   using Control::Control;
 
   [[nodiscard]] const std::vector<std::string>& columns() const { return columns_; }
   void setColumns(std::vector<std::string> headings);
-  [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
-  void addRow(Row row);
+  [[nodiscard]] std::size_t rowCount() const { return rows_.size(); }
+  // Views live until the rows are cleared; empty for a row or column that is not there.
+  [[nodiscard]] std::string_view cell(std::size_t row, std::size_t column) const {
+    return rows_.cell(row, column);
+  }
+  [[nodiscard]] std::string_view key(std::size_t row) const { return rows_.key(row); }
+  void addRow(const Row& row);
+  // Appends many rows at once, in their order; the widget is told once.
+  void appendRows(std::span<const Row> rows);
   void clearRows();
+  // -1 when none is.
   [[nodiscard]] int selectedRow() const { return selectedRow_; }
   // Fires ItemClick when another row is selected.
   void setSelectedRow(int row);
+  // The key of the selected row, empty when none is.
+  [[nodiscard]] std::string selectedKey() const;
 
   Event<> ItemClick;
   Event<> DblClick;
 
  private:
   std::vector<std::string> columns_;
-  std::vector<Row> rows_;
+  PackedRows rows_;
   int selectedRow_ = -1;
 };
 

@@ -14,6 +14,10 @@ namespace text {
 [[nodiscard]] std::string lower(std::string_view text);
 // Turkish upper case: i becomes İ, ı becomes I, the rest as upper().
 [[nodiscard]] std::string upperTurkish(std::string_view text);
+// The same for tight loops: the result is written over `capitals`, whose memory is used again. The
+// text may not view into it.
+void upperInto(std::string& capitals, std::string_view text);
+void upperTurkishInto(std::string& capitals, std::string_view text);
 
 // Names of fields, tables and settings: i equals I, while İ and ı equal only themselves.
 [[nodiscard]] bool equalsNoCase(std::string_view a, std::string_view b);

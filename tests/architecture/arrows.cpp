@@ -20,8 +20,10 @@ const std::vector<Part> table{
     {"stores", {"platform/dao", "platform/files"}},
     {"shell", {"stores", "platform/host", "platform/settings", "shell/vocabulary"}},
     {"registry", {"shell"}},
+    {"exam", {"shell"}},
+    {"search", {"shell"}},
     {"images", {"shell"}},
-    {"app", {"registry", "images"}},
+    {"app", {"registry", "exam", "search", "images"}},
     {"tools", {"shell"}},
     {"desktop", {"app", "tools"}},
 };

@@ -2,6 +2,7 @@
 
 #include "desktop/bind/list_models.h"
 #include "desktop/hint_list.h"
+#include "desktop/hint_table.h"
 #include "tests/desktop/desk.h"
 
 namespace {
@@ -79,11 +80,43 @@ TEST(ListBinding, SeveralRowsAreMarkedTogether) {
   form.several.setSelected(1, true);
   QListView view;
   bind(view, form.several);
-  EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), 1);
-  view.selectionModel()->select(view.model()->index(3, 0), QItemSelectionModel::Select);
-  view.selectionModel()->select(view.model()->index(1, 0), QItemSelectionModel::Deselect);
-  EXPECT_TRUE(form.several.items()[3].selected);
-  EXPECT_FALSE(form.several.items()[1].selected);
+  int changes = 0;
+  form.several.ItemCheck.connect([&] { ++changes; });
+  const auto checked = [&](int row) {
+    return view.model()->index(row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>() ==
+           Qt::Checked;
+  };
+  EXPECT_TRUE(checked(1));
+  support::showActive(view);
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                    view.visualRect(view.model()->index(3, 0)).center());
+  view.setCurrentIndex(view.model()->index(1, 0));
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_TRUE(form.several.items()[3].selected && checked(3));
+  EXPECT_FALSE(form.several.items()[1].selected || checked(1));
+  EXPECT_EQ(changes, 2);
+}
+
+TEST(ListBinding, ARowIsTakenByAClickOrEnterAndAgain) {
+  ListForm form;
+  form.one.appendItems(names(3));
+  QListView view;
+  bindTaken(view, form.one);
+  std::vector<int> taken;
+  form.one.Click.connect([&] { taken.push_back(form.one.listIndex()); });
+  support::showActive(view);
+  view.setFocus();
+  QTest::keyClick(&view, Qt::Key_Down);
+  EXPECT_TRUE(taken.empty());
+  const auto click = [&] {
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                      view.visualRect(view.model()->index(2, 0)).center());
+  };
+  click();
+  click();
+  QTest::keyClick(&view, Qt::Key_Up);
+  QTest::keyClick(&view, Qt::Key_Return);
+  EXPECT_EQ(taken, (std::vector<int>{2, 2, 1}));
 }
 
 TEST(ListBinding, AListViewShowsColumnsAndRows) {
@@ -102,14 +135,39 @@ TEST(ListBinding, AListViewShowsColumnsAndRows) {
   EXPECT_EQ(view.model()->rowCount(), 0);
 }
 
-TEST(ListBinding, AnEmptyListSaysWhatToDo) {
-  ListForm form;
-  HintList view;
-  bind(view, form.one);
+template <class View, class List>
+void expectHint(List& list) {
+  View view;
+  bind(view, list);
   view.resize(200, 80);
   const QImage empty = view.grab().toImage();
-  form.one.setToolTip("Nobody yet.");
+  list.setToolTip("Nobody yet.");
   EXPECT_NE(view.grab().toImage(), empty);
+}
+
+TEST(ListBinding, AnEmptyListSaysWhatToDo) {
+  ListForm form;
+  expectHint<HintList>(form.one);
+  expectHint<HintTable>(form.view);
+}
+
+// Rows come in slices while the user is already reading.
+TEST(ListBinding, ATableGrowsUnderTheMark) {
+  ListForm form;
+  HintTable view;
+  bind(view, form.view);
+  form.view.setColumns({"İsim", "Tarih"});
+  view.show();
+  const std::vector<forms::ListView::Row> slice(1000, {.cells = {"Ayşe", "1991"}});
+  form.view.appendRows(slice);
+  view.setCurrentIndex(view.model()->index(7, 0));
+  for (int more = 0; more < 100; ++more) form.view.appendRows(slice);
+  support::settle();
+  EXPECT_EQ(view.model()->rowCount(), 101'000);
+  EXPECT_EQ(form.view.selectedRow(), 7);
+  EXPECT_EQ(view.currentIndex().row(), 7);
+  form.view.clearRows();
+  EXPECT_FALSE(view.currentIndex().isValid());
 }
 
 }  // namespace

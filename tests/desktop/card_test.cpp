@@ -2,6 +2,7 @@
 // the language.
 #include <QComboBox>
 #include <QListView>
+#include <QTimer>
 #include <QToolBar>
 
 #include "desktop/main/name_list.h"
@@ -59,6 +60,34 @@ TEST_F(Card, ANameIsFoundByItsFirstLetters) {
   EXPECT_FALSE(list.isVisible());
   EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QStringLiteral("Ayşe Yıldız"));
   EXPECT_EQ(desk.find<QLineEdit>("TxtDTarihi").text(), QStringLiteral("12.03.1991"));
+}
+
+// From the card to another patient without the mouse.
+TEST_F(Card, TheFinderBringsAPatientOntoTheCard) {
+  registerPatient("Ayşe Yıldız", "12.03.1991", "k");
+  press(Qt::Key_N, Qt::ControlModifier);
+  registerPatient("Işıl Çınar", "1980", "k");
+  const auto inFinder = [this](auto keys) {
+    QTimer::singleShot(0, qApp, [this, keys] {
+      settle();
+      keys();
+    });
+    press(Qt::Key_F, Qt::ControlModifier);
+  };
+  inFinder([this] {
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("Txtİsim"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("TxtSoyisim"))
+        << "nothing to search for yet";
+    typeHere("yıl");
+    press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("BulList"));
+    press(Qt::Key_Return);
+  });
+  EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QStringLiteral("Ayşe Yıldız"));
+  inFinder([this] { press(Qt::Key_Escape); });
+  EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QStringLiteral("Ayşe Yıldız"));
+  EXPECT_EQ(QApplication::activeWindow(), &desk.window());
 }
 
 TEST_F(Card, AChangeIsSavedAndARecordDeletedAfterAQuestion) {

@@ -18,8 +18,9 @@ namespace {
 using support::WindowDesk;
 
 // State that never shows.
-const std::set<std::string> neverShown{"TxtEskiİsim", "txtkey",  "txtfoto",  "idk",   "Netsıra",
-                                       "Lresim",      "lblpass", "lblsifre", "LblDil"};
+const std::set<std::string> neverShown{"TxtEskiİsim", "txtkey",    "txtfoto", "idk",
+                                       "Netsıra",     "Lresim",    "lblpass", "lblsifre",
+                                       "LblDil",      "ListFiltre"};
 // Containers and pictures without words of their own: what stands in them says what they are.
 const std::set<std::string> withoutWords{"Panofoto",  "panoresim", "sbDurum",
                                          "tbToolBar", "Timer1",    "LŞifbilgi"};

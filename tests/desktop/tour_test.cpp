@@ -14,10 +14,11 @@ TEST(Tour, TakesEveryScreenAndTabInBothLanguages) {
   const std::string folder = desk.folder / "tour";
   ASSERT_TRUE(desktop::tour(desk.host, desk.station, card, folder));
   const QDir pictures(desktop::qs(folder));
-  for (const char* name :
-       {"FrmMain-TSKişisel-tr", "FrmMain-TSNot-eng", "FrmMain-TSAdres-dark-tr",
-        "FrmMain-TSKurum-150-eng", "FrmMain-TSAdres-1024x700-tr", "FrmMain-names-tr",
-        "FrmOption-TSBaşlık-eng", "frmpass-tr", "Frmbirthday-eng", "Logo-tr", "frmabout-eng"}) {
+  for (const char* name : {"FrmMain-TSKişisel-tr", "FrmMain-TSNot-eng", "FrmMain-TSAdres-dark-tr",
+                           "FrmMain-TSKurum-150-eng", "FrmMain-TSAdres-1024x700-tr",
+                           "FrmMain-names-tr", "FrmOption-TSBaşlık-eng", "FrmFind-filters-dark-tr",
+                           "FrmFind-result-150-eng", "frmpass-tr", "Frmbirthday-eng", "Logo-tr",
+                           "frmabout-eng", "Frmkey-tr", "Frmkey-150-eng", "frmprogress-dark-tr"}) {
     const QImageReader reader(pictures.filePath(QString::fromUtf8(name) + QStringLiteral(".png")));
     EXPECT_GT(reader.size().width(), 100) << name;
   }

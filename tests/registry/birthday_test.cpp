@@ -11,8 +11,9 @@ struct Birthdays : support::Card {
     desk.station.ayarYaz("remday", daysAhead);
     std::vector<std::string> names;
     desk.host.modal["Frmbirthday"] = [&](forms::Form& form) {
-      for (const auto& row : dynamic_cast<registry::FrmBirthday&>(form).Lvisim.rows())
-        names.push_back(row.cells[0]);
+      const forms::ListView& list = dynamic_cast<registry::FrmBirthday&>(form).Lvisim;
+      for (std::size_t row = 0; row < list.rowCount(); ++row)
+        names.emplace_back(list.cell(row, 0));
     };
     registry::dogumGunuHatirlat(desk.station);
     return names;

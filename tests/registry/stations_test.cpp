@@ -25,6 +25,18 @@ TEST(Stations, SeeEachOthersPatientsAtOnce) {
   EXPECT_EQ(one.main.txtnot.text(), "from two");
 }
 
+TEST(Stations, OfOneUserSeeEachOthersSettings) {
+  const TemporaryFolder folder;
+  CardDesk one(folder.path());
+  CardDesk two(folder.path());
+  for (CardDesk* desk : {&one, &two})
+    desk->settings = settings::Settings(settings::openBackend(folder / "user/settings"));
+  one.station.ayarYaz("dexam", "1");
+  EXPECT_FALSE(two.station.acik("dexam"));
+  for (int i = 0; i < 20; ++i) two.main.Timer1.Tick();
+  EXPECT_TRUE(two.station.acik("dexam"));
+}
+
 TEST(Stations, ACardDeletedByAnotherIsStoredAnewWhenItIsSaved) {
   const TemporaryFolder folder;
   CardDesk one(folder.path());

@@ -62,6 +62,8 @@ TEST_F(Records, FeesAreAmountsOrStayAsTyped) {
     save("22.11.2026", "x");
     screen->txtücret.setText(typed);
     if (screen->mnukaydet.enabled()) screen->mnukaydet.press();
+    // What looks like old lira is asked about.
+    if (std::string_view(typed) == "1e300") desk.host.expect("YTL", host::Answer::No);
     ASSERT_TRUE(screen->alanlaritasi(text::wholeNumber(screen->txtnumara.text()).value()));
     EXPECT_EQ(screen->txtücret.text(), stored);
   }

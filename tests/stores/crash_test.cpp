@@ -1,43 +1,10 @@
 // Processes that end in the middle of their work, and disks that fill up.
-#include <signal.h>
-#include <sys/resource.h>
-#include <unistd.h>
-
-#include <array>
-
 #include "stores/value_list.h"
-#include "tests/platform/files/child_process.h"
+#include "tests/stores/crash_support.h"
 #include "tests/stores/stores_fixture.h"
 
 namespace stores {
 namespace {
-
-// Numbers that a process sends while it works.
-class Counter {
- public:
-  Counter() { EXPECT_EQ(::pipe(ends_.data()), 0); }
-  ~Counter() {
-    for (const int end : ends_) ::close(end);
-  }
-  Counter(const Counter&) = delete;
-  Counter& operator=(const Counter&) = delete;
-
-  bool send(int number) { return ::write(ends_[1], &number, sizeof number) == sizeof number; }
-  [[nodiscard]] int receive() {
-    int number = -1;
-    return ::read(ends_[0], &number, sizeof number) == sizeof number ? number : -1;
-  }
-  // What was sent and not received yet, when nobody sends any more.
-  [[nodiscard]] int last(int known) {
-    ::close(ends_[1]);
-    ends_[1] = -1;
-    for (int number = receive(); number >= 0; number = receive()) known = number;
-    return known;
-  }
-
- private:
-  std::array<int, 2> ends_{-1, -1};
-};
 
 std::string patient(int number) {
   return "Çağrı Işık " + std::to_string(number);
@@ -89,12 +56,6 @@ TEST(CrashTest, EverySaveThatSucceededOutlivesAKilledProcess) {
     EXPECT_LE(cards, last + 2);
     next = static_cast<int>(cards);
   }
-}
-
-void limitFileSize(rlim_t bytes) {
-  const rlimit limit{bytes, bytes};
-  ::setrlimit(RLIMIT_FSIZE, &limit);
-  ::signal(SIGXFSZ, SIG_IGN);
 }
 
 // Saves until there is no room; the number of the patients saved, or -1 when the fault is no full

@@ -4,6 +4,8 @@
 
 #include "stores/clinical_schema.h"
 #include "stores/personal_schema.h"
+#include "stores/smoking_schema.h"
+#include "stores/smoking_store.h"
 #include "tests/stores/stores_fixture.h"
 
 namespace stores {
@@ -40,9 +42,10 @@ void expectSame(const dao::Result<std::vector<Found>>& found, std::span<const Wa
     EXPECT_EQ(compare((*found)[row], wanted[row]), "");
 }
 
-void expectSchema(const dao::Database& database, Schema schema) {
+void expectSchema(const dao::Database& database, Schema schema,
+                  dao::Order order = dao::Order::General) {
   ASSERT_TRUE(database.isOpen());
-  EXPECT_EQ(database.order(), dao::Order::General);
+  EXPECT_EQ(database.order(), order);
   EXPECT_EQ(database.tables().value().size(), schema.size());
   for (const dao::TableDef& table : schema) {
     SCOPED_TRACE(table.name);
@@ -139,6 +142,30 @@ TEST_F(SchemaTest, EveryTableThatIsMissingComesBackAndTheOthersKeepTheirRows) {
     EXPECT_EQ(holds(cards(), patient), keepsCards);
     EXPECT_EQ(stores_.personal.Financier.RecordCount(), lost.name == "Financier" ? 0 : payers);
   }
+}
+
+TEST_F(SchemaTest, TheSmokingStoreIsMadeOnItsOwnAndComparesByTurkishRules) {
+  open();
+  EXPECT_FALSE(hasSmokingStore(stores_.folder));
+  EXPECT_EQ(OpenSmokingStore(stores_.folder).error().fault(), dao::Fault::Missing);
+  ASSERT_TRUE(CreateSmokingStore(stores_.folder));
+  auto smoking = OpenSmokingStore(stores_.folder);
+  ASSERT_TRUE(smoking);
+  expectSchema(smoking->database, smokingSchema(), dao::Order::Turkish);
+  const auto tables = smoking->database.tables().value();
+  EXPECT_EQ(tables, (std::vector<std::string>{"Smoke", "Smoke_Control", "Test", "Resuld", "Drug",
+                                              "prescription", "Side_Effect", "sec", "interval"}));
+  const std::array<std::size_t, 9> widths{23, 16, 6, 8, 5, 6, 4, 5, 3};
+  for (std::size_t table = 0; table < tables.size(); ++table)
+    EXPECT_EQ(smoking->database.fields(tables[table])->size(), widths[table]) << tables[table];
+  ASSERT_TRUE(add(smoking->Smoke, "name", "İNCİ IŞIK"));
+  ASSERT_TRUE(smoking->Smoke.Index("PrimaryKey1"));
+  EXPECT_TRUE(holds(smoking->Smoke, "inci ışık"));
+  EXPECT_FALSE(holds(smoking->Smoke, "inci işik"));
+  ASSERT_TRUE(add(smoking->Drug, "drug", "bant"));
+  EXPECT_EQ(add(smoking->Drug, "drug", "BANT").fault(), dao::Fault::Exists);
+  ASSERT_TRUE(smoking->database.dropTable("sec"));
+  EXPECT_TRUE(OpenSmokingStore(stores_.folder)) << "completed";
 }
 
 // Names with apostrophes and misspellings are what the screens ask for.

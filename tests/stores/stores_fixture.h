@@ -23,7 +23,11 @@ inline constexpr auto settingsPath = "Data/setting.dat";
 // The program's folder with an empty `Data`.
 class ProgramFolder : public support::TemporaryFolder {
  public:
-  ProgramFolder() { std::filesystem::create_directory(*this / "Data"); }
+  explicit ProgramFolder(
+      const std::filesystem::path& parent = std::filesystem::temp_directory_path())
+      : TemporaryFolder(parent) {
+    std::filesystem::create_directory(*this / "Data");
+  }
 };
 
 inline Stores storesOf(const support::TemporaryFolder& folder) {
@@ -54,8 +58,17 @@ inline void writeBytes(const std::string& path, std::string_view bytes) {
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
+// For work that is done by the hundred. A killed process loses nothing that it gave to the system,
+// so that memory tells the same as a disk here.
+inline std::filesystem::path inMemory() {
+  const std::filesystem::path memory = "/dev/shm";
+  return std::filesystem::is_directory(memory) ? memory : std::filesystem::temp_directory_path();
+}
+
 class StoresTest : public testing::Test {
  protected:
+  explicit StoresTest(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
+      : folder_(parent) {}
   void open() { ASSERT_TRUE(OpenStores(stores_)); }
   dao::Status addCard(const std::string& name) { return add(cards(), "Name", name); }
   dao::Recordset& cards() { return stores_.personal.IDCard; }

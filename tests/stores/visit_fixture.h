@@ -1,6 +1,7 @@
 // Records of patients, and the ledger as its table holds it.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -73,7 +74,18 @@ inline std::vector<std::int64_t> numbersOf(const dao::Result<std::vector<DatedRe
 
 class VisitTest : public StoresTest {
  protected:
-  void SetUp() override { open(); }
+  // Stores are made once and copied: making tables takes a while.
+  void SetUp() override {
+    static const auto made = [] {
+      auto folder = std::make_unique<ProgramFolder>();
+      Stores stores = storesOf(*folder);
+      EXPECT_TRUE(OpenStores(stores));
+      return folder;
+    }();
+    std::filesystem::copy(*made / "Data", folder_ / "Data",
+                          std::filesystem::copy_options::recursive);
+    open();
+  }
   [[nodiscard]] dao::Database& database() { return stores_.clinical.database; }
   [[nodiscard]] dao::Recordset& visit() { return stores_.clinical.Visit; }
   [[nodiscard]] Rows ledger() { return ledgerOf(stores_.clinical); }

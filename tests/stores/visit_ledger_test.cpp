@@ -48,6 +48,7 @@ TEST_F(VisitLedgerTest, NumbersAreReadUpToTheLastMark) {
                          Case{"99999999999999999999;8;", {8}},
                          Case{"3;3;", {3, 3}},
                          Case{"9;4;", {9, 4}}};
+  const auto transaction = database().beginTransaction();
   for (const Case& each : cases) {
     ASSERT_TRUE(add(visit(), "spname", each.text));
     ASSERT_TRUE(holds(visit(), each.text) && visit().Edit());
@@ -67,6 +68,7 @@ TEST_F(VisitLedgerTest, AKeyHasRoomForEightyCharacters) {
 
 TEST_F(VisitLedgerTest, RecordsAreListedByDay) {
   const auto& exam = kind::examination;
+  const auto transaction = database().beginTransaction();
   for (const int date : {30, 10, 20, 10}) record(exam, {.name = "Ali Can", .date = day(date)});
   record(exam, {.name = "Ali Can", .date = at(day(10), 60)});
   record(exam, {.name = "Ali Can", .date = std::nullopt});
@@ -107,6 +109,7 @@ TEST_F(VisitLedgerTest, ALongListIsReadAtOnce) {
 
 TEST_F(VisitLedgerTest, ThePatientsOwnRecordsAreFoundByName) {
   const auto& exam = kind::examination;
+  const auto transaction = database().beginTransaction();
   for (const char* name : {"Ayşe Işık", "AYŞE IşıK", "Ayşe Işık ", "  Ayşe Işık", "Ayşe Işık*",
                            "Ayse Isik", " Ayşe Isik", "Ayşe Işık"})
     record(exam, {.name = name, .date = day(9)});

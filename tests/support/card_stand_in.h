@@ -13,6 +13,8 @@ struct CardStandIn : shell::PatientCard {
 
   bool hastaoku() override { return !station.SeciliHasta.empty(); }
   void Eskialanmain() override {}
+  void hastaSec(const std::string& name) override { station.SeciliHasta = name; }
+  [[nodiscard]] bool gizliMi(std::string_view) const override { return false; }
   [[nodiscard]] std::string dogum() const override { return birth; }
   [[nodiscard]] int cinsiyet() const override { return sex; }
   [[nodiscard]] std::string kanGrubu() const override { return "A Rh(+)"; }

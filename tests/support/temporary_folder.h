@@ -10,8 +10,9 @@ namespace support {
 
 class TemporaryFolder {
  public:
-  TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "practice-XXXXXX").string();
+  explicit TemporaryFolder(
+      const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+    std::string pattern = (parent / "practice-XXXXXX").string();
     path_ = ::mkdtemp(pattern.data());
   }
   TemporaryFolder(const TemporaryFolder&) = delete;

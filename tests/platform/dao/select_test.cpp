@@ -52,6 +52,30 @@ TEST_F(SelectTest, UnderstandsTheStatementsOfTheScreens) {
     EXPECT_EQ(drugs(each.condition), each.found) << each.condition;
 }
 
+TEST_F(SelectTest, ReadsRowsOneByOneWhenAskedTo) {
+  Recordset rows =
+      store_.OpenForward("SELECT drug, drug_num FROM Drug WHERE drug > ? ORDER BY drug", {"it"})
+          .value();
+  EXPECT_EQ(rows.MoveFirst().fault(), Fault::Unsupported);
+  Texts found;
+  while (!rows.Eof()) {
+    found.emplace_back(rows.Fields("drug").view());
+    EXPECT_EQ(rows.Fields("drug").text(), found.back());
+    EXPECT_GT(rows.Fields(1).Value().integer(), 0);
+    EXPECT_EQ(rows.Fields(1).view(), "");
+    EXPECT_FALSE(rows.Fields(1).isNull());
+    EXPECT_TRUE(rows.MoveNext());
+  }
+  EXPECT_EQ(found, (Texts{"it's", "Zyban"}));
+  EXPECT_EQ(rows.MoveNext().fault(), Fault::NoCurrent);
+  EXPECT_EQ(rows.Fields(0).Value(), Value());
+  EXPECT_FALSE(store_.OpenForward("SELECT nothing").has_value());
+  Recordset open = store_.OpenForward("SELECT drug FROM Drug").value();
+  store_.Close();
+  EXPECT_TRUE(open.Eof());
+  EXPECT_EQ(open.Fields(0).view(), "");
+}
+
 TEST_F(SelectTest, BindsParametersAndKnowsTypes) {
   Recordset rows =
       store_

@@ -249,6 +249,34 @@ TEST(Observer, HearsOfWhatChanged) {
   EXPECT_EQ(seen, (std::vector{Aspect::Text, Aspect::Enabled, Aspect::Visible, Aspect::Caption}));
 }
 
+TEST(ListView, KeepsItsRowsPacked) {
+  Form form("f");
+  forms::ListView list(form, "list");
+  int told = 0;
+  list.observer = [&](forms::Aspect) { ++told; };
+  std::vector<forms::ListView::Row> rows;
+  // Sizes around the lengths at which their notation, and the blocks, grow.
+  for (const std::size_t size : {0U, 1U, 127U, 128U, 1000U, 1100U, 16'383U, 16'384U, 300'000U})
+    rows.push_back({.cells = {"a", std::string(size, 'x'), "ş"}, .key = std::string(size, 'k')});
+  list.appendRows(rows);
+  EXPECT_EQ(told, 1);
+  list.addRow({.cells = {}});
+  ASSERT_EQ(list.rowCount(), rows.size() + 1);
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    EXPECT_EQ(list.key(row), rows[row].key);
+    for (std::size_t cell = 0; cell < 3; ++cell)
+      EXPECT_EQ(list.cell(row, cell), rows[row].cells[cell]);
+    EXPECT_EQ(list.cell(row, 3), "");
+  }
+  EXPECT_EQ(list.cell(rows.size(), 0), "");
+  EXPECT_EQ(list.key(rows.size() + 1), "");
+  EXPECT_EQ(list.selectedKey(), "");
+  list.setSelectedRow(1);
+  EXPECT_EQ(list.selectedKey(), "k");
+  list.clearRows();
+  EXPECT_EQ(list.selectedKey(), "");
+}
+
 TEST(Colours, SwapRedAndBlue) {
   EXPECT_EQ(fromBgr(0xC0C0FF), 0xFFC0C0U);
   EXPECT_EQ(toBgr(fromBgr(0x123456)), 0x123456U);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/text/utf8.h"
+
 namespace {
 
 TEST(Upper, MapsAsUnicodesRootDoes) {
@@ -18,11 +20,27 @@ TEST(Upper, MapsAsUnicodesRootDoes) {
                {"şişli", "ŞIŞLI", "ŞİŞLİ"},
                {"straße", "STRASSE", "STRASSE"},
                {"ıi", "II", "Iİ"},
+               {"ŉÿµſ", "ʼNŸΜS", "ʼNŸΜS"},
+               {"i\u0307 aλ", "I\u0307 AΛ", "İ\u0307 AΛ"},
                {"λόγος", "ΛΌΓΟΣ", "ΛΌΓΟΣ"}};
   for (const auto& c : cases) {
     EXPECT_EQ(text::upper(c.text), c.upper) << c.text;
     EXPECT_EQ(text::upperTurkish(c.text), c.turkish) << c.text;
   }
+}
+
+// Every letter of the quick way is the one that the case mapper would have made.
+TEST(Upper, IsTheSameWithAndWithoutTheCaseMapper) {
+  for (char32_t letter = 1; letter < 0x200; ++letter) {
+    std::string alone;
+    text::appendCharacter(alone, letter);
+    // A letter from far beyond makes the whole text go through the case mapper.
+    EXPECT_EQ(text::upper(alone) + "Ω", text::upper(alone + "ω")) << alone;
+    EXPECT_EQ(text::upperTurkish(alone) + "Ω", text::upperTurkish(alone + "ω")) << alone;
+  }
+  std::string reused(1000, 'x');
+  text::upperTurkishInto(reused, "ilk");
+  EXPECT_EQ(reused, "İLK");
 }
 
 TEST(Lower, MapsAsUnicodesRootDoes) {

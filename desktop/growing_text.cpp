@@ -1,0 +1,42 @@
+#include "desktop/growing_text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace desktop {
+
+namespace {
+
+constexpr int fewestLines = 2;
+constexpr int mostLines = 12;
+
+}  // namespace
+
+GrowingText::GrowingText(QWidget* parent) : QPlainTextEdit(parent) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  // The height of a plain document is told in lines.
+  connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+          [this](const QSizeF& size) {
+            const int lines =
+                std::clamp(static_cast<int>(std::lround(size.height())), fewestLines, mostLines);
+            if (lines == lines_) return;
+            lines_ = lines;
+            updateGeometry();
+          });
+}
+
+int GrowingText::wantedHeight() const {
+  const int lines = std::max(lines_, fewestLines);
+  const int frame = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin());
+  return lines * fontMetrics().lineSpacing() + frame;
+}
+
+QSize GrowingText::sizeHint() const {
+  return {QPlainTextEdit::sizeHint().width(), wantedHeight()};
+}
+
+QSize GrowingText::minimumSizeHint() const {
+  return {fontMetrics().averageCharWidth() * 24, wantedHeight()};
+}
+
+}  // namespace desktop

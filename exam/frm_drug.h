@@ -1,0 +1,77 @@
+// The drug catalogue, and the prescription that is composed from it for the patient on the
+// examination screen.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/button.h"
+#include "platform/forms/label.h"
+#include "platform/forms/list_control.h"
+#include "platform/forms/menu.h"
+#include "platform/forms/text_control.h"
+#include "shell/named_record_screen.h"
+
+namespace exam {
+
+using shell::Station;
+
+// The prescription as it goes into the therapy: a line break that two blanks follow is taken out
+// together with them, so that each drug ends up on a line of its own.
+[[nodiscard]] std::string kabulEdilen(std::string_view prescription);
+
+class FrmDrug : public shell::NamedRecordScreen {
+ public:
+  explicit FrmDrug(Station& istasyon);
+
+  forms::ListBox Lstilaç{*this, "Lstilaç"};
+  forms::TextBox txtilaç{*this, "txtilaç"};
+  forms::TextBox txtkullanım{*this, "txtkullanım"};
+  forms::TextBox txtadet{*this, "txtadet"};
+  forms::CommandButton buttasi{*this, "buttasi"};
+  forms::TextBox txtaçıklama{*this, "txtaçıklama", forms::TextLines::Multiple};
+
+  forms::Label lblRp{*this, "lblRp"};
+  forms::Label lblisim{*this, "lblisim"};
+  forms::TextBox txtrecete{*this, "txtrecete", forms::TextLines::Multiple};
+  forms::Label sırano{*this, "sırano"};  // of the last drug of the prescription
+  forms::CommandButton buttamam{*this, "buttamam"};
+  forms::CommandButton Butİptal{*this, "Butİptal"};
+  forms::StatusBar sbDurum{*this, "sbDurum", 1};
+
+  [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
+  [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.clinical.drug; }
+
+  void Load() override;
+  void Kaydet() override;
+  void alanlaribosalt() override;
+  void tuskontrol() override;
+
+  void İlaçlistele();
+  // Adds the drug on the screen to the prescription, after a question when it is on it already.
+  void Reçeteyeilaçekle();
+
+ protected:
+  [[nodiscard]] forms::TextControl& isimAlani() override { return txtilaç; }
+  [[nodiscard]] dao::Database& veritabani() override { return istasyon.stores.clinical.database; }
+  void listeDegisti() override { İlaçlistele(); }
+  void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
+  [[nodiscard]] bool temizlenebilir() override;
+  [[nodiscard]] std::string ayarAdi() const override { return "Drug"; }
+
+ private:
+  void isimYazildi(const forms::Key& key);
+  void isimBitti();
+  void ilacSecildi();
+  void satiriGoster(int row);
+  [[nodiscard]] bool yalnizIsim() const;
+  [[nodiscard]] std::string katlanmis(std::string_view name) const;
+  void kabul();
+
+  std::vector<std::string> katlanmis_;  // the names of the list, folded for the search
+  bool aramada_ = false;                // the list follows what is typed: nothing is chosen
+};
+
+}  // namespace exam

@@ -1,0 +1,167 @@
+// The patient finder: any fields of the card as filters, and the list of the patients that fit.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/button.h"
+#include "platform/forms/label.h"
+#include "platform/forms/list_control.h"
+#include "platform/forms/menu.h"
+#include "platform/forms/text_control.h"
+#include "search/card_line.h"
+#include "search/card_scan.h"
+#include "search/find_filters.h"
+#include "search/slices.h"
+#include "shell/station.h"
+
+namespace search {
+
+// Opened from the card, it brings the chosen patient onto it. Opened by shell::adresSec, it
+// collects the names of patients with an address.
+class FrmFind : public forms::Form {
+ public:
+  explicit FrmFind(shell::Station& istasyon);
+
+  forms::MenuItem MnuDosya{*this, "MnuDosya"};
+  forms::MenuItem mnuyeni{MnuDosya, "mnuyeni"};
+  forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
+  forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
+  forms::MenuItem mnucik{MnuDosya, "mnucik"};
+
+  // --- The filters, by what they belong to
+  forms::Panel PFiltre{*this, "PFiltre"};
+  forms::Panel PKişisel{*this, "PKişisel"};
+  forms::TextBox Txtİsim{*this, "Txtİsim"};
+  forms::TextBox TxtSoyisim{*this, "TxtSoyisim"};
+  forms::ComboBox ComCinsiyet{*this, "ComCinsiyet"};
+  forms::ComboBox ComKanGrubu{*this, "ComKanGrubu"};
+  forms::ComboBox comdogumyeri{*this, "comdogumyeri"};
+  forms::ComboBox ComMeslek{*this, "ComMeslek"};
+  forms::TextBox TxtAnneAdı{*this, "TxtAnneAdı"};
+  forms::TextBox TxtBabaAdı{*this, "TxtBabaAdı"};
+  forms::TextBox txtidno{*this, "txtidno"};
+  forms::ComboBox ComRefere{*this, "ComRefere"};
+
+  forms::Panel PDoğum{*this, "PDoğum"};
+  forms::TextBox TxtGün{*this, "TxtGün"};
+  forms::TextBox TxtAy{*this, "TxtAy"};
+  forms::TextBox TxtYıl{*this, "TxtYıl"};
+
+  forms::Panel PAdres{*this, "PAdres"};
+  forms::ComboBox ComHitap{*this, "ComHitap"};
+  forms::TextBox txtadres{*this, "txtadres"};
+  forms::TextBox txttelefon{*this, "txttelefon"};
+  forms::TextBox TxtMobil{*this, "TxtMobil"};
+  forms::TextBox TxtFax{*this, "TxtFax"};
+  forms::TextBox TxtMail{*this, "TxtMail"};
+
+  forms::Panel PKurum{*this, "PKurum"};
+  forms::ComboBox ComKurum{*this, "ComKurum"};
+  forms::TextBox TxtÇalışan{*this, "TxtÇalışan"};
+  forms::TextBox TxtSicil{*this, "TxtSicil"};
+  forms::ComboBox comgorev{*this, "comgorev"};
+  forms::ComboBox comyakinlik{*this, "comyakinlik"};
+
+  forms::Panel PNot{*this, "PNot"};
+  forms::TextBox txtnot{*this, "txtnot"};
+
+  // --- The result, over the filters
+  forms::Panel Frame1{*this, "Frame1"};
+  forms::ListView BulList{*this, "BulList"};
+  forms::ListBox ListFiltre{*this, "ListFiltre"};  // names, never shown
+  forms::Label Lbulunan{*this, "Lbulunan"};        // the word in front of the number
+  forms::Label LSayı{*this, "LSayı"};
+  forms::Label LDurum{*this, "LDurum"};
+  forms::ProgressBar PBar{*this, "PBar"};
+  forms::CommandButton ButDur{*this, "ButDur"};
+
+  // --- Those of the filters, of the result, of both
+  forms::CommandButton ButTemizle{*this, "ButTemizle"};
+  forms::CommandButton ButTümListe{*this, "ButTümListe"};
+  forms::CommandButton butbul{*this, "butbul"};
+  forms::CommandButton ButFiltre{*this, "ButFiltre"};
+  forms::CommandButton ButGit{*this, "ButGit"};
+  forms::CommandButton buttamam{*this, "buttamam"};
+  forms::CommandButton Butİptal{*this, "Butİptal"};
+
+  void Load() override;
+  void Unload() override;
+
+  // Lists the cards that fit all filled filters; the Turkish one folds as a Turkish reader expects.
+  void BulListYaz();
+  void BulListYazTUR();
+  // Lists every card.
+  void TümListe();
+  // Fills ListFiltre with the names of the cards that fit, without the list view.
+  void ListYap();
+  // Lists the cards whose names stand in ListFiltre, as far as there are such cards.
+  void SonuçlarıListele();
+  void SonuçlarıListele1() { SonuçlarıListele(); }
+  // A listing has ended by itself.
+  forms::Event<> ListeBitti;
+
+  // The texts of all filters; empty when none is filled.
+  [[nodiscard]] std::string FindAlanlar();
+  void tuskontrol();
+  void alanlaribosalt();
+  // Fills the lists of the filters; what stands in them stays.
+  void Listeleriyaz();
+  // Day, month and year are a date, where what is missing is taken from 28 January 2000.
+  // Otherwise it says so, and the focus goes back to the field.
+  bool hatalitarih(forms::TextBox& field);
+
+  // How long a slice of the work lasts, as far as single steps are shorter.
+  std::chrono::milliseconds dilimSuresi{4};
+
+ private:
+  enum class Page { Filters, Result };
+  using Found = std::function<void(dao::Recordset& card)>;
+
+  void filtreleriBagla();
+  void dugmeleriBagla();
+  void cinsiyetYazildi();
+  void filtreDegisti();
+  [[nodiscard]] bool tarihGecerli() const;
+
+  void bul();
+  void git();
+  void tamam();
+  void sayfaSec(Page page);
+
+  enum class Filters { Applied, Ignored };
+  [[nodiscard]] CardScan tarama(Filters filters, dao::Fold fold,
+                                std::span<const std::string_view> wanted, Found found);
+  void listele(Filters filters, dao::Fold fold);
+  void listeyiAc();
+  // Starts sliced work; `step` does one small step of it.
+  void dilimle(std::function<dao::Result<bool>()> step, std::function<void()> sliceEnd,
+               std::function<void()> end);
+  void durdur();
+  forms::ListView::Row& yeniSatir();
+  void satirlariEkle();
+  void ilerle(std::size_t done, std::size_t total);
+  void sayiyiYaz();
+  void bitti();
+  [[nodiscard]] bool kartiBul(std::string_view name);
+  [[nodiscard]] bool gizliMi(std::string_view key) const;
+  [[nodiscard]] bool adresiVar();
+
+  shell::Station& istasyon;
+  std::vector<std::string>* adresler_;  // the list of the caller that picks addresses
+  dao::Recordset kartlar_;
+  Slices is_;
+  // The rows of a slice; the memory of those before is used again.
+  std::vector<forms::ListView::Row> satirlar_;
+  std::size_t yeni_ = 0;
+  std::size_t toplam_ = 0;  // cards of the table when the window was opened
+  int dilim_ = 0;
+  bool denetliyor_ = false;  // the check of the date moves the focus itself
+};
+
+}  // namespace search
