@@ -13,6 +13,7 @@
 #include "exam/frm_test_edit.h"
 #include "exam/frm_test_filter.h"
 #include "exam/frm_test_trend.h"
+#include "images/frm_picture.h"
 #include "platform/text/number.h"
 #include "registry/frm_birthday.h"
 #include "registry/frm_key.h"
@@ -64,6 +65,7 @@ shell::ScreenDirectory screens() {
   add<documents::FrmPrewive>(directory, "frmprewive");
   add<documents::FrmPreview1>(directory, "frmpreview1");
   add<documents::FrmPrinter>(directory, "frmprinter");
+  add<images::FrmPicture>(directory, "frmpicture");
   return directory;
 }
 

@@ -47,6 +47,9 @@ constexpr auto names = std::to_array<IconName>({
     {"Center", "format-justify-center"},
     {"Align Right", "format-justify-right"},
     {"foto", "insert-image"},
+    {"picture", "view-preview"},
+    {"Add", "list-add"},
+    {"Open", "document-open"},
     {"appointment", "view-calendar-day"},
     {"password", "dialog-password"},
     {"program", "user-identity"},
@@ -67,7 +70,6 @@ constexpr auto names = std::to_array<IconName>({
     {"angio", "distribute-graph"},
     {"echo", "news-subscribe"},
     {"efor", "speedometer"},
-    {"picture", "view-preview"},
     {"film", "tool-animator"},
     {"dokum", "view-pages-overview"},
 });

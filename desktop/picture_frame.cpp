@@ -4,49 +4,19 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "desktop/pictures/picture_reader.h"
+
 namespace desktop {
 
-namespace {
-
-constexpr qint64 mostPixels = 150'000'000;
-
-// The size as it stands after the camera's rotation.
-QSize uprightSize(const QImageReader& reader) {
-  const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-  return turned ? reader.size().transposed() : reader.size();
-}
-
-QSize scaledSize(const QImageReader& reader, const QSize& limit) {
-  const QSize upright = uprightSize(reader);
-  const QSize fitted =
-      upright.scaled(limit.boundedTo(upright), Qt::KeepAspectRatio).expandedTo({1, 1});
-  return uprightSize(reader) == reader.size() ? fitted : fitted.transposed();
-}
-
-bool isUsable(const QSize& size) {
-  return !size.isEmpty() && qint64{size.width()} * size.height() <= mostPixels;
-}
-
-void prepare(QImageReader& reader) {
-  reader.setAutoTransform(true);
-  reader.setDecideFormatFromContent(true);
-}
-
-}  // namespace
-
 QSize naturalSize(const QString& path) {
-  QImageReader reader(path);
-  prepare(reader);
-  return isUsable(reader.size()) ? uprightSize(reader) : QSize();
+  constexpr QSize smallest{1, 1};
+  return readPicture(path, smallest).natural;
 }
 
 QImage loadPicture(const QString& path, const QSize& limit, QSize* natural) {
-  QImageReader reader(path);
-  prepare(reader);
-  if (!isUsable(reader.size())) return {};
-  if (natural != nullptr) *natural = uprightSize(reader);
-  if (!limit.isEmpty()) reader.setScaledSize(scaledSize(reader, limit));
-  return reader.read();
+  ReadPicture read = readPicture(path, limit);
+  if (natural != nullptr) *natural = read.natural;
+  return std::move(read.image);
 }
 
 PictureFrame::PictureFrame(QWidget* parent) : QFrame(parent) {

@@ -10,6 +10,7 @@
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
 #include "desktop/tour_exam.h"
+#include "desktop/tour_pictures.h"
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
 #include "shell/frm_progress.h"
@@ -114,6 +115,7 @@ class Tour {
     takeExaminations(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     takeFinder(suffix);
+    takeArchive(suffix);
     istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -251,6 +253,28 @@ class Tour {
       applyAppearance(shade);
       withLargeFont([&] { takeScreen(name, QStringLiteral("-150") + suffix); });
     }
+  }
+
+  // The archive with pictures in it: as usual, small, dark and enlarged.
+  void takeArchive(const QString& suffix) {
+    SampleArchive archive(host_, istasyon_);
+    QWidget& window = archive.window();
+    album_.take(window, QStringLiteral("frmpicture-large") + suffix);
+    archive.zoom();
+    album_.take(window, QStringLiteral("frmpicture-zoomed") + suffix);
+    window.resize(smallestSize);
+    archive.chooseMissing();
+    album_.take(window, QStringLiteral("frmpicture-1024x700") + suffix);
+    const Shade shade = wantedShade();
+    applyAppearance(Shade::Dark);
+    archive.choose();
+    album_.take(window, QStringLiteral("frmpicture-dark") + suffix);
+    applyAppearance(shade);
+    withLargeFont([&] {
+      window.resize(usualSize * enlarged);
+      archive.choose();
+      album_.take(window, QStringLiteral("frmpicture-150") + suffix);
+    });
   }
 
   template <class Work>

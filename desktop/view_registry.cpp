@@ -8,6 +8,7 @@
 #include "desktop/views/laboratory_views.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
+#include "desktop/views/picture_view.h"
 #include "desktop/views/print_views.h"
 #include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
@@ -45,6 +46,7 @@ ViewRegistry programViews() {
   views.add("frmdemand", testRequestView);
   views.add("frmtestfilter", testFilterView);
   views.add("frmtesttrend", testTrendView);
+  views.add("frmpicture", pictureView);
   return views;
 }
 

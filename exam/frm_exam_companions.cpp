@@ -3,6 +3,7 @@
 
 #include "exam/frm_exam.h"
 #include "platform/text/utf8.h"
+#include "shell/picture_archive.h"
 #include "shell/visit_buttons.h"
 
 namespace exam {
@@ -61,7 +62,11 @@ void FrmExam::menuleriBagla() {
       std::ranges::any_of(calisma_.companions, [](auto key) { return !key.empty(); }));
   mnureçete.Click.connect([this] { metinAl(mnureçete, "frmdrug", txttedavi); });
   mnuistem.Click.connect([this] { metinAl(mnuistem, "frmdemand", txttahlil); });
-  mnuresim.Click.connect([this] { ekranAc(mnuresim, "frmpicture"); });
+  mnuresim.Click.connect([this] {
+    shell::resimArsivi(
+        istasyon, *this,
+        {.entry = mnuresim.caption(), .tarih = txttarih.text(), .isim = lblisim.caption()});
+  });
   mnufilm.Click.connect([this] { filmAc(); });
   mnuwarn.Click.connect([this] { uyariAc(); });
   mnumuayenedökümü.Click.connect([this] { dokumYaz(); });

@@ -210,6 +210,14 @@ constexpr std::array laboratoryRows{
     CaptionRow{"mnugrafik", "Grafik", Menu},
 };
 
+constexpr std::array pictureRows{
+    CaptionRow{"frmpicture", "Resim", Window},
+    CaptionRow{"mnuaç", "ac", Menu},
+    CaptionRow{"MnuBoyut", "Boyut", Menu},
+    CaptionRow{"HSlFoto", "Yatay"},
+    CaptionRow{"VSlfoto", "dusey"},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -220,7 +228,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   return all;
 }
 constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows,
-                                findRows, laboratoryRows);
+                                findRows, laboratoryRows, pictureRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},

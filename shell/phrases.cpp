@@ -63,6 +63,20 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::NotDrawnWithoutNumber, "not drawn, without a number: ", "çizilmedi, sayı değil: "},
     {Phrase::NotDrawnOtherUnit, "not drawn, in another unit: ", "çizilmedi, birimi farklı: "},
     {Phrase::AllResults, "All results", "Tüm sonuçlar"},
+    {Phrase::PictureHint,
+     "Choose a picture to see it here; a double click on a place opens a file.",
+     "Görmek için bir resim seçin; bir yere çift tıklamak dosya açar."},
+    {Phrase::PictureMissing, "The file is not there.", "Dosya yerinde yok."},
+    {Phrase::PictureFolder, "This is no ordinary file.", "Bu, sıradan bir dosya değil."},
+    {Phrase::PictureEmpty, "The file is empty.", "Dosya boş."},
+    {Phrase::PictureRefused, "The file may not be read.", "Dosyayı okuma izni yok."},
+    {Phrase::NotAPicture, "The file is not a picture.", "Dosya bir resim değil."},
+    {Phrase::PictureDamaged, "The picture is damaged.", "Resim bozuk."},
+    {Phrase::PictureTooLarge, "The picture has too many pixels to be shown.",
+     "Resim gösterilemeyecek kadar büyük."},
+    {Phrase::PicturePathTooLong,
+     "The name of the file with its folders is too long. Longest, in characters: ",
+     "Dosyanın klasörleriyle birlikte adı çok uzun. En çok karakter: "},
 });
 
 }  // namespace

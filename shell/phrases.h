@@ -51,7 +51,16 @@ enum class Phrase {
   NoTrend,
   NotDrawnWithoutNumber,  // a number follows
   NotDrawnOtherUnit,      // a number follows
-  AllResults
+  AllResults,
+  PictureHint,
+  PictureMissing,
+  PictureFolder,
+  PictureEmpty,
+  PictureRefused,
+  NotAPicture,
+  PictureDamaged,
+  PictureTooLarge,
+  PicturePathTooLong  // the largest number of characters follows
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

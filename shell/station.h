@@ -12,6 +12,7 @@
 #include "platform/host/host.h"
 #include "platform/settings/settings.h"
 #include "shell/patient_card.h"
+#include "shell/picture_exchange.h"
 #include "shell/screen_directory.h"
 #include "stores/stores.h"
 
@@ -59,6 +60,7 @@ struct Station {
   std::string OnizlemeSonucu;  // "1" when the preview asks for printing
   int SablonNo = 0;            // the template that the dialog of templates chose,
   std::string SablonImzasi;    // and the signature
+  PictureExchange Resimler;    // the six shared slots of the picture archive
 
   stores::Stores stores;
   // Where pages are printed; not owned. Null where nobody can print.

@@ -25,7 +25,8 @@ const std::vector<Part> table{
     {"registry", {"shell"}},
     {"exam", {"documents"}},
     {"search", {"documents"}},
-    {"app", {"registry", "exam", "search"}},
+    {"images", {"shell"}},
+    {"app", {"registry", "exam", "search", "images"}},
     {"tools", {"shell"}},
     {"desktop", {"app", "tools"}},
 };
