@@ -135,7 +135,7 @@ class FrmExam : public shell::DatedRecordScreen, public documents::PrintedRecord
 
   // The list of dates from the table, and from the ledger.
   void MuayeneTarihleri() { tarihler(); }
-  void VMuayeneTarihleri() { VTarihler(); }
+  void VMuayeneTarihleri() { VTarihler().ignore(); }
   // Shows the record whose number stands in txtnumara.
   void Muayenebul();
 

@@ -105,7 +105,7 @@ void FrmTest::Yeni() {
 }
 
 bool FrmTest::alanlaritasi(const dao::Value& number) {
-  if (!tablo().Seek("=", number) || tablo().NoMatch()) return false;
+  if (!kayit().bul(number.integer())) return false;
   txtcount.setText(tablo().Fields("Count").text());
   const auto date = tablo().Fields("Date").Value().date();
   date ? txttarih.setDate(*date) : txttarih.setText("");
@@ -159,35 +159,19 @@ void FrmTest::Kaydet() {
 dao::Status FrmTest::kayitYaz() {
   auto transaction = istasyon.stores.clinical.database.beginTransaction();
   if (!transaction) return transaction.error();
-  const auto number = kaydiYaz();
+  const auto number =
+      kayit().yaz(text::wholeNumber(txtcount.text()), [this] { return Forumalanlaritasi(); });
   if (!number) return number.error();
   const auto listed = [&](Numbers& numbers) {
     if (std::ranges::find(numbers, *number) == numbers.end()) numbers.push_back(*number);
   };
-  Visitkaydet(listed).ignore();
-  return transaction->commit();
-}
-
-// The number of the row that was written. A value that another station deleted is stored anew.
-dao::Result<std::int64_t> FrmTest::kaydiYaz() {
-  dao::Recordset& table = tablo();
-  const auto old = text::wholeNumber(txtcount.text());
-  const bool stored = old && table.Seek("=", *old) && !table.NoMatch();
-  auto number = stored ? dao::Result<std::int64_t>(*old)
-                       : istasyon.stores.clinical.database.nextNumber(laboratory.table, "Count");
-  if (!number) return number;
-  dao::Status done = stored ? table.Edit() : table.AddNew();
-  if (done) done = table.Fields("Count").Set(*number);
-  if (done) done = Forumalanlaritasi();
-  if (done) done = table.Update();
-  if (done) return number;
-  table.CancelUpdate();
-  return std::unexpected(done);
+  const dao::Status written = Visitkaydet(listed);
+  return written ? transaction->commit() : written;
 }
 
 void FrmTest::Sil() {
   const auto number = text::wholeNumber(txtcount.text());
-  if (!number || !tablo().Seek("=", *number) || tablo().NoMatch()) return;
+  if (!number || !kayit().bul(*number)) return;
   if (!istasyon.evetMi(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const dao::Status deleted = silVeListele(*number);
   if (!deleted) return istasyon.host.runtimeError(deleted);
@@ -198,12 +182,15 @@ void FrmTest::Sil() {
 dao::Status FrmTest::silVeListele(std::int64_t number) {
   auto transaction = istasyon.stores.clinical.database.beginTransaction();
   if (!transaction) return transaction.error();
-  // Deleted at another station meanwhile: its number goes all the same.
-  const bool there = tablo().Seek("=", number) && !tablo().NoMatch();
-  const dao::Status deleted = there ? tablo().Delete() : dao::Status();
+  const dao::Status deleted = kayit().sil(number);
   if (!deleted) return deleted;
-  Visitkaydet([number](Numbers& numbers) { std::erase(numbers, number); }).ignore();
-  return transaction->commit();
+  const dao::Status listed =
+      Visitkaydet([number](Numbers& numbers) { std::erase(numbers, number); });
+  return listed ? transaction->commit() : listed;
+}
+
+shell::NumberedRecord FrmTest::kayit() {
+  return {istasyon, laboratory, lblisim.caption()};
 }
 
 template <class Change>
@@ -214,7 +201,8 @@ dao::Status FrmTest::Visitkaydet(Change change) {
   if (!row) return row.error();
   change(row->numbers);
   row->lastVisit = txttarih.date(istasyon.clock.today());
-  return stores::writeLedgerRow(visit, anahtar, *row);
+  const dao::Status written = stores::writeLedgerRow(visit, anahtar, *row);
+  return written.fault() == dao::Fault::TooLong ? dao::Status() : written;
 }
 
 // --- The test

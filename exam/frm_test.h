@@ -11,6 +11,7 @@
 #include "platform/forms/label.h"
 #include "platform/forms/list_control.h"
 #include "shell/font_record.h"
+#include "shell/numbered_record.h"
 #include "shell/record_screen.h"
 #include "stores/analyses.h"
 
@@ -99,7 +100,7 @@ class FrmTest : public shell::RecordScreen, public documents::PrintedRecord {
   void hastaDegisti();
   void Yeni();
   [[nodiscard]] dao::Status kayitYaz();
-  [[nodiscard]] dao::Result<std::int64_t> kaydiYaz();
+  [[nodiscard]] shell::NumberedRecord kayit();
   [[nodiscard]] dao::Status silVeListele(std::int64_t number);
   // Changes the patient's row of the ledger as it stands now, so that values of another station
   // stay in it, and takes its numbers.

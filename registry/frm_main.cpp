@@ -157,7 +157,9 @@ void FrmMain::sigaraGirisi() {
 // What the user's other stations wrote into the settings.
 void FrmMain::digerleriniGor() {
   const platform::Status seen = istasyon.settings.refresh();
-  if (!seen) durumYaz(seen.text());
+  const bool firstTime = !seen && ayarlarOkunuyor_;
+  ayarlarOkunuyor_ = seen.ok();
+  if (firstTime) durumYaz(seen.text());
 }
 
 void FrmMain::saatVurusu() {

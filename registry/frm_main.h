@@ -258,7 +258,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void gunuTazele();
 
   [[nodiscard]] dao::Status kartiYenile(const std::string& name);
-  [[nodiscard]] bool dogumSaklanir() const;
+  [[nodiscard]] bool dogumSaklanir();
 
   [[nodiscard]] dao::Status kartiYaz();
   [[nodiscard]] dao::Status satiriYaz(const std::string& key);
@@ -281,10 +281,15 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void hakkindaYaz();
   void durumYaz(std::string text) override { sbDurum.setPanel(3, std::move(text)); }
 
+  // A hidden patient's card that was loaded while names are locked shows no name; nothing is stored
+  // from it under another one.
+  bool gizliYuklu_ = false;
+  bool ayarlarOkunuyor_ = true;
   NameSearch isimler_;
   // Tasks that were put off look whether the card is still there.
   std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);
   bool listeBekliyor_ = false;
+  int aramaSirasi_ = 0;
   std::string aranan_;               // the text that the list stands for
   std::vector<std::string> gunluk_;  // the full names behind the rows of the day's list
   text::DateTime gun_;               // the day that it shows

@@ -74,8 +74,10 @@ bool FrmMain::hastaoku() {
   const bool hidden = gizliMi(cards.Fields("Key").text());
   alanlariYukle();
   if (hidden) Txtİsim.setText("");
-  TxtEskiİsim.setText(Txtİsim.text());
   istasyon.SeciliHasta = cards.Fields("Name").text();
+  // The key as it is stored, blanks and all.
+  TxtEskiİsim.setText(hidden ? std::string() : istasyon.SeciliHasta);
+  gizliYuklu_ = hidden;
   Txtyaş.setVisible(false);
   const std::string year = cards.Fields("Year of Birth").text();
   const auto date = cards.Fields("Date of Birth").Value().date();
@@ -107,6 +109,9 @@ dao::Status FrmMain::kartiYaz() {
 dao::Status FrmMain::satiriYaz(const std::string& key) {
   const dao::Status sought = tablo().Seek("=", key);
   if (!sought) return sought;
+  // A namesake that another station has just stored is asked about by the next save.
+  if (TxtEskiİsim.text().empty() && !tablo().NoMatch())
+    return {dao::Fault::Exists, key + ": " + phrase(istasyon, shell::Phrase::NameTaken)};
   const dao::Status begun = tablo().NoMatch() ? tablo().AddNew() : tablo().Edit();
   if (!begun) return begun;
   const dao::Status moved = Forumalanlaritasi();
@@ -163,6 +168,7 @@ void FrmMain::Yeni() {
 }
 
 void FrmMain::alanlaribosalt() {
+  gizliYuklu_ = false;
   TxtEskiİsim.setText("");
   Txtyaş.setText("");
   ComCinsiyet.setListIndex(unknownSex);
@@ -191,13 +197,13 @@ dao::Status FrmMain::hastayiSil(const std::string& name) {
   auto change = PatientCascade::begin(istasyon.stores, PatientCascade::Work::Delete);
   if (!change) return change.error();
   dao::Status status = tablo().Seek("=", name);
-  if (status) status = tablo().Delete();
+  if (status && !tablo().NoMatch()) status = tablo().Delete();
   if (status) status = change->digerkayitlarisil(name);
   return status ? change->commit() : status;
 }
 
 bool FrmMain::kaydedilebilir() {
-  return !text::trimmed(Txtİsim.text()).empty() &&
+  return !gizliYuklu_ && !text::trimmed(Txtİsim.text()).empty() &&
          shell::gecerliDogum(text::trimmed(TxtDTarihi.text()), istasyon.clock.today());
 }
 

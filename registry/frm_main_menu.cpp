@@ -168,8 +168,11 @@ void FrmMain::yonEtkin(Direction direction, bool enabled) {
 
 // Stepping away from a changed card stores it without a question.
 void FrmMain::adim(Direction direction) {
-  if (mnukaydet.enabled()) Kaydet();
-  if (mnukaydet.enabled()) return;  // refused: what was typed stays
+  if (mnukaydet.enabled()) {
+    if (isimBitti() != NameCheck::Kept) return;  // a namesake was loaded instead
+    kayityap();
+    if (mnukaydet.enabled()) return;  // refused: what was typed stays
+  }
   const bool back = direction == Direction::Back;
   dao::Recordset& cards = tablo();
   if (cards.empty()) return;

@@ -36,6 +36,8 @@ void FrmMain::isimleriAc(bool unlocked) {
   tbToolBar.setButtonVisible("idpass", unlocked && istasyon.screens.has("Frmkey"));
   listeyiKapat();
   gunlukListele();
+  // Whoever is hidden leaves the screen with the lock.
+  if (gizliMi(txtkey.text()) && secimdenOnce()) Yeni();
 }
 
 void FrmMain::isimSifresi() {
@@ -88,8 +90,9 @@ void FrmMain::listeyiSurdur() {
   Lstdat.setVisible(Lstdat.count() > 0);
   if (done) return listeyiSay();
   listeBekliyor_ = true;
-  istasyon.host.later([this, alive = yasiyor_] {
-    if (*alive && listeBekliyor_) listeyiSurdur();
+  // Of several searches only the last goes on.
+  istasyon.host.later([this, alive = yasiyor_, turn = ++aramaSirasi_] {
+    if (*alive && listeBekliyor_ && turn == aramaSirasi_) listeyiSurdur();
   });
 }
 

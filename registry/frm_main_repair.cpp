@@ -38,8 +38,8 @@ dao::Result<Names> pregnanciesWithoutCard(stores::Stores& stores) {
   if (!rows) return std::unexpected(rows.error());
   Names names;
   for (; !rows->Eof(); rows->MoveNext().ignore()) {
-    std::string name = rows->Fields(0).text();
-    if (!hasCard(stores.personal.IDCard, name)) names.push_back(std::move(name));
+    std::string name = text::trim(rows->Fields(0).text());
+    if (!name.empty() && !hasCard(stores.personal.IDCard, name)) names.push_back(std::move(name));
   }
   return names;
 }
@@ -139,7 +139,8 @@ void FrmMain::Command1() {
 
 // Loads the card and stores it, hidden or not: it never shows, since the screen is cleared before
 // the window draws. Refused where the save would lose something: a name that stands under another
-// key when its blanks are cut off, a birth field that is neither date nor year.
+// key when its blanks are cut off, a birth field that is neither date nor year, a date beside a
+// year, a sex beyond the list.
 dao::Status FrmMain::kartiYenile(const std::string& name) {
   istasyon.SeciliHasta = name;
   if (!hastaoku()) return {};  // deleted meanwhile
@@ -154,7 +155,10 @@ dao::Status FrmMain::kartiYenile(const std::string& name) {
   return status;
 }
 
-bool FrmMain::dogumSaklanir() const {
+bool FrmMain::dogumSaklanir() {
+  const bool both =
+      !tablo().Fields("Date of Birth").isNull() && !tablo().Fields("Year of Birth").text().empty();
+  if (both || ComCinsiyet.listIndex() < 0) return false;
   const std::string birth = text::trim(TxtDTarihi.text());
   const bool isYear = text::length(birth) == 4 && text::wholeNumber(birth);
   return birth.empty() || isYear || text::parseDate(birth, istasyon.clock.today());

@@ -33,9 +33,9 @@ FrmFind::FrmFind(shell::Station& station)
     : Form("FrmFind"), istasyon(station), adresler_(station.AdresListesi), is_(station.host) {
   width = defaultWidth;
   height = defaultHeight;
-  const bool printable = istasyon.screens.has("frmprewive");
-  mnuonizleme.setVisible(printable);
-  mnuyazdır.setVisible(printable);
+  // There is no page of the result yet.
+  mnuonizleme.setVisible(false);
+  mnuyazdır.setVisible(false);
   ListFiltre.setVisible(false);
   PBar.setVisible(false);
   ButDur.setVisible(false);

@@ -146,13 +146,15 @@ void FrmFind::sayiyiYaz() {
   LSayı.setCaption(std::to_string(BulList.rowCount()));
   mnuonizleme.setEnabled(any);
   mnuyazdır.setEnabled(any);
-  buttamam.setEnabled(any);
+  buttamam.setEnabled(any && !is_.running());
   ButGit.setEnabled(BulList.selectedRow() >= 0);
 }
 
 void FrmFind::bitti() {
+  is_.stop();
   PBar.setVisible(false);
   ButDur.setVisible(false);
+  sayiyiYaz();
   BulList.setToolTip(BulList.rowCount() > 0 ? std::string()
                                             : phrase(istasyon, shell::Phrase::NobodyFound));
   ListeBitti();

@@ -20,8 +20,6 @@ DatedRecordScreen::DatedRecordScreen(Station& station, std::string_view name,
         static_cast<forms::Control*>(&txtnumara)}) {
     hidden->setVisible(false);
   }
-  tusGrubu({"New", "Save", "Delete"});
-  if (istasyon.screens.has("frmprewive")) tusGrubu({"Print"});
   mnuyeni.Click.connect([this] { Yeni(); });
   lblisim.Change.connect([this] { hastaDegisti(); });
   liste.Click.connect([this] { tarihSecildi(); });
@@ -37,6 +35,8 @@ DatedRecordScreen::DatedRecordScreen(Station& station, std::string_view name,
 }
 
 void DatedRecordScreen::ekraniKur(std::initializer_list<const char*> companions) {
+  tusGrubu({"New", "Save", "Delete"});
+  if (mnuyazdır.visible()) tusGrubu({"Print"});
   if (companions.size() > 0) tusGrubu(companions);
   tbToolBar.addButton("Exit", "Exit");
   alanlariBagla();
@@ -52,8 +52,10 @@ void DatedRecordScreen::Load() {
 
 void DatedRecordScreen::hastaDegisti() {
   lblhasta.setCaption(hastaBandi(istasyon, lblisim.caption()));
-  VTarihler();
+  const dao::Status listed = VTarihler();
   alanlaribosalt();
+  // A list that cannot be read must not look like a patient without records.
+  if (!listed) durumYaz(listed.text());
 }
 
 // --- The fields
@@ -64,9 +66,10 @@ void DatedRecordScreen::alanlaribosalt() {
   RecordScreen::alanlaribosalt();
   sonrakineTasi();
   txttarih.setDate(bugun());
+  istasyon.OncekiTarih = txttarih.text();
   ResimVar();
   Eskialan();
-  etkinlestir(mnuyeni, "New", false);
+  yeniEtkin(false);
   satiriSec();
   durumYaz({});
 }
@@ -81,7 +84,7 @@ void DatedRecordScreen::Yeni() {
 void DatedRecordScreen::sonrakineTasi() {
   const auto carried = [](const FieldRow& row) { return row.carryOver == CarryOver::Yes; };
   if (liste.count() == 0 || std::ranges::none_of(alanlar(), carried)) return;
-  if (!tablo().Seek("=", liste.items().back().data) || tablo().NoMatch()) return;
+  if (!kayit().bul(liste.items().back().data)) return;
   for (const FieldRow& row : alanlar()) {
     if (carried(row)) alaniYukle(row);
   }
@@ -92,6 +95,7 @@ void DatedRecordScreen::kayitYuklendi() {
   txtnumara.setText(gosterilen_);
   const auto date = tablo().Fields("Date").Value().date();
   date ? txttarih.setDate(*date) : txttarih.setText("");
+  istasyon.OncekiTarih = txttarih.text();
   ResimVar();
   satiriSec();
   const auto fee = std::ranges::find(alanlar(), "Fee", &FieldRow::column);
@@ -135,79 +139,64 @@ void DatedRecordScreen::Kaydet() {
 dao::Status DatedRecordScreen::kayitYaz() {
   auto transaction = istasyon.stores.clinical.database.beginTransaction();
   if (!transaction) return transaction.error();
-  listelereEkle();
-  const auto number = kaydiYaz();
+  const auto number =
+      kayit().yaz(text::wholeNumber(txtnumara.text()), [this] { return Forumalanlaritasi(); });
   if (!number) return number.error();
   const auto records = hastaninKayitlari();
   if (!records) return records.error();
-  vizitYaz(*records).ignore();
-  const dao::Status committed = transaction->commit();
-  if (!committed) return committed;
+  dao::Status done = vizitYaz(*records);
+  listelereEkle();
+  if (done) done = transaction->commit();
+  if (!done) return done;
   gosterilen_ = std::to_string(*number);
   txtnumara.setText(gosterilen_);
   listele(*records);
   return {};
 }
 
-// The number of the row that was written.
-dao::Result<std::int64_t> DatedRecordScreen::kaydiYaz() {
-  dao::Recordset& table = tablo();
-  const auto old = text::wholeNumber(txtnumara.text());
-  const bool stored = old && table.Seek("=", *old) && !table.NoMatch();
-  auto number = stored ? dao::Result<std::int64_t>(*old)
-                       : istasyon.stores.clinical.database.nextNumber(kind_.table, "Count");
-  if (!number) return number;
-  dao::Status done = stored ? table.Edit() : table.AddNew();
-  if (done) done = table.Fields("Count").Set(*number);
-  if (done) done = Forumalanlaritasi();
-  if (done) done = table.Update();
-  if (done) return number;
-  table.CancelUpdate();
-  return std::unexpected(done);
-}
-
 void DatedRecordScreen::Sil() {
   const auto number = text::wholeNumber(txtnumara.text());
-  if (!number || !tablo().Seek("=", *number) || tablo().NoMatch()) return;
+  if (!number || !kayit().bul(*number)) return;
   if (!istasyon.evetMi(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  silVeListele(*number, [this] { return hastaninKayitlari(); });
+}
+
+// The screen is cleared once nothing of the record is left.
+void DatedRecordScreen::silVeListele(std::int64_t number, const Lister& remaining) {
   Records left;
-  const dao::Status deleted = silVeListele(*number, left);
+  const dao::Status deleted = kaydiSil(number, remaining, left);
   if (!deleted) return istasyon.host.runtimeError(deleted);
-  listele(left);
+  listele(std::move(left));
   alanlaribosalt();
 }
 
-dao::Status DatedRecordScreen::silVeListele(const dao::Value& number, Records& left) {
+dao::Status DatedRecordScreen::kaydiSil(std::int64_t number, const Lister& remaining,
+                                        Records& left) {
   auto transaction = istasyon.stores.clinical.database.beginTransaction();
   if (!transaction) return transaction.error();
-  // Deleted at another station meanwhile: the list is made anew all the same.
-  const bool there = tablo().Seek("=", number) && !tablo().NoMatch();
-  const dao::Status deleted = there ? tablo().Delete() : dao::Status();
+  const dao::Status deleted = kayit().sil(number);
   if (!deleted) return deleted;
-  auto records = hastaninKayitlari();
+  auto records = remaining();
   if (!records) return records.error();
   left = std::move(*records);
-  vizitYaz(left).ignore();
-  return transaction->commit();
+  const dao::Status listed = vizitYaz(left);
+  return listed ? transaction->commit() : listed;
 }
 
 void DatedRecordScreen::Sil1() {
-  const std::string number = txtnumara.text();
-  const auto sought = text::wholeNumber(number);
-  auto transaction = istasyon.stores.clinical.database.beginTransaction();
-  if (!sought || !transaction) return;
-  if (!tablo().Seek("=", *sought) || tablo().NoMatch() || !tablo().Delete()) return;
+  const auto number = text::wholeNumber(txtnumara.text());
+  if (!number || !kayit().bul(*number)) return;
   std::vector<std::int64_t> numbers;
   for (const forms::ListItem& item : Lstkn.items()) {
-    if (item.text != number) numbers.push_back(item.data);
+    if (item.data != *number) numbers.push_back(item.data);
   }
-  const auto left = stores::listedRecords(istasyon.stores.clinical.database, kind_, numbers);
-  if (!left) return istasyon.host.runtimeError(left.error());
-  vizitYaz(*left).ignore();
-  const dao::Status committed = transaction->commit();
-  if (!committed) return istasyon.host.runtimeError(committed);
-  listele(*left);
-  alanlaribosalt();
+  silVeListele(*number, [&]() -> dao::Result<Records> {
+    return stores::listedRecords(istasyon.stores.clinical.database, kind_, numbers);
+  });
+}
+
+NumberedRecord DatedRecordScreen::kayit() {
+  return {istasyon, kind_, lblisim.caption()};
 }
 
 // --- The list of dates and the ledger
@@ -216,13 +205,13 @@ std::string DatedRecordScreen::anahtar() const {
   return stores::ledgerKey(istasyon.BransAdi, kind_, lblisim.caption());
 }
 
-void DatedRecordScreen::VTarihler() {
+dao::Status DatedRecordScreen::VTarihler() {
   stores::ClinicalStore& clinical = istasyon.stores.clinical;
   const auto row = stores::readLedgerRow(clinical.Visit, anahtar());
   const auto records = row ? stores::listedRecords(clinical.database, kind_, row->numbers)
                            : dao::Result<Records>(std::unexpect, row.error());
   listele(records.value_or(Records()));
-  if (!records) durumYaz(records.error().text());
+  return records ? dao::Status() : records.error();
 }
 
 void DatedRecordScreen::tarihler() {
@@ -244,8 +233,13 @@ void DatedRecordScreen::Visitkaydet() {
 dao::Status DatedRecordScreen::vizitYaz(const Records& records) {
   stores::LedgerRow row;
   for (const stores::DatedRecord& record : records) row.numbers.push_back(record.number);
-  if (!records.empty()) row.lastVisit = records.back().date;
-  return stores::writeLedgerRow(istasyon.stores.clinical.Visit, anahtar(), row);
+  // A record without a date stands on the first day of all.
+  const bool dated = !records.empty() && records.back().date != text::fromDayNumber(0);
+  if (dated) row.lastVisit = records.back().date;
+  const dao::Status written =
+      stores::writeLedgerRow(istasyon.stores.clinical.Visit, anahtar(), row);
+  // A key that is too long has no row; the record is stored all the same.
+  return written.fault() == dao::Fault::TooLong ? dao::Status() : written;
 }
 
 void DatedRecordScreen::listele(Records records) {
@@ -289,7 +283,7 @@ void DatedRecordScreen::tarihSecildi() {
 void DatedRecordScreen::numaraDegisti() {
   if (txtnumara.text() == gosterilen_ || txtnumara.text().empty()) return;
   const auto number = text::wholeNumber(txtnumara.text());
-  if (number && alanlaritasi(*number)) return;
+  if (number && kayit().bul(*number) && alanlaritasi(*number)) return;
   txtnumara.setText(gosterilen_);
   satiriSec();
   durumYaz(phrase(istasyon, Phrase::RecordGone));

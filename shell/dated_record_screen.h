@@ -3,12 +3,14 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/forms/label.h"
 #include "platform/forms/list_control.h"
+#include "shell/numbered_record.h"
 #include "shell/record_screen.h"
 #include "stores/visit_ledger.h"
 
@@ -33,7 +35,7 @@ class DatedRecordScreen : public RecordScreen {
     return istasyon.stores.clinical.*kind_.recordset;
   }
   [[nodiscard]] std::string eskiAnahtar() const override { return txtnumara.text(); }
-  [[nodiscard]] std::string& yedek() override { return istasyon.AlanYedegi; }
+  [[nodiscard]] std::string& yedek() override { return yedek_; }
 
   // The patient on the card comes onto the screen.
   void Load() override;
@@ -49,8 +51,8 @@ class DatedRecordScreen : public RecordScreen {
   [[nodiscard]] std::string YeniAlanlar() override;
   dao::Status Forumalanlaritasi() override;
 
-  // The list of dates from the ledger, and from the table itself.
-  void VTarihler();
+  // The list of dates from the ledger, and from the table itself. One that cannot be read is empty.
+  dao::Status VTarihler();
   void tarihler();
   // Writes the list of dates into the ledger.
   void Visitkaydet();
@@ -85,8 +87,11 @@ class DatedRecordScreen : public RecordScreen {
   using Records = std::vector<stores::DatedRecord>;
 
   [[nodiscard]] dao::Status kayitYaz();
-  [[nodiscard]] dao::Result<std::int64_t> kaydiYaz();
-  [[nodiscard]] dao::Status silVeListele(const dao::Value& number, Records& left);
+  using Lister = std::function<dao::Result<Records>()>;
+  [[nodiscard]] NumberedRecord kayit();
+  // Deletes the record and its place in the ledger, both or neither; `remaining` lists the others.
+  void silVeListele(std::int64_t number, const Lister& remaining);
+  [[nodiscard]] dao::Status kaydiSil(std::int64_t number, const Lister& remaining, Records& left);
   [[nodiscard]] dao::Result<Records> hastaninKayitlari();
   [[nodiscard]] std::string anahtar() const;
   dao::Status vizitYaz(const Records& records);
@@ -99,6 +104,7 @@ class DatedRecordScreen : public RecordScreen {
 
   const stores::RecordKind& kind_;
   Records kayitlar_;        // in the order of the list
+  std::string yedek_;       // its own: screens of one family may lie over each other
   std::string gosterilen_;  // the number of the record that is on the screen
 };
 

@@ -1,5 +1,7 @@
 #include "shell/named_record_screen.h"
 
+#include <algorithm>
+
 #include "platform/dao/database.h"
 #include "platform/text/utf8.h"
 #include "shell/text_lookup.h"
@@ -17,6 +19,12 @@ NamedRecordScreen::NamedRecordScreen(Station& station, std::string_view name,
 
 bool NamedRecordScreen::kaydedilebilir() {
   return !text::trimmed(isimAlani().text()).empty();
+}
+
+// The name as it is stored, blanks and all: it is the key.
+void NamedRecordScreen::kayitYuklendi() {
+  const auto isName = [this](const FieldRow& row) { return &row.control(*this) == &isimAlani(); };
+  txteski.setText(tablo().Fields(std::ranges::find_if(alanlar(), isName)->column).text());
 }
 
 void NamedRecordScreen::alanlaribosalt() {

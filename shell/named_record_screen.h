@@ -16,7 +16,7 @@ class NamedRecordScreen : public RecordScreen {
   forms::TextBox txteski;
 
   [[nodiscard]] std::string eskiAnahtar() const override { return txteski.text(); }
-  [[nodiscard]] std::string& yedek() override { return istasyon.AlanYedegi; }
+  [[nodiscard]] std::string& yedek() override { return yedek_; }
 
   // A changed name is asked about first. A name that another record has stays with that record.
   void Kaydet() override;
@@ -30,10 +30,12 @@ class NamedRecordScreen : public RecordScreen {
   // The rows of the table have changed.
   virtual void listeDegisti() {}
   [[nodiscard]] bool kaydedilebilir() override;
-  void kayitYuklendi() override { txteski.setText(isimAlani().text()); }
+  void kayitYuklendi() override;
 
  private:
   [[nodiscard]] dao::Status kaydiYaz();
+
+  std::string yedek_;  // its own: a catalogue may lie over the screen that it serves
 };
 
 }  // namespace shell

@@ -29,6 +29,8 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::StoreFailed, "The change was not stored: ", "Değişiklik saklanamadı: "},
     {Phrase::RecordGone, "this record was deleted at another station",
      "bu kayıt başka bir istasyonda silinmiş"},
+    {Phrase::NameTaken, "another station has just stored a patient of this name",
+     "başka bir istasyon bu isimde bir hasta kaydetti"},
     {Phrase::Stop, "Stop", "Durdur"},
     {Phrase::HiddenCount, "hidden: ", "gizli: "},
     {Phrase::SaveAllCards, "Save All Cards Anew", "Tüm Kartları Yeniden Kaydet"},

@@ -23,6 +23,7 @@ enum class Phrase {
   OpeningFailed,
   StoreFailed,
   RecordGone,
+  NameTaken,
   Stop,
   HiddenCount,  // a number follows
   SaveAllCards,

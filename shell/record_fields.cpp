@@ -13,7 +13,7 @@ bool RecordScreen::alanlaritasi(const dao::Value& key) {
   alanlariYukle();
   kayitYuklendi();
   Eskialan();
-  etkinlestir(mnuyeni, "New", true);
+  yeniEtkin(true);
   etkinlestir(mnusil, "Delete", true);
   durumYaz({});
   return true;
@@ -50,7 +50,7 @@ void RecordScreen::alanlaribosalt() {
       field->setText("");
     }
   }
-  etkinlestir(mnuyeni, "New", false);
+  yeniEtkin(false);
   etkinlestir(mnukaydet, "Save", false);
   etkinlestir(mnusil, "Delete", false);
 }
@@ -75,9 +75,7 @@ bool RecordScreen::temizlenebilir() {
 void RecordScreen::tuskontrol() {
   const bool wasChanged = mnukaydet.enabled();
   etkinlestir(mnukaydet, "Save", kaydedilebilir() && YeniAlanlar() != yedek());
-  etkinlestir(mnuyeni, "New", temizlenebilir());
-  mnuonizleme.setEnabled(mnuyeni.enabled());
-  etkinlestir(mnuyazdır, "Print", mnuyeni.enabled());
+  yeniEtkin(temizlenebilir());
   if (mnukaydet.enabled()) return durumYaz(phrase(istasyon, Phrase::StateChanged));
   if (wasChanged) durumYaz({});
 }

@@ -135,6 +135,12 @@ void RecordScreen::etkinlestir(forms::MenuItem& entry, std::string_view button, 
   tbToolBar.setButtonEnabled(button, enabled);
 }
 
+void RecordScreen::yeniEtkin(bool enabled) {
+  etkinlestir(mnuyeni, "New", enabled);
+  mnuonizleme.setEnabled(enabled);
+  etkinlestir(mnuyazdır, "Print", enabled);
+}
+
 void RecordScreen::kaydedildi() {
   durumYaz(phrase(istasyon, Phrase::StateSaved) + text::shortTime(istasyon.clock.now()));
 }

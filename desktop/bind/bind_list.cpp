@@ -110,8 +110,11 @@ void bind(QListView& view, forms::ListBox& list, RowOrder order) {
   model->setParent(&binding);  // gone with it: the list may be gone before the view
   if (list.choice() == forms::ListChoice::Several) checkRows(binding, view, list);
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &binding,
-                   [&list, model](const QModelIndex& current) {
-                     list.setListIndex(model->mapped(current.row()));
+                   [&view, &list, model](const QModelIndex& current) {
+                     // A view that gets the focus marks its first row: nobody has chosen it.
+                     const bool chosen = view.selectionModel()->isSelected(current);
+                     if (chosen || !current.isValid())
+                       list.setListIndex(model->mapped(current.row()));
                    });
   QObject::connect(&view, &QListView::doubleClicked, &binding, [&] { list.DblClick(); });
 }

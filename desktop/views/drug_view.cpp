@@ -86,7 +86,7 @@ QWidget* prescription(exam::FrmDrug& form, QWidget& parent) {
 // Enter in a field adds nothing by itself: Ctrl+Enter puts the drug onto the prescription, and with
 // Shift the prescription is accepted.
 void addShortcuts(QWidget& window, exam::FrmDrug& form) {
-  const auto on = [&window](int keys, forms::CommandButton& button) {
+  const auto on = [&window](QKeyCombination keys, forms::CommandButton& button) {
     auto* const shortcut = new QShortcut(QKeySequence(keys), &window);
     QObject::connect(shortcut, &QShortcut::activated, &window, [&button] { button.press(); });
   };

@@ -136,6 +136,31 @@ TEST_F(Records, ARecordThatAnotherStationDeletedIsPassedOver) {
   EXPECT_EQ(screen->txtşikayet.text(), "iki yine");
 }
 
+// The highest number is given out again once its record is deleted.
+TEST_F(Records, ANumberThatIsAnotherPatientsByNowIsNeitherShownNorWrittenNorDeleted) {
+  save("1.1.2026", "bir");
+  save("2.1.2026", "iki");
+  support::RecordDesk second(folder.path());
+  second.station.SeciliHasta = "Mehmet Can";
+  auto& table = second.station.stores.clinical.PhysicalExam;
+  ASSERT_TRUE(table.Seek("=", 2) && table.Delete());
+  auto other = second.open();
+  other->txtşikayet.setText("Mehmet'in");
+  other->mnukaydet.press();
+  ASSERT_EQ(other->txtnumara.text(), "2");
+  screen->Sil();  // gone: no question
+  screen->txtşikayet.setText("iki yine");
+  screen->mnukaydet.press();
+  EXPECT_EQ(screen->txtnumara.text(), "3");
+  ASSERT_TRUE(stores::writeLedgerRow(desk.station.stores.clinical.Visit, "GenMed\\Ayşe Yıldız*",
+                                     {.numbers = {1, 2}, .lastVisit = {}}));
+  screen = desk.open();
+  screen->liste.setListIndex(1);
+  EXPECT_EQ(screen->txtşikayet.text(), "");
+  ASSERT_TRUE(table.Seek("=", 2) && !table.NoMatch());
+  EXPECT_EQ(table.Fields("Complain").text(), "Mehmet'in");
+}
+
 TEST_F(Records, TheLedgerIsTrusted) {
   save("1.1.2026", "bir");
   save("2.1.2026", "iki");
