@@ -70,7 +70,9 @@ QWidget* prescription(exam::FrmDrug& form, QWidget& parent) {
   patient->setFont(bold);
   column->addWidget(patient);
   QWidget* const text = makeWidget(form.txtrecete, *side);
-  column->addWidget(captionFor(*text), 0, Qt::AlignLeft);
+  auto* const heading = new QLabel(side);
+  bind(*heading, form.lblRp);
+  column->addWidget(heading);
   column->addWidget(text, 1);
   auto* const ends = new QHBoxLayout;
   ends->addStretch(1);
