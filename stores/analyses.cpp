@@ -20,8 +20,8 @@ Analysis currentOf(dao::Recordset& rows) {
   analysis.number = rows.Fields(0).Value().integer();
   analysis.date = rows.Fields(1).Value().date();
   int column = 2;
-  for (std::string* const field : {&analysis.test, &analysis.result, &analysis.unit, &analysis.min,
-                                   &analysis.max})
+  for (std::string* const field :
+       {&analysis.test, &analysis.result, &analysis.unit, &analysis.min, &analysis.max})
     *field = trimmedField(rows, column++);
   return analysis;
 }

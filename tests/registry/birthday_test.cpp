@@ -12,8 +12,7 @@ struct Birthdays : support::Card {
     std::vector<std::string> names;
     desk.host.modal["Frmbirthday"] = [&](forms::Form& form) {
       const forms::ListView& list = dynamic_cast<registry::FrmBirthday&>(form).Lvisim;
-      for (std::size_t row = 0; row < list.rowCount(); ++row)
-        names.emplace_back(list.cell(row, 0));
+      for (std::size_t row = 0; row < list.rowCount(); ++row) names.emplace_back(list.cell(row, 0));
     };
     registry::dogumGunuHatirlat(desk.station);
     return names;
