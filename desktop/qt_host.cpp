@@ -197,10 +197,13 @@ void QtHost::show(forms::Form& form) {
   open(form, Qt::NonModal);
 }
 
+// The window from which the form was opened gets the keyboard back.
 void QtHost::showModal(forms::Form& form) {
+  const QPointer<QWidget> opener = QApplication::activeWindow();
   QEventLoop loop;
   QObject::connect(&open(form, Qt::ApplicationModal), &FormFrame::closed, &loop, &QEventLoop::quit);
   loop.exec();
+  if (opener != nullptr && opener->isVisible()) opener->activateWindow();
 }
 
 void QtHost::close(forms::Form& form) {
