@@ -75,8 +75,11 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem mnuanjiyoara{mnuara, "mnuanjiyoara"};
   forms::MenuItem mnulensara{mnuara, "mnulensara"};
 
+  forms::MenuItem mnuhesaplar{*this, "mnuhesaplar"};
+
   forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
+  forms::MenuItem mnumesajlar{MnuSecenek, "mnumesajlar"};
   forms::MenuItem çizgi9{MnuSecenek, "çizgi9", forms::MenuKind::Separator};
   forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
   forms::MenuItem mnugebekart{MnuSecenek, "mnugebekart"};
