@@ -61,6 +61,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem mnumuayenetarihleri{MnuListeler, "mnumuayenetarihleri"};
   forms::MenuItem mnulensstok{MnuListeler, "mnulensstok"};
   forms::MenuItem mnubekdoğum{MnuListeler, "mnubekdoğum"};
+  forms::MenuItem mnuhesaplar{MnuListeler, "mnuhesaplar"};
 
   forms::MenuItem mnuara{*this, "mnuara"};
   forms::MenuItem mnubul{mnuara, "mnubul"};
@@ -74,8 +75,6 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem mnueforara{mnuara, "mnueforara"};
   forms::MenuItem mnuanjiyoara{mnuara, "mnuanjiyoara"};
   forms::MenuItem mnulensara{mnuara, "mnulensara"};
-
-  forms::MenuItem mnuhesaplar{*this, "mnuhesaplar"};
 
   forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
@@ -250,6 +249,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void listeyiKapat();
   void isimleriAc(bool unlocked);
   void isimSifresi();
+  // The accounts open for whoever knows their password, when one is asked for.
+  void hesaplariAc();
   void gizlileriSec();
 
   void gunuBagla();

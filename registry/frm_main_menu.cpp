@@ -88,6 +88,7 @@ void FrmMain::menuleriBagla() {
     const bool pathology = istasyon.BransNo == shell::brans::pathology;
     ekranAc(mnuraporara, pathology ? "frmsearchpat" : "frmsearchrad");
   });
+  mnuhesaplar.Click.connect([this] { hesaplariAc(); });
   mnuyeni.Click.connect([this] {
     if (kayitkontrol()) Yeni();
   });

@@ -54,6 +54,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnumuayenetarihleri", "muayenetarihleri", Menu},
     CaptionRow{"mnulensstok", "lensstok", Menu},
     CaptionRow{"mnubekdoğum", "beklenendogumlar", Menu},
+    CaptionRow{"mnuhesaplar", "hesaplar", Menu},
     CaptionRow{"mnuara", "Ara", Menu},
     CaptionRow{"mnubul", "Bul", Menu},
     CaptionRow{"mnumuayeneara", "muayeneara", Menu},

@@ -10,7 +10,7 @@ namespace shell {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 23> icons{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 24> icons{{
     {"mnuyeni", "New"},
     {"mnukaydet", "Save"},
     {"mnusil", "Delete"},
@@ -29,6 +29,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 23> icons{{
     {"mnugrafik", "grafik"},
     {"mnutestdüzenle", "testler"},
     {"mnumesajlar", "mesaj"},
+    {"mnuhesaplar", "invoice"},
     {"mnumesajyaz", "yaz"},
     {"mnuyanıtla", "yanit"},
     {"mnumesajal", "al"},
