@@ -65,6 +65,7 @@ class FrmMain : public shell::RecordScreen,
   forms::MenuItem mnumuayenetarihleri{MnuListeler, "mnumuayenetarihleri"};
   forms::MenuItem mnulensstok{MnuListeler, "mnulensstok"};
   forms::MenuItem mnubekdoğum{MnuListeler, "mnubekdoğum"};
+  forms::MenuItem mnuhesaplar{MnuListeler, "mnuhesaplar"};
 
   forms::MenuItem mnuara{*this, "mnuara"};
   forms::MenuItem mnubul{mnuara, "mnubul"};
@@ -81,6 +82,7 @@ class FrmMain : public shell::RecordScreen,
 
   forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
+  forms::MenuItem mnumesajlar{MnuSecenek, "mnumesajlar"};
   forms::MenuItem çizgi9{MnuSecenek, "çizgi9", forms::MenuKind::Separator};
   forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
   forms::MenuItem mnugebekart{MnuSecenek, "mnugebekart"};
@@ -261,6 +263,8 @@ class FrmMain : public shell::RecordScreen,
   void listeyiKapat();
   void isimleriAc(bool unlocked);
   void isimSifresi();
+  // The accounts open for whoever knows their password, when one is asked for.
+  void hesaplariAc();
   void gizlileriSec();
 
   void gunuBagla();

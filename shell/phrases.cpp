@@ -79,6 +79,13 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::PicturePathTooLong,
      "The name of the file with its folders is too long. Longest, in characters: ",
      "Dosyanın klasörleriyle birlikte adı çok uzun. En çok karakter: "},
+    {Phrase::Reply, "Reply", "Yanıtla"},
+    {Phrase::MessageNotSent, "The message was not sent. Discard it?",
+     "Mesaj gönderilmedi. Vazgeçilsin mi?"},
+    {Phrase::MessageCount, "messages: ", "mesaj: "},
+    {Phrase::UnreadCount, "unread: ", "okunmamış: "},
+    {Phrase::NoMessages, "No messages. Press F5 to look again.",
+     "Mesaj yok. Yeniden bakmak için F5'e basın."},
 });
 
 }  // namespace

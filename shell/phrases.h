@@ -61,7 +61,12 @@ enum class Phrase {
   NotAPicture,
   PictureDamaged,
   PictureTooLarge,
-  PicturePathTooLong  // the largest number of characters follows
+  PicturePathTooLong,  // the largest number of characters follows
+  Reply,
+  MessageNotSent,
+  MessageCount,  // a number follows
+  UnreadCount,   // a number follows
+  NoMessages
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QImageReader>
+#include <fstream>
 
 #include "tests/desktop/desk.h"
 
@@ -33,7 +34,9 @@ TEST(Tour, SaysWhenItCannotWrite) {
   support::WindowDesk desk;
   registry::FrmMain card(desk.station);
   card.Load();
-  EXPECT_FALSE(desktop::tour(desk.host, desk.station, card, "/proc/no/such/folder"));
+  const std::string file = desk.folder / "file";
+  std::ofstream(file) << "no folder";
+  EXPECT_FALSE(desktop::tour(desk.host, desk.station, card, file + "/tour"));
 }
 
 }  // namespace
