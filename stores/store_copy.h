@@ -6,6 +6,7 @@
 
 #include "platform/dao/database.h"
 #include "stores/progress.h"
+#include "stores/store_draft.h"
 
 namespace stores {
 
@@ -25,5 +26,10 @@ namespace stores {
 // was stopped.
 [[nodiscard]] dao::Status copyStore(const std::filesystem::path& from,
                                     const std::filesystem::path& to, const Progress& progress = {});
+
+// The same up to the moment when it takes the name: for stores that are replaced together.
+[[nodiscard]] dao::Result<StoreDraft> draftCopy(const std::filesystem::path& from,
+                                                const std::filesystem::path& to,
+                                                const Progress& progress = {});
 
 }  // namespace stores

@@ -152,6 +152,10 @@ using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
                                      const std::filesystem::path& to,
                                      const Progress& progress = {});
 
+// Busy when somebody reads or writes the store at this moment. Stations that have it open and do
+// nothing are not seen.
+[[nodiscard]] Status ProbeUnused(const std::filesystem::path& path);
+
 struct RepairReport {
   bool wasDamaged = false;
   std::string findings;  // what the check found before the repair, a line each

@@ -94,6 +94,13 @@ Result<Database> CreateDatabase(const std::filesystem::path& path, Order order) 
   return Database(std::move(*engine));
 }
 
+Status ProbeUnused(const std::filesystem::path& path) {
+  auto engine = Engine::open(path, {.busyTimeout = std::chrono::milliseconds{0}});
+  if (!engine) return engine.error();
+  const auto locked = (*engine)->run("BEGIN EXCLUSIVE", nameOf(path));
+  return locked ? Status() : locked.error();
+}
+
 Status Database::integrityCheck() {
   if (!isOpen()) return {Fault::NoCurrent, "The store is closed."};
   const auto lines = findings(*engine_);
