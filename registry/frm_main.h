@@ -78,6 +78,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
   forms::MenuItem çizgi9{MnuSecenek, "çizgi9", forms::MenuKind::Separator};
+  forms::MenuItem mnuyedekle{MnuSecenek, "mnuyedekle"};
+  forms::MenuItem mnugeriyukle{MnuSecenek, "mnugeriyukle"};
+  forms::MenuItem mnuyedekdene{MnuSecenek, "mnuyedekdene"};
+  forms::MenuItem çizgi10{MnuSecenek, "çizgi10", forms::MenuKind::Separator};
   forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
   forms::MenuItem mnugebekart{MnuSecenek, "mnugebekart"};
 
@@ -171,7 +175,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   void Load() override;
   void Activate() override;
-  [[nodiscard]] bool QueryUnload() override { return kayitkontrol(); }
+  // The backup at exit comes before the save question.
+  [[nodiscard]] bool QueryUnload() override;
   void Unload() override;
 
   bool hastaoku() override;
@@ -210,6 +215,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void Tamir2();
   // Adds a card for every name of the Pregnancy table that has none.
   void Command1();
+
+  // Restores the stores from the backup and empties the card: no row of the old stores stays on it.
+  void mnugeriyukle_Click();
 
   // Fits the photograph into its panel.
   void ResimBoyutla();

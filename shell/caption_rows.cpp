@@ -66,6 +66,8 @@ constexpr std::array menuRows{
     CaptionRow{"mnulensara", "lensara", Menu},
     CaptionRow{"MnuSecenek", "araclar", Menu},
     CaptionRow{"mnusecenekler", "secenek", Menu},
+    CaptionRow{"mnuyedekle", "Yedekle", Menu},
+    CaptionRow{"mnugeriyukle", "geriyukle", Menu},
     CaptionRow{"MnuYardim", "yardim", Menu},
     CaptionRow{"mnuhakkinda", "hakkinda", Menu},
 };
@@ -156,6 +158,10 @@ constexpr std::array dialogRows{
     CaptionRow{"SV1", "dusey"},
     CaptionRow{"SH1", "Yatay"},
     CaptionRow{"txtsize", "Boyut"},
+    CaptionRow{"FrmSave", "Yedekle", Window},
+    CaptionRow{"ButYedekle", "Yedekle"},
+    CaptionRow{"Ldizinbaslik", "yedeklenecegidizin"},
+    CaptionRow{"Ldosyabaslik", "yedeklenecekdosyalar"},
 };
 
 constexpr std::array examRows{
@@ -277,6 +283,9 @@ constexpr std::array toolTips{
     KeyedCaption{"filtre", "testfiltrele"},
     KeyedCaption{"grafik", "Grafik"},
     KeyedCaption{"testler", "testduzenle"},
+    KeyedCaption{"dosyaac", "yeniklasorolustur"},
+    KeyedCaption{"dosyaon", "birduzeyyukari"},
+    KeyedCaption{"delete", "Sil"},
 };
 
 constexpr std::array tabs{
@@ -310,6 +319,10 @@ constexpr std::array phrases{
     PhraseRow{"mnusayfaeni", Phrase::FitWidth},
     PhraseRow{"pageno", Phrase::PageNumber},
     PhraseRow{"mnutümü", Phrase::AllResults},
+    PhraseRow{"mnuyedekdene", Phrase::RestoreDrill},
+    PhraseRow{"Drive1", Phrase::Place},
+    PhraseRow{"Dir1", Phrase::FoldersInIt},
+    PhraseRow{"Lsonbaslik", Phrase::LastBackup},
 };
 
 }  // namespace

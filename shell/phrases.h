@@ -61,7 +61,33 @@ enum class Phrase {
   NotAPicture,
   PictureDamaged,
   PictureTooLarge,
-  PicturePathTooLong  // the largest number of characters follows
+  PicturePathTooLong,  // the largest number of characters follows
+  BackupFailed,        // a reason follows
+  BackupStopped,
+  LeaveWithoutBackup,
+  BackupHint,
+  BackupNotIntoData,
+  Place,
+  FoldersInIt,
+  LastBackup,
+  NoBackupYet,
+  FolderNotEmpty,
+  FolderRefused,  // a reason follows
+  AskFolderName,
+  AskRemoval,     // behind the name of a folder
+  RestoreFailed,  // a reason follows
+  RestoreStopped,
+  RestoreWantsAlone,
+  RestoreDrill,
+  DrillSound,    // %1 date, %2 patients, %3 records, %4 last examination
+  DrillFailed,   // %1 date, %2 reason
+  NothingFound,  // in front of nothing: a date that is not there
+  NoFile,
+  NoRoom,
+  NotWritable,
+  FileDamaged,
+  OtherFile,
+  FileInUse
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
