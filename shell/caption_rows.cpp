@@ -54,6 +54,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnumuayenetarihleri", "muayenetarihleri", Menu},
     CaptionRow{"mnulensstok", "lensstok", Menu},
     CaptionRow{"mnubekdoğum", "beklenendogumlar", Menu},
+    CaptionRow{"mnuhesaplar", "hesaplar", Menu},
     CaptionRow{"mnuara", "Ara", Menu},
     CaptionRow{"mnubul", "Bul", Menu},
     CaptionRow{"mnumuayeneara", "muayeneara", Menu},
@@ -224,6 +225,31 @@ constexpr std::array pictureRows{
     CaptionRow{"VSlfoto", "dusey"},
 };
 
+constexpr std::array messageRows{
+    CaptionRow{"mnumesajlar", "Mesaj", Menu},
+    CaptionRow{"mnumesajyaz", "mesajyaz", Menu},
+    CaptionRow{"mnumesajal", "mesajal", Menu},
+    CaptionRow{"mnutümmesajlarısil", "tummesajlarisil", Menu},
+    CaptionRow{"mnuadres", "gonderenisminiyaziniz", Menu},
+    CaptionRow{"mnuayar", "goruntulenecekmesaj", Menu},
+    CaptionRow{"msgrid1", "Mesaj", Plain, "frmmesajlar"},
+    CaptionRow{"txtmesaj", "Mesaj"},
+    CaptionRow{"opttümü", "tummesajlar"},
+    CaptionRow{"optgünlük", "gunlukmesajlar"},
+    CaptionRow{"optokunmamış", "okunmamismesajlar"},
+    CaptionRow{"optyeni", "yenimesajlar"},
+    CaptionRow{"frmayar", "goruntulenecekmesaj", Window},
+    CaptionRow{"opttumu", "tummesajlar"},
+    CaptionRow{"optgunluk", "gunlukmesajlar"},
+    CaptionRow{"optokunmamis", "okunmamismesajlar"},
+    CaptionRow{"Frmmsggon", "mesajyaz", Window},
+    CaptionRow{"ComKimden", "Kimden"},
+    CaptionRow{"ButLKimden", "Kimden"},
+    CaptionRow{"ComKime", "Kime"},
+    CaptionRow{"txtkonu", "Konu"},
+    CaptionRow{"Butgönder", "gonder"},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -234,7 +260,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   return all;
 }
 constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows,
-                                findRows, laboratoryRows, pictureRows);
+                                findRows, laboratoryRows, pictureRows, messageRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -283,6 +309,10 @@ constexpr std::array toolTips{
     KeyedCaption{"filtre", "testfiltrele"},
     KeyedCaption{"grafik", "Grafik"},
     KeyedCaption{"testler", "testduzenle"},
+    KeyedCaption{"yaz", "mesajyaz"},
+    KeyedCaption{"al", "mesajal"},
+    KeyedCaption{"sil", "Sil"},
+    KeyedCaption{"ayar", "goruntulenecekmesaj"},
     KeyedCaption{"dosyaac", "yeniklasorolustur"},
     KeyedCaption{"dosyaon", "birduzeyyukari"},
     KeyedCaption{"delete", "Sil"},
@@ -319,6 +349,7 @@ constexpr std::array phrases{
     PhraseRow{"mnusayfaeni", Phrase::FitWidth},
     PhraseRow{"pageno", Phrase::PageNumber},
     PhraseRow{"mnutümü", Phrase::AllResults},
+    PhraseRow{"mnuyanıtla", Phrase::Reply},
     PhraseRow{"mnuyedekdene", Phrase::RestoreDrill},
     PhraseRow{"Drive1", Phrase::Place},
     PhraseRow{"Dir1", Phrase::FoldersInIt},

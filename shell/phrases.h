@@ -62,7 +62,12 @@ enum class Phrase {
   PictureDamaged,
   PictureTooLarge,
   PicturePathTooLong,  // the largest number of characters follows
-  BackupFailed,        // a reason follows
+  Reply,
+  MessageNotSent,
+  MessageCount,  // a number follows
+  UnreadCount,   // a number follows
+  NoMessages,
+  BackupFailed,  // a reason follows
   BackupStopped,
   LeaveWithoutBackup,
   BackupHint,
