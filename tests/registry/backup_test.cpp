@@ -1,7 +1,7 @@
 // The backup screen, the backup at exit and the restore, as the user meets them.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "shell/backup.h"
