@@ -25,6 +25,7 @@
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
+#include "shell/frm_save.h"
 #include "shell/speciality.h"
 
 namespace app {
@@ -53,6 +54,7 @@ shell::ScreenDirectory screens() {
   add<shell::FrmOption>(directory, "FrmOption");
   add<shell::FrmPass>(directory, "frmpass");
   add<shell::FrmAbout>(directory, "frmabout");
+  add<shell::FrmSave>(directory, "FrmSave");
   add<registry::FrmBirthday>(directory, "Frmbirthday");
   add<registry::FrmKey>(directory, "Frmkey");
   add<registry::FrmMax>(directory, "frmmax");
@@ -93,6 +95,8 @@ Session::Outcome Session::start() {
   istasyon_.host.pause(splashMilliseconds);
   istasyon_.host.close(logo);
   if (!openingPassword()) {
+    // What goes down with the program is done all the same; nothing was typed that could be lost.
+    (void)main_.QueryUnload();
     main_.Unload();
     return Outcome::Refused;
   }

@@ -50,6 +50,8 @@ constexpr auto names = std::to_array<IconName>({
     {"picture", "view-preview"},
     {"Add", "list-add"},
     {"Open", "document-open"},
+    {"dosyaac", "folder-new"},
+    {"dosyaon", "go-up"},
     {"appointment", "view-calendar-day"},
     {"password", "dialog-password"},
     {"program", "user-identity"},

@@ -12,6 +12,7 @@
 #include "desktop/views/picture_view.h"
 #include "desktop/views/print_views.h"
 #include "desktop/views/record_view.h"
+#include "desktop/views/save_view.h"
 #include "desktop/views/splash_view.h"
 #include "desktop/views/trend_view.h"
 #include "shell/dated_record_screen.h"
@@ -38,6 +39,7 @@ ViewRegistry programViews() {
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);
   views.add("FrmFind", findView);
+  views.add("FrmSave", saveView);
   views.add("frmpattern", patternView);
   views.add("frmprewive", prewiveView);
   views.add("frmpreview1", preview1View);

@@ -5,6 +5,7 @@
 #include "platform/files/folders.h"
 #include "platform/text/number.h"
 #include "registry/card_fields.h"
+#include "shell/backup.h"
 #include "shell/captions.h"
 #include "shell/menu_icons.h"
 #include "shell/phrases.h"
@@ -87,6 +88,10 @@ void FrmMain::Load() {
 void FrmMain::Activate() {
   Pexam.setVisible(istasyon.acik("dexam"));
   gunlukListele();
+}
+
+bool FrmMain::QueryUnload() {
+  return shell::cikistayedekle(istasyon) && kayitkontrol();
 }
 
 void FrmMain::Unload() {

@@ -84,6 +84,10 @@ class FrmMain : public shell::RecordScreen,
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
   forms::MenuItem mnumesajlar{MnuSecenek, "mnumesajlar"};
   forms::MenuItem çizgi9{MnuSecenek, "çizgi9", forms::MenuKind::Separator};
+  forms::MenuItem mnuyedekle{MnuSecenek, "mnuyedekle"};
+  forms::MenuItem mnugeriyukle{MnuSecenek, "mnugeriyukle"};
+  forms::MenuItem mnuyedekdene{MnuSecenek, "mnuyedekdene"};
+  forms::MenuItem çizgi10{MnuSecenek, "çizgi10", forms::MenuKind::Separator};
   forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
   forms::MenuItem mnugebekart{MnuSecenek, "mnugebekart"};
 
@@ -180,7 +184,8 @@ class FrmMain : public shell::RecordScreen,
 
   void Load() override;
   void Activate() override;
-  [[nodiscard]] bool QueryUnload() override { return kayitkontrol(); }
+  // The backup at exit comes before the save question.
+  [[nodiscard]] bool QueryUnload() override;
   void Unload() override;
 
   bool hastaoku() override;
@@ -226,6 +231,9 @@ class FrmMain : public shell::RecordScreen,
   void Tamir2();
   // Adds a card for every name of the Pregnancy table that has none.
   void Command1();
+
+  // Restores the stores from the backup and empties the card: no row of the old stores stays on it.
+  void mnugeriyukle_Click();
 
   // Fits the photograph into its panel.
   void ResimBoyutla();

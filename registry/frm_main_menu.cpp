@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "registry/frm_main.h"
+#include "shell/restore.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
 #include "stores/visit_ledger.h"
@@ -18,7 +19,7 @@ struct EntryScreen {
 };
 
 // The screen behind each entry, by its name in the screen directory.
-constexpr std::array<EntryScreen, 38> entryScreens{{
+constexpr std::array<EntryScreen, 39> entryScreens{{
     {&FrmMain::mnumuayene1, "FrmExam"},
     {&FrmMain::MnuMuayene2, "FrmExam"},
     {&FrmMain::MnuMuayene3, "FrmExam"},
@@ -56,6 +57,7 @@ constexpr std::array<EntryScreen, 38> entryScreens{{
     {&FrmMain::mnulensara, "frmsearchlens"},
     {&FrmMain::mnusecenekler, "FrmOption"},
     {&FrmMain::mnumesajlar, "frmmesajlar"},
+    {&FrmMain::mnuyedekle, "FrmSave"},
     {&FrmMain::mnuhakkinda, "frmabout"},
 }};
 
@@ -95,6 +97,8 @@ void FrmMain::menuleriBagla() {
   });
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
+  mnugeriyukle.Click.connect([this] { mnugeriyukle_Click(); });
+  mnuyedekdene.Click.connect([this] { shell::yedegiDene(istasyon); });
   mnutamir.Click.connect([this] { Tamir2(); });
   mnugebekart.Click.connect([this] { Command1(); });
   mnugeri.setShortcut("Ctrl+PgUp");

@@ -6,6 +6,7 @@
 #include "shell/age.h"
 #include "shell/frm_progress.h"
 #include "shell/phrases.h"
+#include "shell/restore.h"
 
 namespace registry {
 
@@ -118,6 +119,19 @@ void FrmMain::Tamir2() {
   };
   run(istasyon, work, batches);
   Listeleriyaz();
+}
+
+void FrmMain::mnugeriyukle_Click() {
+  if (!kayitkontrol()) return;
+  listeyiKapat();
+  if (!shell::mnugeriyukle_Click(istasyon)) return;
+  Yeni();
+  Listeleriyaz();
+  Eskialanmain();
+  gunlukListele();
+  const bool anyone = !tablo().empty();
+  yonEtkin(Direction::Back, anyone);
+  yonEtkin(Direction::Forward, anyone);
 }
 
 void FrmMain::Command1() {

@@ -67,6 +67,8 @@ constexpr std::array menuRows{
     CaptionRow{"mnulensara", "lensara", Menu},
     CaptionRow{"MnuSecenek", "araclar", Menu},
     CaptionRow{"mnusecenekler", "secenek", Menu},
+    CaptionRow{"mnuyedekle", "Yedekle", Menu},
+    CaptionRow{"mnugeriyukle", "geriyukle", Menu},
     CaptionRow{"MnuYardim", "yardim", Menu},
     CaptionRow{"mnuhakkinda", "hakkinda", Menu},
 };
@@ -157,6 +159,10 @@ constexpr std::array dialogRows{
     CaptionRow{"SV1", "dusey"},
     CaptionRow{"SH1", "Yatay"},
     CaptionRow{"txtsize", "Boyut"},
+    CaptionRow{"FrmSave", "Yedekle", Window},
+    CaptionRow{"ButYedekle", "Yedekle"},
+    CaptionRow{"Ldizinbaslik", "yedeklenecegidizin"},
+    CaptionRow{"Ldosyabaslik", "yedeklenecekdosyalar"},
 };
 
 constexpr std::array examRows{
@@ -308,6 +314,9 @@ constexpr std::array toolTips{
     KeyedCaption{"al", "mesajal"},
     KeyedCaption{"sil", "Sil"},
     KeyedCaption{"ayar", "goruntulenecekmesaj"},
+    KeyedCaption{"dosyaac", "yeniklasorolustur"},
+    KeyedCaption{"dosyaon", "birduzeyyukari"},
+    KeyedCaption{"delete", "Sil"},
 };
 
 constexpr std::array tabs{
@@ -342,6 +351,10 @@ constexpr std::array phrases{
     PhraseRow{"pageno", Phrase::PageNumber},
     PhraseRow{"mnutümü", Phrase::AllResults},
     PhraseRow{"mnuyanıtla", Phrase::Reply},
+    PhraseRow{"mnuyedekdene", Phrase::RestoreDrill},
+    PhraseRow{"Drive1", Phrase::Place},
+    PhraseRow{"Dir1", Phrase::FoldersInIt},
+    PhraseRow{"Lsonbaslik", Phrase::LastBackup},
 };
 
 }  // namespace

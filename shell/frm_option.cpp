@@ -4,10 +4,13 @@
 #include <array>
 
 #include "platform/text/number.h"
+#include "shell/backup.h"
 #include "shell/captions.h"
 #include "shell/frm_pass.h"
+#include "shell/phrases.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
+#include "stores/backup.h"
 
 namespace shell {
 
@@ -122,10 +125,15 @@ void FrmOption::sifreIle(forms::CheckBox& box, std::string_view key, bool& eaten
 
 // Backing up at exit wants a folder first.
 bool FrmOption::yedekKlasoru() {
-  const auto folder = istasyon.host.chooseFolder(metinbul(istasyon, "Yedekle"),
-                                                 istasyon.ayar("BackUp", istasyon.dosya("Backup")));
-  if (folder) istasyon.ayarYaz("BackUp", *folder);
-  return folder.has_value();
+  const auto folder = istasyon.host.chooseFolder(
+      metinbul(istasyon, "Yedekle"), istasyon.ayar(backupFolderSetting, istasyon.dosya("Backup")));
+  if (!folder) return false;
+  if (stores::isDataFolder(istasyon.UygYolu, *folder)) {
+    istasyon.bilgi(phrase(istasyon, Phrase::BackupNotIntoData));
+    return false;
+  }
+  istasyon.ayarYaz(backupFolderSetting, *folder);
+  return true;
 }
 
 }  // namespace shell

@@ -21,7 +21,8 @@ void FrmProgress::Load() {
 
 void FrmProgress::goster(std::int64_t done) {
   PBdurum.setValue(static_cast<long>(done));
-  Lsayi.setCaption(std::to_string(done) + " / " + std::to_string(is_.total));
+  const bool rows = is_.unit == ProgressUnit::Rows;
+  Lsayi.setCaption(std::to_string(done) + (rows ? " / " + std::to_string(is_.total) : " %"));
 }
 
 void FrmProgress::siradaki() {

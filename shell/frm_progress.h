@@ -13,12 +13,16 @@
 
 namespace shell {
 
+// What is counted: rows, or the share of the whole.
+enum class ProgressUnit { Rows, Percent };
+
 struct SlicedWork {
   std::string title;
   std::int64_t total = 0;
   // Works for a moment and tells how much is done by then; none when there is no more to do. What a
   // slice did stays done when the work is stopped behind it.
   std::function<std::optional<std::int64_t>()> slice;
+  ProgressUnit unit = ProgressUnit::Rows;
 };
 
 // Shown modally, it runs the work slice by slice and closes behind the last one. Closing it stops

@@ -66,7 +66,33 @@ enum class Phrase {
   MessageNotSent,
   MessageCount,  // a number follows
   UnreadCount,   // a number follows
-  NoMessages
+  NoMessages,
+  BackupFailed,  // a reason follows
+  BackupStopped,
+  LeaveWithoutBackup,
+  BackupHint,
+  BackupNotIntoData,
+  Place,
+  FoldersInIt,
+  LastBackup,
+  NoBackupYet,
+  FolderNotEmpty,
+  FolderRefused,  // a reason follows
+  AskFolderName,
+  AskRemoval,     // behind the name of a folder
+  RestoreFailed,  // a reason follows
+  RestoreStopped,
+  RestoreWantsAlone,
+  RestoreDrill,
+  DrillSound,    // %1 date, %2 patients, %3 records, %4 last examination
+  DrillFailed,   // %1 date, %2 reason
+  NothingFound,  // in front of nothing: a date that is not there
+  NoFile,
+  NoRoom,
+  NotWritable,
+  FileDamaged,
+  OtherFile,
+  FileInUse
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -111,7 +111,10 @@ dao::Status OpenStores(Stores& stores) {
   return {};
 }
 
+// A reader that still has a handle of the database does not keep the file open.
 void CloseStores(Stores& stores) {
+  stores.personal.database.Close();
+  stores.clinical.database.Close();
   stores.personal = {};
   stores.clinical = {};
   stores.settings.reset();

@@ -1,6 +1,8 @@
 // The present date and time, so that tests can set them.
 #pragma once
 
+#include <filesystem>
+
 #include "platform/text/date.h"
 
 namespace host {
@@ -17,5 +19,8 @@ class SystemClock final : public Clock {
  public:
   [[nodiscard]] text::DateTime now() const override;
 };
+
+// The local date and time of a file.
+[[nodiscard]] text::DateTime localTime(std::filesystem::file_time_type time);
 
 }  // namespace host

@@ -1,0 +1,70 @@
+#include "platform/files/copy_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <span>
+#include <vector>
+
+#include "platform/files/descriptor.h"
+
+namespace files {
+namespace {
+
+using platform::Fault;
+using platform::Status;
+using std::filesystem::path;
+
+constexpr std::size_t blockSize = std::size_t{1} << 20;
+
+struct End {
+  Descriptor file;
+  const path& name;
+};
+
+Status write(const End& to, std::span<const char> bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(to.file.number(), bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return systemFault(to.name, errno);
+    bytes = bytes.subspan(static_cast<std::size_t>(written));
+  }
+  return {};
+}
+
+Status transfer(const End& from, const End& to, const CopyProgress& progress) {
+  struct stat source = {};
+  if (::fstat(from.file.number(), &source) != 0) return systemFault(from.name, errno);
+  std::vector<char> block(blockSize);
+  std::int64_t done = 0;
+  for (;;) {
+    const ssize_t read = ::read(from.file.number(), block.data(), block.size());
+    if (read < 0 && errno == EINTR) continue;
+    if (read < 0) return systemFault(from.name, errno);
+    if (read == 0) break;
+    if (Status status = write(to, {block.data(), static_cast<std::size_t>(read)}); !status)
+      return status;
+    done += read;
+    if (progress && !progress(done, std::max<std::int64_t>(done, source.st_size)))
+      return {Fault::Other, from.name.filename().string() + ": the work was stopped."};
+  }
+  return ::fsync(to.file.number()) == 0 ? Status() : systemFault(to.name, errno);
+}
+
+}  // namespace
+
+Status copyFile(const path& from, const path& to, const CopyProgress& progress) {
+  auto source = Descriptor::open(from, O_RDONLY);
+  if (!source) return source.error();
+  auto copy = Descriptor::open(to, O_WRONLY | O_CREAT | O_EXCL);
+  if (!copy) return copy.error();
+  (void)::fchmod(copy->number(), S_IRUSR | S_IWUSR);
+  Status status = transfer({std::move(*source), from}, {std::move(*copy), to}, progress);
+  if (!status) (void)::unlink(to.c_str());
+  return status;
+}
+
+}  // namespace files

@@ -1,0 +1,22 @@
+// Copying a file byte by byte, with progress.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+
+#include "platform/status/status.h"
+
+namespace files {
+
+// Bytes done and in all; false stops the work.
+using CopyProgress = std::function<bool(std::int64_t done, std::int64_t total)>;
+
+// Writes a new file and brings it to the disk; nobody but its owner may read it, until its
+// permissions are changed. Exists when there is a file of that name. On a fault nothing is left of
+// the copy; Other when it was stopped.
+[[nodiscard]] platform::Status copyFile(const std::filesystem::path& from,
+                                        const std::filesystem::path& to,
+                                        const CopyProgress& progress = {});
+
+}  // namespace files

@@ -1,0 +1,74 @@
+#include "shell/backup.h"
+
+#include <filesystem>
+#include <span>
+
+#include "platform/files/folders.h"
+#include "shell/background_work.h"
+#include "shell/file_words.h"
+#include "shell/text_lookup.h"
+#include "stores/backup.h"
+
+namespace shell {
+
+namespace {
+
+using Kinds = std::span<const stores::StoreKind>;
+
+BackgroundResult yedekAl(Station& istasyon, const std::string& folder, Kinds kinds) {
+  return arkadaYap(istasyon, metinbul(istasyon, "Yedekle"),
+                   [&, program = istasyon.UygYolu](const stores::Progress& progress) {
+                     return stores::backUp(program, folder, kinds, progress);
+                   });
+}
+
+std::string neOldu(Station& istasyon, const BackgroundResult& result) {
+  if (result.stopped) return phrase(istasyon, Phrase::BackupStopped);
+  return phrase(istasyon, Phrase::BackupFailed) + "\n" + nedeni(istasyon, result.status);
+}
+
+// A folder that is not set or not there, such as a stick that was pulled out, has a stand-in.
+std::string cikisKlasoru(Station& istasyon) {
+  const std::string folder = istasyon.ayar(backupFolderSetting);
+  std::error_code unreachable;
+  if (!folder.empty() && std::filesystem::is_directory(folder, unreachable)) return ayracla(folder);
+  const std::string own = istasyon.dosya("Backup/");
+  // A folder that cannot be made is met again, with its reason, by the copying.
+  files::createFolders(own).ignore();
+  istasyon.ayarYaz(backupFolderSetting, own);
+  return own;
+}
+
+}  // namespace
+
+std::string ayracla(std::string folder) {
+  if (folder.empty() || folder.back() != '/') folder += '/';
+  return folder;
+}
+
+std::string yedekKlasoru(const Station& istasyon) {
+  const std::string folder = istasyon.ayar(backupFolderSetting);
+  return folder.empty() ? istasyon.dosya("Backup/") : ayracla(folder);
+}
+
+bool yedekle(Station& istasyon, const std::string& folder) {
+  const std::string into = ayracla(folder);
+  const BackgroundResult result = yedekAl(istasyon, into, Kinds(stores::storeKinds).first(2));
+  if (!result.status) {
+    istasyon.mesaj(neOldu(istasyon, result), host::Buttons::Ok, host::Icon::Critical);
+    return false;
+  }
+  istasyon.ayarYaz(backupFolderSetting, into);
+  return true;
+}
+
+bool cikistayedekle(Station& istasyon) {
+  if (istasyon.ayar("closebackup", "0") == "0") return true;
+  const BackgroundResult result = yedekAl(istasyon, cikisKlasoru(istasyon), stores::storeKinds);
+  if (result.status) return true;
+  const std::string question =
+      neOldu(istasyon, result) + "\n\n" + phrase(istasyon, Phrase::LeaveWithoutBackup);
+  return istasyon.mesaj(question, host::Buttons::YesNo, host::Icon::Critical) == host::Answer::Yes;
+}
+
+}  // namespace shell

@@ -1,0 +1,26 @@
+// Backing up: on demand and when the program ends.
+#pragma once
+
+#include <string>
+
+#include "shell/station.h"
+
+namespace shell {
+
+inline constexpr auto backupFolderSetting = "BackUp";
+
+// The setting, with a trailing separator; the folder `Backup` of the program's folder when it is
+// empty. Whether the folder exists is not asked.
+[[nodiscard]] std::string yedekKlasoru(const Station& istasyon);
+[[nodiscard]] std::string ayracla(std::string folder);
+
+// The Personal and the Clinical store into the folder, which is remembered when that worked; when
+// it did not, tells why.
+bool yedekle(Station& istasyon, const std::string& folder);
+
+// The backup of all three stores at the end, when the setting asks for it. A folder that is not set
+// or not there is replaced by `Backup` below the program's folder. False when it could not be made
+// and the user wants to stay.
+[[nodiscard]] bool cikistayedekle(Station& istasyon);
+
+}  // namespace shell

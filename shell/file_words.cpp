@@ -1,0 +1,58 @@
+#include "shell/file_words.h"
+
+#include <array>
+#include <utility>
+
+#include "platform/text/number.h"
+
+namespace shell {
+
+namespace {
+
+using platform::Fault;
+
+constexpr std::array<std::pair<Fault, Phrase>, 7> reasons{{
+    {Fault::Missing, Phrase::NoFile},
+    {Fault::DiskFull, Phrase::NoRoom},
+    {Fault::ReadOnly, Phrase::NotWritable},
+    {Fault::Damaged, Phrase::FileDamaged},
+    {Fault::Unsupported, Phrase::OtherFile},
+    {Fault::Busy, Phrase::FileInUse},
+    {Fault::Exists, Phrase::FileInUse},
+}};
+
+}  // namespace
+
+std::string nedeni(Station& istasyon, const platform::Status& fault) {
+  const std::string detail = "(" + fault.text() + ")";
+  for (const auto& [kind, words] : reasons) {
+    if (kind == fault.fault()) return phrase(istasyon, words) + "\n" + detail;
+  }
+  return detail;
+}
+
+std::string boyut(std::uintmax_t bytes) {
+  constexpr double unit = 1024.0;
+  const double kilobytes = static_cast<double>(bytes) / unit;
+  if (kilobytes < unit) return text::format(kilobytes, "0.0") + " KB";
+  return text::format(kilobytes / unit, "0.0") + " MB";
+}
+
+std::string tarihSaat(const stores::FileState& state) {
+  const text::DateTime written = host::localTime(state.written);
+  return text::shortDate(written) + " " + text::shortTime(written);
+}
+
+std::string doldurulmus(Station& istasyon, Phrase which,
+                        std::initializer_list<std::string_view> values) {
+  std::string filled = phrase(istasyon, which);
+  int number = 0;
+  for (const std::string_view value : values) {
+    const std::string mark = "%" + std::to_string(++number);
+    if (const auto at = filled.find(mark); at != filled.npos)
+      filled.replace(at, mark.size(), value);
+  }
+  return filled;
+}
+
+}  // namespace shell

@@ -1,0 +1,158 @@
+#include "shell/restore.h"
+
+#include <filesystem>
+#include <vector>
+
+#include "shell/background_work.h"
+#include "shell/backup.h"
+#include "shell/file_words.h"
+#include "shell/text_lookup.h"
+#include "stores/restore.h"
+#include "stores/restore_drill.h"
+
+namespace shell {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using stores::StoreKind;
+using Kinds = std::vector<StoreKind>;
+using Replaced = std::vector<stores::ReplacedStore>;
+
+constexpr StoreKind asked[] = {stores::personalKind, stores::clinicalKind};
+
+std::string satir(const std::optional<stores::FileState>& state) {
+  return state ? tarihSaat(*state) + " (" + boyut(state->bytes) + ")" : "-";
+}
+
+// Its name, the date of the present file, that of the backup, and the question.
+std::string soru(Station& istasyon, const StoreKind& kind, const stores::FileState& backup) {
+  return "'" + std::string(kind.file) + "' \n" +
+         satir(stores::stateOf(stores::dataFile(istasyon.UygYolu, kind))) + "\n" + satir(backup) +
+         "\n" + metinbul(istasyon, "msgdosyadegis");
+}
+
+// A file that the backup lacks is not asked about.
+Kinds istenenler(Station& istasyon, const fs::path& backup) {
+  Kinds wanted;
+  for (const StoreKind& kind : asked) {
+    const auto state = stores::stateOf(backup / kind.file);
+    if (state && istasyon.evetMi(soru(istasyon, kind, *state))) wanted.push_back(kind);
+  }
+  if (stores::stateOf(backup / stores::smokingKind.file)) wanted.push_back(stores::smokingKind);
+  return wanted;
+}
+
+std::string damga(const text::DateTime& now) {
+  std::string stamp = text::isoText(now);
+  for (char& character : stamp) {
+    if (character == ' ' || character == ':') character = '-';
+  }
+  return stamp;
+}
+
+dao::Status hepsiniDegistir(const Kinds& wanted, const fs::path& program, const fs::path& backup,
+                            const std::string& stamp, Replaced& replaced,
+                            const stores::Progress& progress) {
+  for (const StoreKind& kind : wanted) {
+    auto store = stores::restoreStore(kind, program, backup, stamp, progress);
+    if (!store) return store.error();
+    replaced.push_back(std::move(*store));
+  }
+  return {};
+}
+
+// The old files come back as they were.
+void geriAl(Station& istasyon, const Replaced& replaced) {
+  for (const stores::ReplacedStore& store : replaced) {
+    const dao::Status back = stores::putBack(store);
+    if (!back) istasyon.host.runtimeError(back);
+  }
+}
+
+std::string neOldu(Station& istasyon, const BackgroundResult& result) {
+  if (result.stopped) return phrase(istasyon, Phrase::RestoreStopped);
+  return phrase(istasyon, Phrase::RestoreFailed) + "\n" + nedeni(istasyon, result.status);
+}
+
+// With the stores closed; they are open again at the end, the restored or the old ones.
+BackgroundResult degistir(Station& istasyon, const Kinds& wanted, const fs::path& backup) {
+  Replaced replaced;
+  const std::string stamp = damga(istasyon.clock.now());
+  const auto work = [&, program = istasyon.UygYolu](const stores::Progress& progress) {
+    return hepsiniDegistir(wanted, program, backup, stamp, replaced, progress);
+  };
+  BackgroundResult result = arkadaYap(istasyon, metinbul(istasyon, "geriyukle"), work);
+  if (result.status) result.status = stores::OpenStores(istasyon.stores);
+  if (result.status) {
+    for (const stores::ReplacedStore& store : replaced) stores::forget(store);
+    return result;
+  }
+  stores::CloseStores(istasyon.stores);
+  geriAl(istasyon, replaced);
+  const dao::Status opened = stores::OpenStores(istasyon.stores);
+  if (!opened) istasyon.host.runtimeError(opened);
+  return result;
+}
+
+void eksikleriSoyle(Station& istasyon, const fs::path& backup) {
+  for (const StoreKind& kind : asked) {
+    if (stores::stateOf(backup / kind.file)) continue;
+    istasyon.bilgi(std::string(kind.file) + "\n" + metinbul(istasyon, "msgdosyayok"));
+  }
+}
+
+// A station that has a store open goes on with the file that was replaced, and loses what it saves.
+bool yalnizMi(Station& istasyon) {
+  if (stores::unusedNow(istasyon.UygYolu)) return true;
+  istasyon.mesaj(phrase(istasyon, Phrase::RestoreWantsAlone), host::Buttons::Ok,
+                 host::Icon::Critical);
+  return false;
+}
+
+std::string denemeSonucu(Station& istasyon, const stores::DrillReport& report,
+                         const std::string& date) {
+  const std::string last = report.lastExamination ? text::shortDate(*report.lastExamination)
+                                                  : phrase(istasyon, Phrase::NothingFound);
+  return doldurulmus(istasyon, Phrase::DrillSound,
+                     {date, std::to_string(report.patients), std::to_string(report.records), last});
+}
+
+}  // namespace
+
+bool mnugeriyukle_Click(Station& istasyon) {
+  const fs::path backup = yedekKlasoru(istasyon);
+  if (!yalnizMi(istasyon)) return false;
+  const Kinds wanted = istenenler(istasyon, backup);
+  if (!wanted.empty()) {
+    stores::CloseStores(istasyon.stores);
+    const BackgroundResult result = degistir(istasyon, wanted, backup);
+    if (!result.status)
+      istasyon.mesaj(neOldu(istasyon, result), host::Buttons::Ok, host::Icon::Critical);
+  }
+  eksikleriSoyle(istasyon, backup);
+  return !wanted.empty();
+}
+
+void yedegiDene(Station& istasyon) {
+  const std::vector<fs::path> folders{yedekKlasoru(istasyon), istasyon.dosya("Backup/")};
+  const auto backup = stores::newestBackup(folders);
+  if (!backup) return eksikleriSoyle(istasyon, folders.front());
+  const std::string date = tarihSaat(*stores::stateOf(*backup / stores::personalKind.file));
+  stores::DrillReport report;
+  const auto work = [&](const stores::Progress& progress) {
+    std::error_code none;
+    auto drilled = stores::restoreDrill(*backup, fs::temp_directory_path(none), progress);
+    if (drilled) report = *drilled;
+    return drilled ? dao::Status() : drilled.error();
+  };
+  const BackgroundResult result = arkadaYap(istasyon, phrase(istasyon, Phrase::RestoreDrill), work);
+  if (result.stopped) return;
+  if (result.status) return istasyon.bilgi(denemeSonucu(istasyon, report, date));
+  istasyon.mesaj(
+      doldurulmus(istasyon, Phrase::DrillFailed, {date, nedeni(istasyon, result.status)}),
+      host::Buttons::Ok, host::Icon::Critical);
+}
+
+}  // namespace shell

@@ -1,0 +1,79 @@
+#include "stores/restore.h"
+
+#include <string>
+
+#include "platform/files/copy_file.h"
+#include "platform/files/replace.h"
+#include "stores/store_draft.h"
+
+namespace stores {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A second name for the file; where the file system has only one for each, a second file. The store
+// never lacks its name: a station that found none would make an empty one.
+dao::Status keepBeside(const fs::path& store, const fs::path& kept) {
+  std::error_code refused;
+  fs::create_hard_link(store, kept, refused);
+  return refused ? files::copyFile(store, kept) : dao::Status();
+}
+
+dao::Result<ReplacedStore> replace(StoreDraft& draft, std::string_view stamp) {
+  ReplacedStore replaced{draft.target(), {}};
+  if (stateOf(replaced.store)) {
+    replaced.kept = replaced.store;
+    replaced.kept += "." + std::string(stamp) + ".old";
+    std::error_code ignored;
+    fs::remove(replaced.kept, ignored);
+    if (dao::Status kept = keepBeside(replaced.store, replaced.kept); !kept)
+      return std::unexpected(std::move(kept));
+  }
+  if (dao::Status installed = draft.install(); !installed) {
+    forget(replaced);
+    return std::unexpected(std::move(installed));
+  }
+  return replaced;
+}
+
+}  // namespace
+
+dao::Result<ReplacedStore> restoreStore(const StoreKind& kind, const fs::path& programFolder,
+                                        const fs::path& backupFolder, std::string_view stamp,
+                                        const Progress& progress) {
+  const fs::path backup = backupFolder / kind.file;
+  // Opening it brings to an end what a crashed program left half done in it.
+  if (const auto opened = dao::OpenDatabase(backup); !opened)
+    return std::unexpected(opened.error());
+  auto draft = StoreDraft::take(dataFile(programFolder, kind));
+  if (!draft) return std::unexpected(draft.error());
+  dao::Status status = files::copyFile(backup, draft->path(), progress);
+  if (status) status = checkStore(draft->path(), kind);
+  if (!status) return std::unexpected(std::move(status));
+  return replace(*draft, stamp);
+}
+
+dao::Status putBack(const ReplacedStore& replaced) {
+  std::error_code error;
+  if (replaced.kept.empty()) {
+    fs::remove(replaced.store, error);
+    return {};
+  }
+  return files::replaceFile(replaced.kept, replaced.store);
+}
+
+void forget(const ReplacedStore& replaced) {
+  std::error_code ignored;
+  if (!replaced.kept.empty()) fs::remove(replaced.kept, ignored);
+}
+
+dao::Status unusedNow(const fs::path& programFolder) {
+  for (const StoreKind& kind : storeKinds) {
+    const dao::Status alone = dao::ProbeUnused(dataFile(programFolder, kind));
+    if (alone.fault() == dao::Fault::Busy) return alone;
+  }
+  return {};
+}
+
+}  // namespace stores

@@ -1,0 +1,71 @@
+#include "stores/store_draft.h"
+
+#include <string>
+
+#include "platform/files/replace.h"
+
+namespace stores {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path beside(const fs::path& target, const char* ending) {
+  fs::path name = target;
+  return name += ending;
+}
+
+void removeQuietly(const fs::path& path) {
+  std::error_code ignored;
+  fs::remove(path, ignored);
+}
+
+std::uintmax_t sizeOf(const fs::path& path) {
+  std::error_code missing;
+  const auto size = fs::file_size(path, missing);
+  return missing ? 0 : size;
+}
+
+// A journal of the old file, left by a crash, would be played into the new one. Opening the old
+// file plays it where it belongs.
+void settleJournal(const fs::path& target) {
+  const fs::path journal = beside(target, "-journal");
+  if (sizeOf(journal) == 0) return;
+  (void)dao::OpenDatabase(target);
+  if (sizeOf(journal) != 0) removeQuietly(journal);
+}
+
+}  // namespace
+
+dao::Result<StoreDraft> StoreDraft::take(const fs::path& path) {
+  const fs::path target = files::behindLinks(path);
+  auto turn = files::ProcessLock::open(beside(target, ".lock"));
+  if (!turn) return std::unexpected(turn.error());
+  const auto alone = turn->tryAlone();
+  // A file system without locks is still good for a copy.
+  if (!alone && alone.error().fault() != dao::Fault::Unsupported)
+    return std::unexpected(alone.error());
+  if (alone && !*alone)
+    return std::unexpected(dao::Status(
+        dao::Fault::Busy, target.filename().string() + ": another copy is being written."));
+  StoreDraft draft(std::move(*turn), target);
+  removeQuietly(draft.path());
+  return draft;
+}
+
+StoreDraft::~StoreDraft() {
+  if (!turn_) return;  // moved from
+  removeQuietly(path());
+  removeQuietly(beside(target_, ".lock"));
+}
+
+fs::path StoreDraft::path() const {
+  return beside(target_, ".new");
+}
+
+dao::Status StoreDraft::install() {
+  settleJournal(target_);
+  return files::replaceFile(path(), target_);
+}
+
+}  // namespace stores

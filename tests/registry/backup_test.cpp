@@ -1,0 +1,194 @@
+// The backup screen, the backup at exit and the restore, as the user meets them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+
+#include "shell/backup.h"
+#include "shell/frm_option.h"
+#include "shell/frm_save.h"
+#include "shell/restore.h"
+#include "stores/backup.h"
+#include "stores/smoking_store.h"
+#include "tests/registry/card_fixture.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using support::Card;
+
+struct Backup : Card {
+  Backup() {
+    desk.host.modal["frmprogress"] = [this](forms::Form&) { desk.host.runTasks(); };
+    desk.station.ayarYaz("BackUp", folder / "Copies");
+    fs::create_directory(folder / "Copies");
+  }
+  void save(std::string_view name) { desk.newPatient(name, "1980"); }
+  [[nodiscard]] std::int64_t cards() { return desk.station.stores.personal.IDCard.RecordCount(); }
+  [[nodiscard]] bool has(const char* file) const { return fs::exists(folder / file); }
+};
+
+TEST_F(Backup, TheFirstOneAtExitMakesItsFolderAndRemembersIt) {
+  ASSERT_TRUE(stores::CreateSmokingStore(desk.station.UygYolu));
+  desk.station.ayarYaz("BackUp", "");
+  EXPECT_TRUE(main.QueryUnload());
+  EXPECT_FALSE(has("Backup")) << "nobody asked for it";
+  desk.station.ayarYaz("closebackup", "1");
+  EXPECT_TRUE(main.QueryUnload());
+  EXPECT_EQ(desk.station.ayar("BackUp"), desk.station.dosya("Backup/"));
+  EXPECT_TRUE(has("Backup/Personal.mdb") && has("Backup/Sanavel.mdb") && has("Backup/Smoke.mdb"));
+  desk.station.ayarYaz("BackUp", folder / "pulled out");
+  EXPECT_TRUE(main.QueryUnload());
+  EXPECT_EQ(desk.station.ayar("BackUp"), desk.station.dosya("Backup/"));
+}
+
+// A file stands where the copy is to go: the reason is told, and the answer decides; the question
+// about the card comes all the same.
+TEST_F(Backup, AFailureAtExitIsToldAndAsksBeforeTheSaveQuestion) {
+  desk.station.ayarYaz("closebackup", "1");
+  fs::create_directories(folder / "Copies/Personal.mdb/in the way");
+  main.Txtİsim.setText("Ayşe Ak");
+  main.TxtDTarihi.setText("1980");
+  desk.host.expect("Program yedek almadan kapatılsın mı?", host::Answer::No);
+  EXPECT_FALSE(main.QueryUnload());
+  desk.host.expect("Yedek alınamadı", host::Answer::Yes);
+  desk.host.expect("Kayıt yapılsın mı?", host::Answer::Yes);
+  EXPECT_TRUE(main.QueryUnload());
+  EXPECT_EQ(cards(), 1);
+}
+
+TEST_F(Backup, TheScreenBacksUpIntoTheOpenFolderButNeverIntoTheStores) {
+  shell::FrmSave screen(desk.station);
+  screen.Load();
+  EXPECT_EQ(screen.LDizin.caption(), folder / "Copies");
+  EXPECT_EQ(screen.LDosyalar.caption(), "Personal.mdb\nSanavel.mdb");
+  EXPECT_EQ(screen.Lsonyedek.caption(), "henüz yok");
+  screen.ButYedekle.press();
+  EXPECT_TRUE(has("Copies/Personal.mdb") && has("Copies/Sanavel.mdb"));
+  EXPECT_NE(screen.Lsonyedek.caption().find("Sanavel.mdb"), std::string::npos);
+  fs::create_directory_symlink(folder / "Data", folder / "link");
+  for (const char* data : {"Data", "Copies/../Data", "link"}) {
+    ASSERT_TRUE(screen.klasoreGec(folder / data));
+    EXPECT_FALSE(screen.ButYedekle.enabled()) << data;
+  }
+  screen.tbToolBar.press("dosyaon");
+  EXPECT_TRUE(screen.ButYedekle.enabled());
+  screen.Dir1.setListIndex(0);
+  screen.Dir1.DblClick();
+  screen.buttamam.press();
+  EXPECT_EQ(desk.station.ayar("BackUp"), folder / "Copies/");
+}
+
+TEST_F(Backup, FoldersAreMadeAndOnlyEmptyOnesRemoved) {
+  shell::FrmSave screen(desk.station);
+  screen.Load();
+  desk.host.inputs = {"Yeni"};
+  screen.tbToolBar.press("dosyaac");
+  EXPECT_EQ(screen.LDizin.caption(), folder / "Copies/Yeni");
+  for (const char* name : {"../elsewhere", "/elsewhere", ".."}) {
+    desk.host.inputs = {name};
+    desk.host.expect("yapılamıyor", host::Answer::Ok);
+    screen.tbToolBar.press("dosyaac");
+  }
+  EXPECT_FALSE(has("Copies/elsewhere"));
+  desk.host.expect("Yeni silinsin mi?", host::Answer::No);
+  screen.tbToolBar.press("delete");
+  EXPECT_TRUE(has("Copies/Yeni"));
+  std::ofstream(folder / "Copies/Yeni/file") << "x";
+  desk.host.expect("Yeni silinsin mi?", host::Answer::Yes);
+  desk.host.expect("boş olmadığı", host::Answer::Ok);
+  screen.tbToolBar.press("delete");
+  fs::remove(folder / "Copies/Yeni/file");
+  desk.host.expect("Yeni silinsin mi?", host::Answer::Yes);
+  screen.tbToolBar.press("delete");
+  EXPECT_FALSE(has("Copies/Yeni"));
+  EXPECT_EQ(screen.LDizin.caption(), folder / "Copies");
+}
+
+TEST_F(Backup, APlaceThatIsNotReadySaysSoAndTheRootIsOpenedInstead) {
+  shell::FrmSave screen(desk.station);
+  screen.Load();
+  screen.Drive1.addItem(folder / "pulled out");
+  desk.host.expect("Erişilemez", host::Answer::Ok);
+  screen.Drive1.setText(folder / "pulled out");
+  screen.Drive1.setListIndex(static_cast<int>(screen.Drive1.items().size()) - 1);
+  screen.Drive1_Change();
+  EXPECT_EQ(screen.LDizin.caption(), "/");
+}
+
+struct Restore : Backup {
+  Restore() {
+    EXPECT_TRUE(stores::CreateSmokingStore(desk.station.UygYolu));
+    save("Ayşe Ak");
+    EXPECT_TRUE(stores::backUp(desk.station.UygYolu, folder / "Copies", stores::storeKinds));
+    save("Burak Öz");
+    std::ofstream(folder / "Data/Smoke.mdb") << "";
+  }
+  void answer(host::Answer personal, host::Answer clinical) {
+    desk.host.expect("'Personal.mdb' ", personal);
+    desk.host.expect("'Sanavel.mdb' ", clinical);
+  }
+  [[nodiscard]] bool smokingIsBack() {
+    return stores::checkStore(folder / "Data/Smoke.mdb", stores::smokingKind).ok();
+  }
+};
+
+TEST_F(Restore, BringsTheStoresBackAndEmptiesTheCard) {
+  answer(host::Answer::Yes, host::Answer::Yes);
+  main.mnugeriyukle.press();
+  EXPECT_EQ(cards(), 1);
+  EXPECT_TRUE(smokingIsBack());
+  EXPECT_EQ(main.Txtİsim.text() + desk.station.SeciliHasta, "");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+  EXPECT_TRUE(desk.host.errors.empty());
+  for (const auto& entry : fs::directory_iterator(folder / "Data"))
+    EXPECT_NE(entry.path().extension(), ".old");
+  const std::string& question = desk.host.asked.front().text;
+  EXPECT_EQ(std::ranges::count(question, '\n'), 3) << question;
+}
+
+TEST_F(Restore, NoAndNoReplaceTheSmokingStoreAlone) {
+  answer(host::Answer::No, host::Answer::No);
+  main.mnugeriyukle.press();
+  EXPECT_EQ(cards(), 2);
+  EXPECT_TRUE(smokingIsBack());
+}
+
+// All or nothing: a store that was replaced comes back when a later one cannot be.
+TEST_F(Restore, ABackupThatCannotBeUsedChangesNothing) {
+  fs::resize_file(folder / "Copies/Sanavel.mdb", 20'000);
+  answer(host::Answer::Yes, host::Answer::Yes);
+  desk.host.expect("Geri yükleme yapılmadı", host::Answer::Ok);
+  main.mnugeriyukle.press();
+  EXPECT_EQ(cards(), 2);
+  EXPECT_FALSE(smokingIsBack());
+  desk.host.expect("geri yüklenemez", host::Answer::Ok);
+  main.mnuyedekdene.press();
+}
+
+TEST_F(Restore, FilesThatAreMissingAreNamedWithoutAQuestion) {
+  for (const char* file : {"Personal.mdb", "Sanavel.mdb", "Smoke.mdb"})
+    fs::remove(fs::path(folder / "Copies") / file);
+  for (const auto& entry : {&main.mnugeriyukle, &main.mnuyedekdene}) {
+    desk.host.expect("Personal.mdb\n dosyası bulunamadı.", host::Answer::Ok);
+    desk.host.expect("Sanavel.mdb\n dosyası bulunamadı.", host::Answer::Ok);
+    entry->press();
+  }
+  EXPECT_EQ(cards(), 2);
+}
+
+TEST_F(Restore, TheDrillTellsWhatWouldComeBack) {
+  desk.host.expect("1 hasta, 0 kayıt; son muayene: yok", host::Answer::Ok);
+  main.mnuyedekdene.press();
+  EXPECT_EQ(cards(), 2);
+}
+
+TEST_F(Restore, AnotherStationThatSavesKeepsEverythingAsItIs) {
+  auto other = dao::OpenDatabase(folder / "Data/Personal.mdb");
+  const auto saving = other->beginTransaction();
+  desk.host.expect("başka bir istasyon", host::Answer::Ok);
+  main.mnugeriyukle.press();
+  EXPECT_EQ(cards(), 2);
+}
+
+}  // namespace

@@ -1,0 +1,163 @@
+// Backups of several stores, what a restore puts in place, and the drill of it.
+#include "stores/backup.h"
+
+#include <algorithm>
+
+#include "stores/restore.h"
+#include "stores/restore_drill.h"
+#include "stores/smoking_store.h"
+#include "tests/stores/crash_support.h"
+#include "tests/stores/stores_fixture.h"
+
+namespace stores {
+namespace {
+
+namespace fs = std::filesystem;
+
+class BackupTest : public StoresTest {
+ protected:
+  BackupTest() : StoresTest(inMemory()) {}
+
+  void SetUp() override {
+    open();
+    ASSERT_TRUE(addCard("Ayşe Yıldız"));
+    ASSERT_TRUE(CreateSmokingStore(folder_.path() + "/"));
+    fs::create_directory(backup_);
+  }
+  std::int64_t cardsIn(const std::string& path) {
+    auto database = dao::OpenDatabase(path, {.access = dao::Access::ReadOnly});
+    return database ? database->OpenRecordset("IDCard")->RecordCount() : -1;
+  }
+  std::vector<std::string> filesIn(const std::string& folder) {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder))
+      names.push_back(entry.path().filename().string());
+    std::ranges::sort(names);
+    return names;
+  }
+  void damage(const std::string& path) {
+    std::string bytes = bytesOf(path);
+    bytes.replace(4096, 6000, std::string(6000, '\x7f'));
+    writeBytes(path, bytes);
+  }
+
+  std::string backup_ = folder_ / "Backup";
+};
+
+TEST_F(BackupTest, HoldsTheStoresUnderTheirNamesAndLeavesAnOlderSmokingCopy) {
+  writeBytes(folder_ / "Backup/Smoke.mdb", "older");
+  const auto onScreen = std::span(storeKinds).first(2);
+  std::int64_t last = 0;
+  ASSERT_TRUE(backUp(folder_.path(), backup_, onScreen, [&](std::int64_t done, std::int64_t total) {
+    EXPECT_LE(last, done);
+    EXPECT_LE(done, total);
+    last = done;
+    return true;
+  }));
+  EXPECT_EQ(filesIn(backup_),
+            (std::vector<std::string>{"Personal.mdb", "Sanavel.mdb", "Smoke.mdb"}));
+  EXPECT_EQ(bytesOf(folder_ / "Backup/Smoke.mdb"), "older");
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  for (const StoreKind& kind : storeKinds)
+    EXPECT_TRUE(checkStore(fs::path(backup_) / kind.file, kind)) << kind.file;
+}
+
+// The stores of a backup belong together: a fault in a later one keeps the older copies of all.
+TEST_F(BackupTest, AFailureKeepsTheWholeOldBackup) {
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  const std::string personal = bytesOf(folder_ / "Backup/Personal.mdb");
+  ASSERT_TRUE(addCard("Burak Öz"));
+  CloseStores(stores_);
+  damage(folder_ / clinicalPath);
+  EXPECT_EQ(backUp(folder_.path(), backup_, storeKinds).fault(), dao::Fault::Damaged);
+  EXPECT_EQ(bytesOf(folder_ / "Backup/Personal.mdb"), personal);
+  EXPECT_EQ(filesIn(backup_).size(), 3u);
+}
+
+TEST_F(BackupTest, IsNeverWrittenOverTheStores) {
+  const std::string link = folder_ / "link";
+  fs::create_directory_symlink(folder_ / "Data", link);
+  for (const std::string& data :
+       {folder_ / "Data", folder_ / "Data/", folder_ / "Backup/../Data", link, link + "/."}) {
+    EXPECT_TRUE(isDataFolder(folder_.path(), data)) << data;
+    EXPECT_EQ(backUp(folder_.path(), data, storeKinds).fault(), dao::Fault::Unsupported) << data;
+  }
+  for (const std::string& other : {folder_.path(), folder_ / "Backup", folder_ / "Data2"})
+    EXPECT_FALSE(isDataFolder(folder_.path(), other)) << other;
+}
+
+TEST_F(BackupTest, ARestoredStoreKeepsTheOldFileUntilItIsForgotten) {
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  ASSERT_TRUE(addCard("Burak Öz"));
+  CloseStores(stores_);
+  const std::string present = bytesOf(folder_ / personalPath);
+  const auto replaced = restoreStore(personalKind, folder_.path(), backup_, "2026-11-22");
+  ASSERT_TRUE(replaced) << replaced.error().text();
+  EXPECT_EQ(bytesOf(folder_ / personalPath), bytesOf(folder_ / "Backup/Personal.mdb"));
+  EXPECT_EQ(bytesOf(folder_ / "Data/Personal.mdb.2026-11-22.old"), present);
+  ASSERT_TRUE(putBack(*replaced));
+  EXPECT_EQ(bytesOf(folder_ / personalPath), present);
+  EXPECT_FALSE(fs::exists(replaced->kept));
+  forget(restoreStore(personalKind, folder_.path(), backup_, "2026-11-22").value());
+  EXPECT_EQ(cardsIn(folder_ / personalPath), 1);
+  EXPECT_FALSE(fs::exists(replaced->kept));
+}
+
+TEST_F(BackupTest, ABackupThatIsNoStoreOfItsKindReplacesNothing) {
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  CloseStores(stores_);
+  const std::string copy = folder_ / "Backup/Personal.mdb";
+  const std::string sound = bytesOf(copy);
+  const std::string present = bytesOf(folder_ / personalPath);
+  const auto files = filesIn(folder_ / "Data");
+  const std::vector<std::pair<std::string, dao::Fault>> cases{
+      {sound.substr(0, sound.size() / 2), dao::Fault::Damaged},
+      {"short", dao::Fault::Damaged},
+      {std::string(9000, 'x'), dao::Fault::Damaged},
+      {"", dao::Fault::Unsupported},
+      {bytesOf(folder_ / "Backup/Sanavel.mdb"), dao::Fault::Unsupported},
+      {bytesOf(folder_ / "Backup/Smoke.mdb"), dao::Fault::Unsupported},
+  };
+  for (const auto& [bytes, fault] : cases) {
+    writeBytes(copy, bytes);
+    const auto replaced = restoreStore(personalKind, folder_.path(), backup_, "now");
+    ASSERT_FALSE(replaced) << bytes.size();
+    EXPECT_EQ(replaced.error().fault(), fault) << replaced.error().text();
+    EXPECT_EQ(bytesOf(folder_ / personalPath), present);
+    EXPECT_EQ(filesIn(folder_ / "Data"), files) << "something was left beside";
+    EXPECT_FALSE(restoreDrill(backup_, folder_.path()));
+  }
+  fs::remove(copy);
+  EXPECT_EQ(restoreStore(personalKind, folder_.path(), backup_, "now").error().fault(),
+            dao::Fault::Missing);
+}
+
+TEST_F(BackupTest, AStoreThatIsBeingWrittenIsNotUnused) {
+  EXPECT_TRUE(unusedNow(folder_.path()));
+  const auto saving = stores_.personal.database.beginTransaction();
+  EXPECT_EQ(unusedNow(folder_.path()).fault(), dao::Fault::Busy);
+}
+
+TEST_F(BackupTest, TheDrillTellsWhatARestoreWouldBringBack) {
+  for (const int day : {3, 21}) {
+    dao::Recordset& exams = stores_.clinical.PhysicalExam;
+    ASSERT_TRUE(exams.AddNew());
+    ASSERT_TRUE(exams.Fields("Count").Set(std::int64_t{day}));
+    ASSERT_TRUE(exams.Fields("Name").Set("Ayşe Yıldız"));
+    ASSERT_TRUE(exams.Fields("Date").Set(text::DateTime::of(2026, 11, static_cast<unsigned>(day))));
+    ASSERT_TRUE(exams.Update());
+  }
+  ASSERT_TRUE(backUp(folder_.path(), backup_, std::span(storeKinds).first(2)));
+  fs::create_directory(folder_ / "scratch");
+  const auto report = restoreDrill(backup_, folder_ / "scratch");
+  ASSERT_TRUE(report) << report.error().text();
+  EXPECT_EQ(report->patients, 1);
+  EXPECT_EQ(report->records, 2);
+  EXPECT_EQ(report->lastExamination, text::DateTime::of(2026, 11, 21));
+  damage(folder_ / "Backup/Sanavel.mdb");
+  EXPECT_EQ(restoreDrill(backup_, folder_ / "scratch").error().fault(), dao::Fault::Damaged);
+  EXPECT_TRUE(fs::is_empty(folder_ / "scratch"));
+}
+
+}  // namespace
+}  // namespace stores
