@@ -13,6 +13,7 @@
 #include "desktop/views/record_view.h"
 #include "desktop/views/splash_view.h"
 #include "desktop/views/trend_view.h"
+#include "desktop/views/wizard_view.h"
 #include "shell/dated_record_screen.h"
 
 namespace desktop {
@@ -47,6 +48,7 @@ ViewRegistry programViews() {
   views.add("frmtestfilter", testFilterView);
   views.add("frmtesttrend", testTrendView);
   views.add("frmpicture", pictureView);
+  views.add("frmwizarddrug", prescriptionWizardView);
   return views;
 }
 

@@ -36,7 +36,7 @@ void FrmFind::TümListe() {
 CardScan FrmFind::tarama(Filters filters, dao::Fold fold, std::span<const std::string_view> wanted,
                          Found found) {
   CardScan scan(istasyon.stores.personal.database, wanted,
-                {[this](std::string_view key) { return gizliMi(key); }, std::move(found)});
+                {[this](std::string_view key) { return istasyon.gizliMi(key); }, std::move(found)});
   for (const FilterRow& row : filterRows()) {
     forms::TextControl& control = row.control(*this);
     if (filters == Filters::Applied && !control.text().empty())
@@ -77,7 +77,7 @@ void FrmFind::SonuçlarıListele() {
       [this, next, line = CardLine(istasyon)]() -> dao::Result<bool> {
         if (*next == ListFiltre.count()) return true;
         const std::string& name = ListFiltre.items()[(*next)++].text;
-        if (kartiBul(name) && !gizliMi(kartlar_.Fields("Key").view()))
+        if (kartiBul(name) && !istasyon.gizliMi(kartlar_.Fields("Key").view()))
           line.write(kartlar_, yeniSatir());
         return false;
       },
@@ -101,7 +101,7 @@ void FrmFind::dilimle(std::function<dao::Result<bool>()> step, std::function<voi
                       std::function<void()> end) {
   dilim_ = 0;
   is_.start([this, step = std::move(step), sliceEnd = std::move(sliceEnd), end = std::move(end)] {
-    const Deadline deadline(dilimSuresi);
+    const shell::Deadline deadline(dilimSuresi);
     dao::Result<bool> done = false;
     do done = step();
     while (done && !*done && !deadline.passed());
@@ -203,11 +203,6 @@ bool FrmFind::kartiBul(std::string_view name) {
     if (opened) kartlar_ = std::move(*opened);
   }
   return kartlar_.Seek("=", name) && !kartlar_.NoMatch();
-}
-
-// Without a card to ask, every mark hides.
-bool FrmFind::gizliMi(std::string_view key) const {
-  return !key.empty() && (istasyon.kart == nullptr || istasyon.kart->gizliMi(key));
 }
 
 bool FrmFind::adresiVar() {

@@ -79,6 +79,10 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::PicturePathTooLong,
      "The name of the file with its folders is too long. Longest, in characters: ",
      "Dosyanın klasörleriyle birlikte adı çok uzun. En çok karakter: "},
+    {Phrase::PrintWizard, "Print wizard", "Yazdırma sihirbazı"},
+    {Phrase::PageItems, "Layout of the page", "Sayfa düzeni"},
+    {Phrase::PrintedItems, "Printed", "Yazdırılacaklar"},
+    {Phrase::Patients, "Patients", "Hastalar"},
 });
 
 }  // namespace

@@ -61,7 +61,11 @@ enum class Phrase {
   NotAPicture,
   PictureDamaged,
   PictureTooLarge,
-  PicturePathTooLong  // the largest number of characters follows
+  PicturePathTooLong,  // the largest number of characters follows
+  PrintWizard,
+  PageItems,     // and their properties
+  PrintedItems,  // of a page
+  Patients
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
