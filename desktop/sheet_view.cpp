@@ -40,8 +40,7 @@ int SheetView::rulerWidth() const {
 }
 
 void SheetView::fitPaper() {
-  const QRect room =
-      rect().adjusted(rulerWidth(), rulerWidth(), -gap::large, -gap::large);
+  const QRect room = rect().adjusted(rulerWidth(), rulerWidth(), -gap::large, -gap::large);
   const QSize size = QSize(sheet_.width, sheet_.height).scaled(room.size(), Qt::KeepAspectRatio);
   paper_ = QRect(QPoint(room.x() + (room.width() - size.width()) / 2, room.y()), size);
   update();
@@ -161,8 +160,7 @@ void ItemHandle::mousePressEvent(QMouseEvent* event) {
 
 void ItemHandle::mouseMoveEvent(QMouseEvent* event) {
   if (!event->buttons().testFlag(Qt::LeftButton)) return;
-  const QPoint corner =
-      mapToParent(event->position().toPoint()) - grip_ - sheet_.paper().topLeft();
+  const QPoint corner = mapToParent(event->position().toPoint()) - grip_ - sheet_.paper().topLeft();
   const auto units = [this](int pixels) {
     return documents::unit::fromTwips(qRound(pixels / sheet_.scale()));
   };

@@ -11,6 +11,7 @@
 #include "desktop/text.h"
 #include "desktop/tour_exam.h"
 #include "desktop/tour_pictures.h"
+#include "desktop/tour_prescription.h"
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
 #include "shell/frm_progress.h"
@@ -51,6 +52,7 @@ class Album {
     complain(QStringLiteral("Cannot write ") + file);
     good_ = false;
   }
+  [[nodiscard]] std::string file(const QString& name) const { return utf8(folder_.filePath(name)); }
   [[nodiscard]] bool good() const { return good_; }
 
  private:
@@ -116,6 +118,7 @@ class Tour {
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     takeFinder(suffix);
     takeArchive(suffix);
+    takePrescription(suffix);
     istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -275,6 +278,26 @@ class Tour {
       archive.choose();
       album_.take(window, QStringLiteral("frmpicture-150") + suffix);
     });
+  }
+
+  // The drug screen with a prescription, and over it the print wizard in all its looks.
+  void takePrescription(const QString& suffix) {
+    SamplePrescription sample(host_, istasyon_);
+    takeForm(sample.drugs(), QStringLiteral("-recete"), suffix);
+    documents::FrmWizardDrug& wizard = sample.openWizard();
+    takeForm(wizard, QStringLiteral("-recete"), suffix);
+    QWidget& window = *host_.windowOf(wizard);
+    window.resize(usualSize);
+    wizard.imgtarih.setFocus();
+    wizard.imgtarih.Stepped(0, 5);
+    wizard.Imgicon.Stepped(2, 2);
+    wizard.GrdÖzellik.setRow(3);
+    wizard.yerlesim.duzenle();
+    album_.take(window, QStringLiteral("frmwizarddrug-edit") + suffix);
+    wizard.yerlesim.vazgec();
+    album_.take(*host_.windowOf(sample.openPreview()),
+                QStringLiteral("frmpreview1-recete") + suffix);
+    sample.print(album_.file(QStringLiteral("recete") + suffix + QStringLiteral(".pdf")));
   }
 
   template <class Work>

@@ -97,8 +97,7 @@ void LayoutEditor::writeValues(std::size_t item) {
     if (rows_[row].item != item) continue;
     const int line = static_cast<int>(row);
     controls_.GrdÖzellik.setTextMatrix(line, Value, rowValue(rows_[row]));
-    if (rows_[row].property != Property::Font)
-      controls_.GrdÖzellik.setTextMatrix(line, Unit, "mm");
+    if (rows_[row].property != Property::Font) controls_.GrdÖzellik.setTextMatrix(line, Unit, "mm");
   }
 }
 

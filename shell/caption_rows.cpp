@@ -323,6 +323,7 @@ constexpr std::array phrases{
     PhraseRow{"mnutümü", Phrase::AllResults},
     PhraseRow{"mnusihirbaz", Phrase::PrintWizard},
     PhraseRow{"GrdÖzellik", Phrase::PageItems},
+    PhraseRow{"TxtGrid", Phrase::PageItems},
     PhraseRow{"LstGörüntüle", Phrase::PrintedItems},
     PhraseRow{"LstTüm", Phrase::Patients},
 };
