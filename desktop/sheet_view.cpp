@@ -36,7 +36,7 @@ double SheetView::scale() const {
 }
 
 int SheetView::rulerWidth() const {
-  return fontMetrics().height() + longTick + gap::small;
+  return fontMetrics().horizontalAdvance(QStringLiteral("00")) + longTick + gap::normal;
 }
 
 void SheetView::fitPaper() {
@@ -155,7 +155,6 @@ void ItemHandle::paintFrame(QPainter& painter) const {
 void ItemHandle::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return QWidget::mousePressEvent(event);
   grip_ = event->position().toPoint() - QPoint(frameGap, frameGap);
-  raise();
 }
 
 void ItemHandle::mouseMoveEvent(QMouseEvent* event) {
@@ -182,7 +181,6 @@ void ItemHandle::keyPressEvent(QKeyEvent* event) {
 
 void ItemHandle::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
-  raise();
   update();
 }
 

@@ -282,15 +282,13 @@ class Tour {
 
   // The drug screen with a prescription, and over it the print wizard in all its looks.
   void takePrescription(const QString& suffix) {
+    istasyon_.SeciliHasta = patientWithResults();
     SamplePrescription sample(host_, istasyon_);
     takeForm(sample.drugs(), QStringLiteral("-recete"), suffix);
     documents::FrmWizardDrug& wizard = sample.openWizard();
     takeForm(wizard, QStringLiteral("-recete"), suffix);
     QWidget& window = *host_.windowOf(wizard);
     window.resize(usualSize);
-    wizard.imgtarih.setFocus();
-    wizard.imgtarih.Stepped(0, 5);
-    wizard.Imgicon.Stepped(2, 2);
     wizard.GrdÖzellik.setRow(3);
     wizard.yerlesim.duzenle();
     album_.take(window, QStringLiteral("frmwizarddrug-edit") + suffix);

@@ -28,7 +28,7 @@ LayoutItem itemAt(std::string_view key, ItemKind kind, double left, double top) 
 // Until the user has laid out a page of his own; in millimetres.
 PageLayout usualLayout() {
   return PageLayout(
-      {itemAt("ikon", ItemKind::Picture, 15, 12), itemAt("baslik", ItemKind::Picture, 30, 12),
+      {itemAt("ikon", ItemKind::Picture, 15, 12), itemAt("baslik", ItemKind::Picture, 35, 12),
        itemAt("isim", ItemKind::Line, 20, 50), itemAt("Tarih", ItemKind::Line, 160, 50),
        itemAt("recete", ItemKind::Body, 20, 65)});
 }

@@ -56,11 +56,10 @@ class Item {
 
   void measure() {
     if (item_.kind == ItemKind::Picture) return measurePicture();
-    if (content_.empty()) return;
     page::Device pen(metrics_, sheet_);
     YaziciFontuAyarla(pen, item_.font);
     if (isBody()) return measureBody(pen);
-    place_.width = pen.textWidth(content_);
+    if (!content_.empty()) place_.width = pen.textWidth(content_);
     place_.height = pen.textHeight(content_);
     place_.x = std::max(0, std::min(place_.x, sheet_.width - place::textTop - place_.width));
   }
@@ -90,6 +89,22 @@ bool full() {
   return false;
 }
 
+// What is printed, in the order in which it is drawn; bodies are last.
+std::vector<Item> printedItems(const page::Metrics& metrics, const PageLayout& layout,
+                               ItemContents contents) {
+  std::vector<Item> items;
+  const auto add = [&](std::size_t item, ItemKind kind) {
+    const LayoutItem& laid = layout.items()[item];
+    if (laid.shown && laid.kind == kind)
+      items.emplace_back(metrics, laid, contents[item], layout.sheet());
+  };
+  const std::size_t count = layout.items().size();
+  for (std::size_t item = count; item-- > 0;) add(item, ItemKind::Picture);
+  for (std::size_t item = 0; item < count; ++item) add(item, ItemKind::Line);
+  for (std::size_t item = 0; item < count; ++item) add(item, ItemKind::Body);
+  return items;
+}
+
 }  // namespace
 
 PlacedItem yerlesenOge(const page::Metrics& metrics, const LayoutItem& item,
@@ -102,11 +117,7 @@ PlacedItem yerlesenOge(const page::Metrics& metrics, const LayoutItem& item,
 
 page::Pages yerlesimSayfalari(const page::Metrics& metrics, const PageLayout& layout,
                               ItemContents contents) {
-  std::vector<Item> printed;
-  for (std::size_t item = 0; item < layout.items().size(); ++item) {
-    if (layout.items()[item].shown)
-      printed.emplace_back(metrics, layout.items()[item], contents[item], layout.sheet());
-  }
+  const std::vector<Item> printed = printedItems(metrics, layout, contents);
   page::Device device(metrics, layout.sheet());
   const auto drawAround = [&] {
     for (const Item& item : printed)

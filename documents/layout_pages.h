@@ -25,7 +25,8 @@ struct PlacedItem {
 [[nodiscard]] PlacedItem yerlesenOge(const page::Metrics& metrics, const LayoutItem& item,
                                      const std::string& content, page::Size sheet);
 
-// The items that are printed, at their places. A body that is longer than the sheet goes on from
+// The items that are printed, at their places: texts over pictures, and an earlier picture over a
+// later one. A body that is longer than the sheet goes on from
 // its place on another, on which the other items are again. Pictures that are missing are passed
 // over.
 [[nodiscard]] page::Pages yerlesimSayfalari(const page::Metrics& metrics, const PageLayout& layout,

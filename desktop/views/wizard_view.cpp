@@ -40,6 +40,10 @@ class CellEdit : public QLineEdit {
     setFrame(false);
     setAutoFillBackground(true);
     connect(table.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { place(); });
+    for (const QHeaderView* header : {table.horizontalHeader(), table.verticalHeader()}) {
+      connect(header, &QHeaderView::sectionResized, this, [this] { place(); });
+      connect(header, &QHeaderView::geometriesChanged, this, [this] { place(); });
+    }
   }
 
  protected:
@@ -72,9 +76,12 @@ QVBoxLayout* columnOf(QWidget& side) {
 QWidget* sheet(FrmWizardDrug& form, QWidget& parent) {
   auto* const desk = new SheetView(form.yerlesim.layout().sheet(), &parent);
   bind(static_cast<QWidget&>(*desk), form.piconiz);
+  std::vector<ItemHandle*> handles;
   for (documents::SheetItem* item :
        {&form.Imgicon, &form.ImgBaşlık, &form.imgisim, &form.imgtarih, &form.ImgMektup})
-    new ItemHandle(*desk, *item);
+    handles.push_back(new ItemHandle(*desk, *item));
+  // They lie as they are printed; the long text below the lines, which could not be taken else.
+  for (const std::size_t below : {4U, 0U, 1U}) handles[below]->lower();
   return desk;
 }
 
@@ -83,6 +90,7 @@ QWidget* properties(FrmWizardDrug& form, QWidget& parent) {
   QVBoxLayout* const column = columnOf(*side);
   auto* const table = new GridTable(side);
   bind(*table, form.GrdÖzellik);
+  table->horizontalHeader()->setStretchLastSection(true);
   auto* const edit = new CellEdit(*table, form.yerlesim);
   bind(static_cast<QLineEdit&>(*edit), form.TxtGrid);
   column->addWidget(captionFor(*table), 0, Qt::AlignLeft);
@@ -182,6 +190,7 @@ std::unique_ptr<QWidget> prescriptionWizardView(forms::Form& form) {
   splitter->addWidget(settings(wizard, *splitter));
   splitter->setStretchFactor(0, 1);
   splitter->setStretchFactor(1, 1);
+  splitter->setSizes({usualSize.width() / 2, usualSize.width() / 2});
   window->setCentralWidget(splitter);
   return window;
 }
