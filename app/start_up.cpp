@@ -19,6 +19,9 @@
 #include "registry/frm_birthday.h"
 #include "registry/frm_key.h"
 #include "registry/frm_max.h"
+#include "scheduling/frm_ayar.h"
+#include "scheduling/frm_mesajlar.h"
+#include "scheduling/frm_msg_gon.h"
 #include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
@@ -35,7 +38,7 @@ constexpr int splashMilliseconds = 1;
 // Restricted opening: the card and the name list stay usable, the tools and the examination do not.
 void sp4(registry::FrmMain& main) {
   main.MnuSecenek.setVisible(false);
-  main.tbToolBar.setButtonVisible("muayene", false);
+  for (const char* key : {"muayene", "mesaj"}) main.tbToolBar.setButtonVisible(key, false);
 }
 
 template <class Screen>
@@ -68,10 +71,20 @@ shell::ScreenDirectory screens() {
   add<documents::FrmPrinter>(directory, "frmprinter");
   add<documents::FrmWizardDrug>(directory, "frmwizarddrug");
   add<images::FrmPicture>(directory, "frmpicture");
+  add<scheduling::FrmMesajlar>(directory, "frmmesajlar");
+  add<scheduling::FrmMsgGon>(directory, "Frmmsggon");
+  add<scheduling::FrmAyar>(directory, "frmayar");
   return directory;
 }
 
-Session::Session(shell::Station& istasyon) : istasyon_(istasyon), main_(istasyon) {}
+Session::Session(shell::Station& istasyon)
+    : istasyon_(istasyon), main_(istasyon), messages_(istasyon) {
+  main_.Timer1.Tick.connect([this] { mesajlaraBak(); });
+}
+
+void Session::mesajlaraBak() {
+  if (const auto fresh = messages_.look()) main_.yeniMesaj(*fresh);
+}
 
 Session::Outcome Session::start() {
   shell::bransmenusu(istasyon_, main_);

@@ -18,7 +18,7 @@ struct EntryScreen {
 };
 
 // The screen behind each entry, by its name in the screen directory.
-constexpr std::array<EntryScreen, 37> entryScreens{{
+constexpr std::array<EntryScreen, 38> entryScreens{{
     {&FrmMain::mnumuayene1, "FrmExam"},
     {&FrmMain::MnuMuayene2, "FrmExam"},
     {&FrmMain::MnuMuayene3, "FrmExam"},
@@ -55,6 +55,7 @@ constexpr std::array<EntryScreen, 37> entryScreens{{
     {&FrmMain::mnuanjiyoara, "frmsearchgen"},
     {&FrmMain::mnulensara, "frmsearchlens"},
     {&FrmMain::mnusecenekler, "FrmOption"},
+    {&FrmMain::mnumesajlar, "frmmesajlar"},
     {&FrmMain::mnuhakkinda, "frmabout"},
 }};
 
@@ -76,6 +77,7 @@ void FrmMain::araclariKur() {
   tusGrubu({"Geri", "ileri", "Find"});
   tusGrubu({"muayene", "smok"});
   tusGrubu({"keyclose", "keyopen", "idpass"});
+  tusGrubu({"mesaj"});
   tbToolBar.addButton("Exit", "Exit");
 }
 
@@ -87,6 +89,7 @@ void FrmMain::menuleriBagla() {
     const bool pathology = istasyon.BransNo == shell::brans::pathology;
     ekranAc(mnuraporara, pathology ? "frmsearchpat" : "frmsearchrad");
   });
+  mnuhesaplar.Click.connect([this] { hesaplariAc(); });
   mnuyeni.Click.connect([this] {
     if (kayitkontrol()) Yeni();
   });
@@ -129,10 +132,19 @@ bool FrmMain::tusBas(std::string_view key) {
   if (key == "Find") return mnubul.press(), true;
   if (key == "muayene") return muayenetus(), true;
   if (key == "smok") return mnusigarabp.press(), true;
+  if (key == "mesaj") return mnumesajlar.press(), true;
   if (key == "keyclose") return isimSifresi(), true;
   if (key == "keyopen") return isimleriAc(false), true;
   if (key == "idpass") return gizlileriSec(), true;
   return false;
+}
+
+void FrmMain::yeniMesaj(long count) {
+  tbToolBar.setButtonImage("mesaj", count > 0 ? "mesajv" : "mesaj");
+  const std::string caption = shell::metinbul(istasyon, count > 0 ? "yenimesajlar" : "Mesaj");
+  tbToolBar.setButtonToolTip("mesaj",
+                             count > 0 ? caption + " (" + std::to_string(count) + ")" : caption);
+  sbDurum.setPanel(4, count > 0 ? tbToolBar.button("mesaj")->toolTip : std::string());
 }
 
 void FrmMain::muayenetus() {

@@ -62,6 +62,11 @@ enum class Phrase {
   PictureDamaged,
   PictureTooLarge,
   PicturePathTooLong,  // the largest number of characters follows
+  Reply,
+  MessageNotSent,
+  MessageCount,  // a number follows
+  UnreadCount,   // a number follows
+  NoMessages,
   PrintWizard,
   PageItems,     // and their properties
   PrintedItems,  // of a page

@@ -90,7 +90,6 @@ QWidget* properties(FrmWizardDrug& form, QWidget& parent) {
   QVBoxLayout* const column = columnOf(*side);
   auto* const table = new GridTable(side);
   bind(*table, form.GrdÖzellik);
-  table->horizontalHeader()->setStretchLastSection(true);
   auto* const edit = new CellEdit(*table, form.yerlesim);
   bind(static_cast<QLineEdit&>(*edit), form.TxtGrid);
   column->addWidget(captionFor(*table), 0, Qt::AlignLeft);
@@ -114,20 +113,12 @@ QLabel* label(forms::Label& control, QWidget& parent) {
   return made;
 }
 
-// The patient who is chosen from the start may stand far below.
-void keepChosenInSight(HintTable& table) {
-  QObject::connect(table.model(), &QAbstractItemModel::rowsInserted, &table, [&table] {
-    if (!table.hasFocus()) table.scrollTo(table.currentIndex());
-  });
-}
-
 HintTable* patientTable(FrmWizardDrug& form, QWidget& parent) {
   auto* const table = new HintTable(&parent);
   bind(*table, form.LstTüm);
   for (int column = 0; column < table->model()->columnCount(); ++column)
     table->setColumnWidth(column,
                           characters(*table, column == 0 ? nameCharacters : addressCharacters));
-  keepChosenInSight(*table);
   return table;
 }
 
