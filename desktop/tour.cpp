@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QPixmap>
 #include <QTextStream>
-#include <QWindow>
 
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
@@ -127,8 +126,7 @@ class Tour {
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     if (album_.wants(QStringLiteral("FrmFind"))) takeFinder(suffix);
     if (album_.wants(QStringLiteral("frmpicture"))) takeArchive(suffix);
-    if (album_.wants(QStringLiteral("frmdrug")) || album_.wants(QStringLiteral("frmwizarddrug")))
-      takePrescription(suffix);
+    if (album_.wants(QStringLiteral("frmwizarddrug"))) takePrescription(suffix);
     istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -290,21 +288,13 @@ class Tour {
     });
   }
 
-  // The drug screen with a prescription, and over it the print wizard in all its looks.
   void takePrescription(const QString& suffix) {
     istasyon_.SeciliHasta = patientWithResults();
     SamplePrescription sample(host_, istasyon_);
     takeForm(sample.drugs(), QStringLiteral("-recete"), suffix);
-    documents::FrmWizardDrug& wizard = sample.openWizard();
-    takeForm(wizard, QStringLiteral("-recete"), suffix);
-    QWidget& window = *host_.windowOf(wizard);
-    window.resize(usualSize);
-    wizard.GrdÖzellik.setRow(3);
-    wizard.yerlesim.duzenle();
-    album_.take(window, QStringLiteral("frmwizarddrug-edit") + suffix);
-    wizard.yerlesim.vazgec();
-    album_.take(*host_.windowOf(sample.openPreview()),
-                QStringLiteral("frmpreview1-recete") + suffix);
+    takeForm(sample.openWizard(), QStringLiteral("-recete"), suffix);
+    album_.take(sample.editedWizard(), QStringLiteral("frmwizarddrug-edit") + suffix);
+    album_.take(sample.openPreview(), QStringLiteral("frmpreview1-recete") + suffix);
     sample.print(album_.file(QStringLiteral("recete") + suffix + QStringLiteral(".pdf")));
   }
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr QSize letterheadSize{560, 110};
 constexpr int iconSide = 56;
+constexpr QSize wizardSize{1240, 780};
 const QColor ink(0x1F, 0x4E, 0x79);
 
 QImage letterhead() {
@@ -61,8 +62,8 @@ SamplePrescription::SamplePrescription(QtHost& host, shell::Station& istasyon)
 }
 
 SamplePrescription::~SamplePrescription() {
-  closePreview();
-  closeWizard();
+  if (preview_) host_.close(*preview_);
+  if (wizard_) host_.close(*wizard_);
   host_.close(drugs_);
   for (const std::string& file : drawn_) QFile::remove(qs(file));
 }
@@ -92,20 +93,22 @@ documents::FrmWizardDrug& SamplePrescription::openWizard() {
   return *wizard_;
 }
 
-void SamplePrescription::closeWizard() {
-  if (wizard_) host_.close(*wizard_);
+QWidget& SamplePrescription::editedWizard() {
+  constexpr int anyPlace = 3;
+  wizard_->GrdÖzellik.setRow(anyPlace);
+  wizard_->yerlesim.duzenle();
+  QWidget& window = *host_.windowOf(*wizard_);
+  window.resize(wizardSize);
+  return window;
 }
 
-documents::FrmPreview1& SamplePrescription::openPreview() {
+QWidget& SamplePrescription::openPreview() {
+  wizard_->yerlesim.vazgec();
   preview_.emplace(istasyon_);
   preview_->sayfalariAl(wizard_->PMektupYazdır());
   preview_->Load();
   host_.show(*preview_);
-  return *preview_;
-}
-
-void SamplePrescription::closePreview() {
-  if (preview_) host_.close(*preview_);
+  return *host_.windowOf(*preview_);
 }
 
 void SamplePrescription::print(const std::string& file) const {

@@ -22,11 +22,10 @@ class SamplePrescription {
   ~SamplePrescription();
 
   [[nodiscard]] exam::FrmDrug& drugs() { return drugs_; }
-  // Opens the wizard over it; the preview over the wizard.
+  // Opens the wizard over it; edits a place there; opens the preview over the wizard.
   [[nodiscard]] documents::FrmWizardDrug& openWizard();
-  void closeWizard();
-  [[nodiscard]] documents::FrmPreview1& openPreview();
-  void closePreview();
+  [[nodiscard]] QWidget& editedWizard();
+  [[nodiscard]] QWidget& openPreview();
   // Prints the page of the wizard into a file.
   void print(const std::string& file) const;
 
