@@ -6,7 +6,6 @@
 #include <array>
 
 #include "desktop/layout.h"
-#include "desktop/print/page_painter.h"
 #include "desktop/text.h"
 #include "documents/page_layout.h"
 
@@ -131,7 +130,7 @@ void ItemHandle::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.translate(frameGap, frameGap);
     painter.scale(sheet_.scale(), sheet_.scale());
-    paintPage(painter, item_.drawing(), fonts_,
+    paintPage(painter, item_.drawing(), parts_,
               qRound(sheet_.scale() * ratio * page::twipsPerInch));
   }
   QPainter painter(this);

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "desktop/bind/binding.h"
-#include "desktop/print/fonts.h"
+#include "desktop/print/page_painter.h"
 #include "documents/sheet_item.h"
 
 namespace desktop {
@@ -61,7 +61,7 @@ class ItemHandle : public QWidget {
   SheetView& sheet_;
   documents::SheetItem& item_;
   QPixmap picture_;  // what stands in the frame; null until it is painted
-  PageFonts fonts_;
+  PageParts parts_;
   QPoint grip_;  // where it was taken, from its corner
 };
 

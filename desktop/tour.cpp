@@ -11,10 +11,10 @@
 #include "desktop/tour_exam.h"
 #include "desktop/tour_pictures.h"
 #include "desktop/tour_prescription.h"
+#include "desktop/tour_print.h"
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
 #include "shell/frm_progress.h"
-#include "stores/visit_ledger.h"
 #include "tools/message_maker.h"
 
 namespace desktop {
@@ -59,6 +59,13 @@ class Album {
     good_ = false;
   }
   [[nodiscard]] std::string file(const QString& name) const { return utf8(folder_.filePath(name)); }
+  void keep(const SamplePreview& preview, const QString& name) {
+    const platform::Status kept =
+        preview.save(utf8(folder_.filePath(name + QStringLiteral(".pdf"))));
+    if (kept) return;
+    complain(qs(kept.text()));
+    good_ = false;
+  }
   [[nodiscard]] bool good() const { return good_; }
 
  private:
@@ -120,13 +127,14 @@ class Tour {
     daysList();
     if (album_.wants(QStringLiteral("FrmMain"))) takeVariants(suffix);
     progress(suffix);
-    istasyon_.SeciliHasta = patientWithResults();
+    istasyon_.SeciliHasta = patientWithResults(istasyon_);
     takeLaboratory(suffix);
     if (album_.wants(QStringLiteral("FrmExam"))) takeExaminations(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     if (album_.wants(QStringLiteral("FrmFind"))) takeFinder(suffix);
     if (album_.wants(QStringLiteral("frmpicture"))) takeArchive(suffix);
     if (album_.wants(QStringLiteral("frmwizarddrug"))) takePrescription(suffix);
+    takePrints(suffix);
     istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -246,15 +254,6 @@ class Tour {
     settle();
   }
 
-  // The first patient of the practice with laboratory values.
-  std::string patientWithResults() {
-    dao::Recordset& visit = istasyon_.stores.clinical.Visit;
-    const std::string kind = stores::ledgerKey(istasyon_.BransAdi, stores::kind::laboratory, "");
-    if (!visit.Seek(">=", kind) || visit.NoMatch()) return {};
-    const std::string key = visit.Fields("spname").text();
-    return key.starts_with(kind) ? key.substr(kind.size()) : std::string();
-  }
-
   void takeLaboratory(const QString& suffix) {
     for (const char* name : {"frmtest", "frmtestedit", "frmdemand", "frmtesttrend"}) {
       takeScreen(name, QStringLiteral("-1024x700") + suffix, smallestSize);
@@ -296,6 +295,25 @@ class Tour {
     album_.take(sample.editedWizard(), QStringLiteral("frmwizarddrug-edit") + suffix);
     album_.take(sample.openPreview(), QStringLiteral("frmpreview1-recete") + suffix);
     sample.print(album_.file(QStringLiteral("recete") + suffix + QStringLiteral(".pdf")));
+  }
+
+  void takePrints(const QString& suffix) {
+    main_.TxtEskiİsim.setText(main_.Txtİsim.text());
+    takePrint(main_, main_, suffix);
+    main_.TxtEskiİsim.setText("");
+    search::FrmFind finder(istasyon_);
+    finder.Load();
+    finder.TümListe();
+    settle();
+    takePrint(finder, finder, suffix);
+  }
+
+  // The preview and, beside its picture, the pages as a PDF file.
+  void takePrint(documents::PrintedPages& printed, const forms::Form& form, const QString& suffix) {
+    const SamplePreview preview(host_, istasyon_, printed, form.font());
+    const QString name = qs(form.name()) + QStringLiteral("-print") + suffix;
+    album_.take(preview.window(), name);
+    album_.keep(preview, name);
   }
 
   template <class Work>

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "shell/speciality.h"
+#include "stores/visit_ledger.h"
 
 namespace desktop {
 
@@ -69,6 +70,14 @@ std::vector<forms::ListItem> sampleDates() {
 }
 
 }  // namespace
+
+std::string patientWithResults(shell::Station& istasyon) {
+  dao::Recordset& visit = istasyon.stores.clinical.Visit;
+  const std::string kind = stores::ledgerKey(istasyon.BransAdi, stores::kind::laboratory, "");
+  if (!visit.Seek(">=", kind) || visit.NoMatch()) return {};
+  const std::string key = visit.Fields("spname").text();
+  return key.starts_with(kind) ? key.substr(kind.size()) : std::string();
+}
 
 SampleExam::SampleExam(QtHost& host, shell::Station& istasyon, std::string_view program)
     : host_(host),

@@ -10,6 +10,9 @@
 
 namespace desktop {
 
+// The first patient of the practice with laboratory values.
+[[nodiscard]] std::string patientWithResults(shell::Station& istasyon);
+
 // Open from construction to destruction, for the patient on the card.
 class SampleExam {
  public:

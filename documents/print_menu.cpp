@@ -8,12 +8,12 @@
 
 namespace documents {
 
-PrintMenu::PrintMenu(shell::Station& istasyon, PrintEntries entries, PrintedRecord& record,
+PrintMenu::PrintMenu(shell::Station& istasyon, PrintEntries entries, PrintedPages& printed,
                      int ayarKaydi)
     : lblsablonno(entries.mnuyazdır.form(), "lblsablonno"),
       istasyon_(istasyon),
       form_(entries.mnuyazdır.form()),
-      record_(record),
+      printed_(printed),
       ayarKaydi_(ayarKaydi) {
   lblsablonno.setCaption("0");
   lblsablonno.setVisible(false);
@@ -52,24 +52,37 @@ void PrintMenu::sablonSec() {
   imza_ = istasyon_.SablonImzasi;
 }
 
+// What was seen is what is printed.
 void PrintMenu::oniz() {
-  if (yazdirilabilir(istasyon_) && sayfalariGoster(istasyon_, sayfa())) Yazdır();
+  if (!yazdirilabilir(istasyon_)) return;
+  const auto pages = sayfalar();
+  if (pages && sayfalariGoster(istasyon_, *pages)) bas(*pages);
 }
 
 void PrintMenu::Yazdır() {
   if (!yazdirilabilir(istasyon_)) return;
-  sayfalariYazdir(istasyon_, shell::RecordScreen::sisim(record_.basilanIsim()), sayfa());
+  if (const auto pages = sayfalar()) bas(*pages);
 }
 
-page::Pages PrintMenu::sayfa() {
-  ReportText body(form_.font());
-  record_.Yazılar(body);
-  return raporSayfasi(istasyon_, {.isim = record_.basilanIsim(),
-                                  .tarih = record_.basilanTarih(),
-                                  .sablon = static_cast<int>(text::Val(lblsablonno.caption())),
-                                  .imza = imza_,
-                                  .yazitipi = form_.font(),
-                                  .govde = body.document()});
+void PrintMenu::bas(const page::Pages& pages) {
+  const std::string name = shell::RecordScreen::sisim(printed_.basilanIsim());
+  sayfalariYazdir(istasyon_, name.empty() ? form_.caption() : name, pages);
+}
+
+std::optional<page::Pages> PrintMenu::sayfalar() {
+  return printed_.sayfalar(istasyon_, {.isim = printed_.basilanIsim(),
+                                       .tarih = printed_.basilanTarih(),
+                                       .sablon = static_cast<int>(text::Val(lblsablonno.caption())),
+                                       .imza = imza_,
+                                       .yazitipi = form_.font(),
+                                       .govde = {}});
+}
+
+std::optional<page::Pages> PrintedRecord::sayfalar(shell::Station& istasyon, Report report) {
+  ReportText body(report.yazitipi);
+  Yazılar(body);
+  report.govde = body.document();
+  return raporSayfasi(istasyon, report);
 }
 
 }  // namespace documents

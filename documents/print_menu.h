@@ -1,8 +1,10 @@
 // What a screen needs to print its record: the work of its three menu entries, the template and the
-// signature. A screen implements PrintedRecord, has a PrintMenu as a member behind its entries, and
-// calls Setkayitlarioku() when it is loaded and setkayityaz() when it is unloaded.
+// signature. A screen implements PrintedRecord, or PrintedPages for more than one page, has a
+// PrintMenu as a member behind its entries, and calls Setkayitlarioku() when it is loaded and
+// setkayityaz() when it is unloaded.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "documents/report_page.h"
@@ -13,16 +15,26 @@
 
 namespace documents {
 
-// The record that is on the screen.
-class PrintedRecord {
+// What is on the screen, as pages of its own layout.
+class PrintedPages {
  public:
-  virtual ~PrintedRecord() = default;
+  virtual ~PrintedPages() = default;
 
-  // Composes the body.
-  virtual void Yazılar(ReportText& yazı) = 0;
-  // With or without the marks of namesakes.
+  // With or without the marks of namesakes; empty for the records of many patients.
   [[nodiscard]] virtual std::string basilanIsim() const = 0;
   [[nodiscard]] virtual std::string basilanTarih() const = 0;
+  // The report has all but its body. None when the user stopped the work.
+  [[nodiscard]] virtual std::optional<page::Pages> sayfalar(shell::Station& istasyon,
+                                                            Report report) = 0;
+};
+
+// The record that is on the screen, as a text on one page.
+class PrintedRecord : public PrintedPages {
+ public:
+  // Composes the body.
+  virtual void Yazılar(ReportText& yazı) = 0;
+  [[nodiscard]] std::optional<page::Pages> sayfalar(shell::Station& istasyon,
+                                                    Report report) override;
 };
 
 // The entries of the screen: every record screen has them, hidden until a PrintMenu serves them.
@@ -35,7 +47,7 @@ struct PrintEntries {
 class PrintMenu {
  public:
   // `ayarKaydi` is the number of the screen's record in Data/setting.dat.
-  PrintMenu(shell::Station& istasyon, PrintEntries entries, PrintedRecord& record, int ayarKaydi);
+  PrintMenu(shell::Station& istasyon, PrintEntries entries, PrintedPages& printed, int ayarKaydi);
 
   forms::Label lblsablonno;
 
@@ -47,11 +59,12 @@ class PrintMenu {
 
  private:
   void sablonSec();
-  [[nodiscard]] page::Pages sayfa();
+  [[nodiscard]] std::optional<page::Pages> sayfalar();
+  void bas(const page::Pages& pages);
 
   shell::Station& istasyon_;
   forms::Form& form_;
-  PrintedRecord& record_;
+  PrintedPages& printed_;
   int ayarKaydi_;
   std::string imza_;
 };

@@ -16,7 +16,7 @@ namespace documents {
 
 // What one record gives to its page.
 struct Report {
-  std::string isim;
+  std::string isim;  // empty for a report of many patients
   std::string tarih;
   int sablon = 0;  // 0 to 9
   std::string imza;

@@ -78,7 +78,7 @@ void FrmDrug::İlaçlistele() {
 }
 
 std::string FrmDrug::katlanmis(std::string_view name) const {
-  const bool turkish = istasyon.ayar("Language", istasyon.Dil) == "tr";
+  const bool turkish = istasyon.turkce();
   return dao::folded(name, turkish ? dao::Fold::Turkish : dao::Fold::General);
 }
 

@@ -76,7 +76,7 @@ void TestCatalogueScreen::testSecildi() {
 
 // The list shows the first name that begins with what is typed.
 void TestCatalogueScreen::isimYazildi() {
-  const bool turkish = istasyon.ayar("Language", istasyon.Dil) == "tr";
+  const bool turkish = istasyon.turkce();
   const dao::Fold fold = turkish ? dao::Fold::Turkish : dao::Fold::General;
   const std::string typed = dao::folded(text::trim(txttest.text()), fold);
   const auto begins = [&](const forms::ListItem& item) {

@@ -1,7 +1,7 @@
 #include "images/frm_picture.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <vector>
 
 #include "images/picture_words.h"
 #include "platform/text/number.h"
@@ -49,6 +49,9 @@ void FrmPicture::menuleriBagla() {
   mnusil.Click.connect([this] { resmiSil(); });
   mnugeri.Click.connect([this] { yuruyus(-1); });
   mnuileri.Click.connect([this] { yuruyus(1); });
+  mnuyazdır.setShortcut("Ctrl+P");
+  mnuonizleme.Click.connect([this] { oniz(); });
+  mnuyazdır.Click.connect([this] { Yazdır(); });
 }
 
 void FrmPicture::Load() {
@@ -143,19 +146,6 @@ std::string FrmPicture::baslangicKlasoru(std::size_t number) const {
   return {};
 }
 
-void FrmPicture::sayfayaYaz(PictureDevice& device) const {
-  std::vector<PrintedPicture> pictures;
-  if (picfoto.natural()) {
-    pictures.push_back({picfoto.path(), *picfoto.natural()});
-  } else {
-    for (const ArchivePicture* picture : resimler_)
-      pictures.push_back({picture->path(), picture->natural().value_or(Extent())});
-  }
-  drawPicturePage(
-      device,
-      {.isim = istasyon.Resimler.isim, .tarih = istasyon.Resimler.tarih, .pictures = pictures});
-}
-
 void FrmPicture::sozleriYaz() {
   for (std::size_t i = 0; i < resimler_.size(); ++i)
     resimler_[i]->setCaption(wordsFor(istasyon, i + 1, *resimler_[i]));
@@ -172,6 +162,10 @@ void FrmPicture::girisleriAyarla() {
   mnusil.setEnabled(!txtfoto.text().empty());
   mnugeri.setEnabled(komsu(-1) != 0);
   mnuileri.setEnabled(komsu(1) != 0);
+  const bool any = std::ranges::any_of(
+      resimler_, [](const ArchivePicture* picture) { return picture->natural().has_value(); });
+  mnuonizleme.setEnabled(any);
+  mnuyazdır.setEnabled(any);
 }
 
 }  // namespace images

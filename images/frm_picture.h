@@ -5,10 +5,10 @@
 #include <array>
 
 #include "images/archive_picture.h"
-#include "images/picture_page.h"
 #include "platform/forms/button.h"
 #include "platform/forms/menu.h"
 #include "platform/forms/text_control.h"
+#include "platform/page/page.h"
 #include "shell/station.h"
 
 namespace images {
@@ -19,6 +19,9 @@ class FrmPicture : public forms::Form {
   // were.
   explicit FrmPicture(shell::Station& istasyon);
 
+  forms::MenuItem MnuDosya{*this, "MnuDosya"};
+  forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
+  forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
   // Also the menu of the right mouse button.
   forms::MenuItem mnudüzen{*this, "mnudüzen"};
   forms::MenuItem mnuekle{mnudüzen, "mnuekle"};  // into the first free place
@@ -72,9 +75,9 @@ class FrmPicture : public forms::Form {
   enum class Step { Smaller, Larger };
   void boyutDegistir(Step step);
   [[nodiscard]] int boyut() const { return boyut_; }
-  // The page of the record, for a printer and the preview alike: the large picture alone, else the
-  // sheet of six.
-  void sayfayaYaz(PictureDevice& device) const;
+  // The page of the record: the large picture alone, else the sheet of six.
+  void oniz();
+  void Yazdır();
 
  private:
   struct Zoom {
@@ -91,6 +94,7 @@ class FrmPicture : public forms::Form {
   void yuruyus(int direction);
   [[nodiscard]] std::size_t komsu(int direction) const;
   [[nodiscard]] std::size_t bosYer() const;
+  [[nodiscard]] page::Pages sayfa() const;
   [[nodiscard]] std::string baslangicKlasoru(std::size_t number) const;
   void sozleriYaz();
   void girisleriAyarla();

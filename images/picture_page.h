@@ -3,29 +3,12 @@
 
 #include <span>
 #include <string>
-#include <string_view>
 
 #include "images/picture_fit.h"
+#include "platform/page/page.h"
+#include "shell/station.h"
 
 namespace images {
-
-// In twips.
-struct PagePlace {
-  int x = 0;
-  int y = 0;
-  Extent size;
-  bool operator==(const PagePlace&) const = default;
-};
-
-// What the page asks of a printer or a preview.
-class PictureDevice {
- public:
-  virtual ~PictureDevice() = default;
-  // The practice's letterhead, from this height down.
-  virtual void letterhead(int y) = 0;
-  virtual void text(int x, int y, std::string_view line) = 0;
-  virtual void picture(std::string_view path, const PagePlace& place) = 0;
-};
 
 struct PrintedPicture {
   std::string path;
@@ -37,6 +20,7 @@ struct PicturePage {
   std::span<const PrintedPicture> pictures;  // one alone gets the whole page
 };
 
-void drawPicturePage(PictureDevice& device, const PicturePage& page);
+// Under the letterhead. The station has a printer.
+[[nodiscard]] page::Pages resimSayfasi(const shell::Station& istasyon, const PicturePage& page);
 
 }  // namespace images

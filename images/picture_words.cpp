@@ -45,7 +45,7 @@ std::string wordsFor(shell::Station& istasyon, std::size_t number, const Archive
 
 std::string percentText(shell::Station& istasyon, int percent) {
   const std::string number = std::to_string(percent);
-  return istasyon.ayar("Language", istasyon.Dil) == "tr" ? "%" + number : number + "%";
+  return istasyon.turkce() ? "%" + number : number + "%";
 }
 
 }  // namespace images

@@ -41,7 +41,7 @@ void FrmKey::Listele() {
   secimiTopla();
   Lstkey.clear();
   alinan_ = 0;
-  const bool turkish = istasyon.ayar("Language", "tr") == "tr";
+  const bool turkish = istasyon.turkce();
   auto reader = dao::PrefixReader::open(istasyon.stores.personal.database, "IDCard", "Name",
                                         turkish ? dao::Fold::Turkish : dao::Fold::General,
                                         text::trimmed(txtara.text()));

@@ -6,7 +6,6 @@
 #include "platform/text/number.h"
 #include "registry/card_fields.h"
 #include "shell/captions.h"
-#include "shell/font_record.h"
 #include "shell/menu_icons.h"
 #include "shell/phrases.h"
 #include "shell/speciality.h"
@@ -22,6 +21,7 @@ constexpr unsigned ticksPerLook = 20;
 constexpr unsigned ticksPerDayList = 200;
 constexpr int defaultWidth = 1240;
 constexpr int defaultHeight = 780;
+constexpr auto letterheadAlone = "4";  // the name is the first line of the text
 constexpr auto windowName = "Main";
 constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Lresim"};
 
@@ -37,6 +37,7 @@ FrmMain::FrmMain(Station& station) : RecordScreen(station, "FrmMain") {
   Pexam.setVisible(false);
   Picbranslar.setVisible(false);
   idk.setCaption("6");
+  baski.lblsablonno.setCaption(letterheadAlone);
   Timer1.setInterval(tickMilliseconds);
   Timer1.Tick.connect([this] { saatVurusu(); });
   araclariKur();
@@ -67,7 +68,7 @@ void FrmMain::Load() {
   Listeleriyaz();
   alanlaribosalt();
   Eskialanmain();
-  shell::Setkayitlarioku(istasyon, *this, shell::font_record::card);
+  baski.Setkayitlarioku();
   bugun_ = istasyon.clock.today();
   gunuGoster(bugun_);
   ayarlarioku();
@@ -92,7 +93,7 @@ void FrmMain::Unload() {
   Timer1.setInterval(0);
   alanlaribosalt();
   ayarlariyaz();
-  shell::setkayityaz(istasyon, *this, shell::font_record::card).ignore();
+  baski.setkayityaz().ignore();
 }
 
 // Folders that cannot be made are met again, with a message, by the first file that is wanted in
@@ -173,7 +174,7 @@ void FrmMain::saatVurusu() {
   if (counter == 6) return;
   idk.setCaption(std::to_string(counter + 1));
   if (counter + 1 != 1) return;
-  istasyon.ayar("Language", "tr") == "tr" ? datlisteleTUR() : datlistele();
+  istasyon.turkce() ? datlisteleTUR() : datlistele();
   idk.setCaption("6");
 }
 

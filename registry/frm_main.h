@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "documents/print_menu.h"
 #include "platform/forms/button.h"
 #include "platform/forms/label.h"
 #include "platform/forms/list_control.h"
@@ -15,13 +16,16 @@
 #include "platform/forms/text_control.h"
 #include "registry/name_search.h"
 #include "registry/photo_fit.h"
+#include "shell/font_record.h"
 #include "shell/record_screen.h"
 
 namespace registry {
 
 using shell::Station;
 
-class FrmMain : public shell::RecordScreen, public shell::PatientCard {
+class FrmMain : public shell::RecordScreen,
+                public shell::PatientCard,
+                public documents::PrintedRecord {
  public:
   explicit FrmMain(Station& istasyon);
   ~FrmMain() override;
@@ -165,6 +169,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::Label idk{*this, "idk"};                    // the counter of the delayed search
   forms::Label Lresim{*this, "Lresim"};              // the splitter's place, setting CurX
 
+  documents::PrintMenu baski{
+      istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, shell::font_record::card};
+
   // --- The protocol
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.personal.IDCard; }
@@ -196,6 +203,11 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void ButtonsForPatient() override;
   // How many messages wait for the user of this desk.
   void yeniMesaj(long count);
+  // The card of the patient that was loaded: nothing that was typed into the name field since then.
+  void Yazılar(documents::ReportText& yazı) override;
+  [[nodiscard]] std::string basilanIsim() const override { return TxtEskiİsim.text(); }
+  [[nodiscard]] std::string basilanTarih() const override;
+
   // Opens the examination of the present speciality.
   void muayenetus();
 
@@ -223,11 +235,13 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
  private:
   enum class Direction { Back, Forward };
-  enum class NameCheck { Kept, OtherPatientLoaded };
+  // A name is not kept when its patient was loaded instead, or was to be and the card stayed.
+  enum class NameCheck { Kept, NotKept };
 
   void menuleriBagla();
   void araclariKur();
   void kartiBagla();
+  void baskiTuslari();
   void ekranAc(const forms::MenuItem& entry, std::string_view screen);
   [[nodiscard]] bool kartSaklandi();
   bool tusBas(std::string_view key) override;

@@ -9,7 +9,6 @@ namespace registry {
 
 namespace {
 
-constexpr std::size_t shortestFullDate = 5;
 constexpr long oldestAge = 150;
 
 }  // namespace
@@ -40,8 +39,8 @@ bool FrmMain::hatalitarih() {
   const std::string birth = text::trim(TxtDTarihi.text());
   const text::DateTime today = istasyon.clock.today();
   const auto date = text::parseDate(birth, today);
-  const bool tooLate = text::length(birth) < shortestFullDate ? text::Val(birth) > today.year()
-                                                              : date && *date > today;
+  const bool tooLate =
+      shell::kisaDogum(birth) ? text::Val(birth) > today.year() : date && *date > today;
   if (!tooLate) return true;
   istasyon.bilgi(metinbul(istasyon, "msghatalitarih"));
   TxtDTarihi.setFocus();

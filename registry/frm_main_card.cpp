@@ -1,8 +1,6 @@
 // The card's record: load, save, new, delete.
 #include <array>
 
-#include "platform/text/fold.h"
-#include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "registry/card_fields.h"
 #include "registry/frm_main.h"
@@ -34,6 +32,7 @@ void FrmMain::kartiBagla() {
   Txtİsim.LostFocus.connect([this] { isimBitti(); });
   Txtİsim.KeyUp.connect([this](forms::Key) { isimYazildi(); });
   Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
+  TxtEskiİsim.Change.connect([this] { baskiTuslari(); });
   TxtDTarihi.GotFocus.connect([this] { shell::hepsinisec(*this); });
   TxtDTarihi.LostFocus.connect([this] { dogumBitti(); });
   Txtyaş.LostFocus.connect([this] { yasBitti(); });
@@ -149,7 +148,7 @@ dao::Status FrmMain::Forumalanlaritasi() {
   dao::Recordset& cards = tablo();
   const dao::Status moved = RecordScreen::Forumalanlaritasi();
   const std::string birth = text::trim(TxtDTarihi.text());
-  const bool isYear = text::length(birth) == 4 && text::wholeNumber(birth);
+  const bool isYear = shell::yilMi(birth);
   const auto date = isYear ? std::nullopt : text::parseDate(birth, istasyon.clock.today());
   const dao::Status dateSet =
       cards.Fields("Date of Birth").Set(date ? dao::Value(*date) : dao::Value());
@@ -219,13 +218,8 @@ void FrmMain::Cinsiyetrengi() {
 // One letter is enough: the beginning of a row chooses the row. Any other leaves the choice as it
 // was.
 void FrmMain::cinsiyetYazildi() {
-  const std::string first = text::upper(text::left(ComCinsiyet.text(), 1));
-  for (const int row : {female, male}) {
-    if (first.empty() || static_cast<std::size_t>(row) >= ComCinsiyet.items().size()) continue;
-    if (first == text::upper(text::left(ComCinsiyet.items()[static_cast<std::size_t>(row)], 1))) {
-      return ComCinsiyet.setListIndex(row);
-    }
-  }
+  const int row = shell::rowOfFirstLetter(ComCinsiyet);
+  if (row >= 0) return ComCinsiyet.setListIndex(row);
   ComCinsiyet.listIndex() < 0 ? ComCinsiyet.setListIndex(cinsiyet_) : Cinsiyetrengi();
 }
 

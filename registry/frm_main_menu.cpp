@@ -171,6 +171,7 @@ void FrmMain::tuskontrol() {
   for (forms::MenuItem FrmMain::*entry : clinicalEntries) (this->*entry).setEnabled(clinical);
   tbToolBar.setButtonEnabled("muayene", clinical);
   tbToolBar.setButtonEnabled("smok", clinical);
+  baskiTuslari();
 }
 
 void FrmMain::yonEtkin(Direction direction, bool enabled) {

@@ -39,6 +39,7 @@ void FrmMain::isimleriAc(bool unlocked) {
   gunlukListele();
   // Whoever is hidden leaves the screen with the lock.
   if (gizliMi(txtkey.text()) && secimdenOnce()) Yeni();
+  baskiTuslari();
 }
 
 void FrmMain::isimSifresi() {
@@ -146,7 +147,7 @@ FrmMain::NameCheck FrmMain::isimBitti() {
   Txtİsim.setText(text::trim(Txtİsim.text()));
   if (Txtİsim.text().empty() || Txtİsim.text() == TxtEskiİsim.text()) return NameCheck::Kept;
   if (listed && text::length(Txtİsim.text()) == text::length(only)) Txtİsim.setText(only);
-  if (adasSor() == NameCheck::OtherPatientLoaded) return NameCheck::OtherPatientLoaded;
+  if (adasSor() == NameCheck::NotKept) return NameCheck::NotKept;
   const bool sexChosen = ComCinsiyet.listIndex() == 0 || ComCinsiyet.listIndex() == 1;
   if (istasyon.BransKodu == shell::brans::koduKadinDogum && !sexChosen) ComCinsiyet.setListIndex(0);
   return NameCheck::Kept;
@@ -157,9 +158,9 @@ FrmMain::NameCheck FrmMain::adasSor() {
   while (baskaHasta(Txtİsim.text())) {
     const std::string name = Txtİsim.text();
     if (!istasyon.evetMi(name + metinbul(istasyon, "msgisimtekrari"))) {
-      if (!TxtEskiİsim.text().empty() && !secimdenOnce()) return NameCheck::OtherPatientLoaded;
+      if (!TxtEskiİsim.text().empty() && !secimdenOnce()) return NameCheck::NotKept;
       hastayiGoster(name);
-      return NameCheck::OtherPatientLoaded;
+      return NameCheck::NotKept;
     }
     Txtİsim.setText(withMark(name));
   }

@@ -1,9 +1,9 @@
 // Maintenance of the cards: all of them saved anew, and cards for pregnancies that have none.
-#include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "registry/card_batches.h"
 #include "registry/card_fields.h"
 #include "registry/frm_main.h"
+#include "shell/age.h"
 #include "shell/frm_progress.h"
 #include "shell/phrases.h"
 
@@ -160,8 +160,7 @@ bool FrmMain::dogumSaklanir() {
       !tablo().Fields("Date of Birth").isNull() && !tablo().Fields("Year of Birth").text().empty();
   if (both || ComCinsiyet.listIndex() < 0) return false;
   const std::string birth = text::trim(TxtDTarihi.text());
-  const bool isYear = text::length(birth) == 4 && text::wholeNumber(birth);
-  return birth.empty() || isYear || text::parseDate(birth, istasyon.clock.today());
+  return birth.empty() || shell::yilMi(birth) || text::parseDate(birth, istasyon.clock.today());
 }
 
 }  // namespace registry

@@ -12,6 +12,9 @@
 
 namespace search {
 
+// The cells of a row, in their order.
+enum class CardCell { Name, Birth, Sex, Place, Profession, Mail, Telephone, Notes };
+
 class CardLine {
  public:
   // The words of the sexes are looked up once.

@@ -1,12 +1,9 @@
 #include "search/frm_find.h"
 
 #include "platform/text/date.h"
-#include "platform/text/fold.h"
 #include "platform/text/number.h"
-#include "platform/text/utf8.h"
 #include "shell/blood_groups.h"
 #include "shell/captions.h"
-#include "shell/font_record.h"
 #include "shell/list_completion.h"
 #include "shell/text_lookup.h"
 #include "stores/value_list.h"
@@ -33,9 +30,7 @@ FrmFind::FrmFind(shell::Station& station)
     : Form("FrmFind"), istasyon(station), adresler_(station.AdresListesi), is_(station.host) {
   width = defaultWidth;
   height = defaultHeight;
-  // There is no page of the result yet.
-  mnuonizleme.setVisible(false);
-  mnuyazdır.setVisible(false);
+  mnuyazdır.setShortcut("Ctrl+P");
   ListFiltre.setVisible(false);
   PBar.setVisible(false);
   ButDur.setVisible(false);
@@ -83,7 +78,7 @@ void FrmFind::Load() {
     row.control(*this).setCaption(metinbul(istasyon, row.captionKey));
   BulList.setColumns(CardLine::headings(istasyon));
   Listeleriyaz();
-  shell::Setkayitlarioku(istasyon, *this, shell::font_record::find);
+  baski.Setkayitlarioku();
   toplam_ = static_cast<std::size_t>(istasyon.stores.personal.IDCard.RecordCount());
   sayfaSec(Page::Filters);
   if (adresler_ == nullptr || adresler_->empty()) return;
@@ -94,7 +89,7 @@ void FrmFind::Load() {
 
 void FrmFind::Unload() {
   is_.stop();
-  shell::setkayityaz(istasyon, *this, shell::font_record::find).ignore();
+  baski.setkayityaz().ignore();
 }
 
 void FrmFind::Listeleriyaz() {
@@ -129,13 +124,7 @@ void FrmFind::alanlaribosalt() {
 
 // One letter is enough: the beginning of a row chooses the row, and nothing else can stand there.
 void FrmFind::cinsiyetYazildi() {
-  const std::string first = text::upper(text::left(ComCinsiyet.text(), 1));
-  int chosen = -1;
-  for (int row = 0; std::cmp_less(row, ComCinsiyet.items().size()); ++row) {
-    const std::string& sex = ComCinsiyet.items()[static_cast<std::size_t>(row)];
-    if (!first.empty() && first == text::upper(text::left(sex, 1))) chosen = row;
-  }
-  ComCinsiyet.setListIndex(chosen);
+  ComCinsiyet.setListIndex(shell::rowOfFirstLetter(ComCinsiyet));
 }
 
 bool FrmFind::tarihGecerli() const {
@@ -178,7 +167,7 @@ void FrmFind::bul() {
   for (forms::TextBox* part : {&TxtYıl, &TxtAy, &TxtGün}) {
     if ((part == activeControl() || part == &TxtGün) && !hatalitarih(*part)) return;
   }
-  istasyon.ayar("Language", "tr") == "tr" ? BulListYazTUR() : BulListYaz();
+  istasyon.turkce() ? BulListYazTUR() : BulListYaz();
 }
 
 }  // namespace search

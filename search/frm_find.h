@@ -4,11 +4,13 @@
 #include <chrono>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "documents/print_menu.h"
 #include "platform/forms/button.h"
 #include "platform/forms/label.h"
 #include "platform/forms/list_control.h"
@@ -17,21 +19,29 @@
 #include "search/card_line.h"
 #include "search/card_scan.h"
 #include "search/find_filters.h"
+#include "shell/font_record.h"
 #include "shell/slices.h"
 #include "shell/station.h"
 
 namespace search {
 
+class ResultPages;
+
 // Opened from the card, it brings the chosen patient onto it. Opened by shell::adresSec, it
 // collects the names of patients with an address.
-class FrmFind : public forms::Form {
+class FrmFind : public forms::Form, public documents::PrintedPages {
+  shell::Station& istasyon;  // in front of what prints with it
+
  public:
-  explicit FrmFind(shell::Station& istasyon);
+  explicit FrmFind(shell::Station& station);
 
   forms::MenuItem MnuDosya{*this, "MnuDosya"};
   forms::MenuItem mnuyeni{MnuDosya, "mnuyeni"};
+  forms::MenuItem çizgi1{MnuDosya, "çizgi1", forms::MenuKind::Separator};
+  forms::MenuItem mnuşablon{MnuDosya, "mnuşablon"};
   forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
   forms::MenuItem mnuyazdır{MnuDosya, "mnuyazdır"};
+  forms::MenuItem çizgi2{MnuDosya, "çizgi2", forms::MenuKind::Separator};
   forms::MenuItem mnucik{MnuDosya, "mnucik"};
 
   // --- The filters, by what they belong to
@@ -90,6 +100,11 @@ class FrmFind : public forms::Form {
   forms::CommandButton buttamam{*this, "buttamam"};
   forms::CommandButton Butİptal{*this, "Butİptal"};
 
+  // Template, font and signature, and the entries that print the result: on one page, which
+  // frmprewive shows, or on as many as it needs, in frmpreview1.
+  documents::PrintMenu baski{
+      istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, shell::font_record::find};
+
   void Load() override;
   void Unload() override;
 
@@ -98,13 +113,14 @@ class FrmFind : public forms::Form {
   void BulListYazTUR();
   // Lists every card.
   void TümListe();
-  // Fills ListFiltre with the names of the cards that fit, without the list view.
-  void ListYap();
   // Lists the cards whose names stand in ListFiltre, as far as there are such cards.
   void SonuçlarıListele();
-  void SonuçlarıListele1() { SonuçlarıListele(); }
-  // A listing has ended by itself.
-  forms::Event<> ListeBitti;
+
+  // The result is of many patients.
+  [[nodiscard]] std::string basilanIsim() const override { return {}; }
+  [[nodiscard]] std::string basilanTarih() const override;
+  [[nodiscard]] std::optional<page::Pages> sayfalar(shell::Station& istasyon,
+                                                    documents::Report report) override;
 
   // The texts of all filters; empty when none is filled.
   [[nodiscard]] std::string FindAlanlar();
@@ -139,19 +155,23 @@ class FrmFind : public forms::Form {
                                 std::span<const std::string_view> wanted, Found found);
   void listele(Filters filters, dao::Fold fold);
   void listeyiAc();
-  // Starts sliced work; `step` does one small step of it.
+  // Starts sliced work; `step` does one small step of it. A step that fails ends the work, and the
+  // reason is told; `end` comes only behind the last step.
   void dilimle(std::function<dao::Result<bool>()> step, std::function<void()> sliceEnd,
                std::function<void()> end);
   void durdur();
+  void hepsiniDiz(ResultPages& pages);
+  void dilimDilimDiz(ResultPages& pages);
   forms::ListView::Row& yeniSatir();
   void satirlariEkle();
   void ilerle(std::size_t done, std::size_t total);
   void sayiyiYaz();
   void bitti();
-  [[nodiscard]] bool kartiBul(std::string_view name);
+  void soyle(const std::string& why);
+  // Whether there is such a card; kartlar_ stands on it then.
+  [[nodiscard]] dao::Result<bool> kartiBul(std::string_view name);
   [[nodiscard]] bool adresiVar();
 
-  shell::Station& istasyon;
   std::vector<std::string>* adresler_;  // the list of the caller that picks addresses
   dao::Recordset kartlar_;
   shell::Slices is_;

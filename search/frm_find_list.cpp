@@ -11,7 +11,6 @@ namespace search {
 
 namespace {
 
-constexpr std::array<std::string_view, 1> nameOnly{"Name"};
 constexpr std::array addressLines{"Address1", "Address2", "Address3", "Address4"};
 // Shorter work shows no progress: nothing flickers.
 constexpr int slicesWithoutProgress = 60;
@@ -58,18 +57,6 @@ void FrmFind::listele(Filters filters, dao::Fold fold) {
           [this] { bitti(); });
 }
 
-void FrmFind::ListYap() {
-  durdur();
-  ListFiltre.clear();
-  const auto names = std::make_shared<std::vector<std::string>>();
-  const auto scan = std::make_shared<CardScan>(
-      tarama(Filters::Applied, dao::Fold::General, nameOnly,
-             [names](dao::Recordset& card) { names->push_back(card.Fields("Name").text()); }));
-  dilimle([scan] { return scan->step(); },
-          [this, names] { ListFiltre.appendItems(std::exchange(*names, {})); },
-          [this] { ListeBitti(); });
-}
-
 void FrmFind::SonuçlarıListele() {
   listeyiAc();
   const auto next = std::make_shared<std::size_t>(0);
@@ -77,7 +64,9 @@ void FrmFind::SonuçlarıListele() {
       [this, next, line = CardLine(istasyon)]() -> dao::Result<bool> {
         if (*next == ListFiltre.count()) return true;
         const std::string& name = ListFiltre.items()[(*next)++].text;
-        if (kartiBul(name) && !istasyon.gizliMi(kartlar_.Fields("Key").view()))
+        const auto found = kartiBul(name);
+        if (!found) return std::unexpected(found.error());
+        if (*found && !istasyon.gizliMi(kartlar_.Fields("Key").view()))
           line.write(kartlar_, yeniSatir());
         return false;
       },
@@ -107,8 +96,8 @@ void FrmFind::dilimle(std::function<dao::Result<bool>()> step, std::function<voi
     while (done && !*done && !deadline.passed());
     sliceEnd();
     if (done && !*done) return false;
-    end();
-    if (!done) LDurum.setCaption(done.error().text());
+    done ? end() : bitti();
+    if (!done) soyle(done.error().text());
     return true;
   });
 }
@@ -119,7 +108,13 @@ void FrmFind::durdur() {
   is_.stop();
   PBar.setVisible(false);
   ButDur.setVisible(false);
+  sayiyiYaz();
   LDurum.setCaption(phrase(istasyon, shell::Phrase::SearchStopped));
+}
+
+void FrmFind::soyle(const std::string& why) {
+  LDurum.setCaption(why);
+  istasyon.host.beep();
 }
 
 forms::ListView::Row& FrmFind::yeniSatir() {
@@ -144,9 +139,11 @@ void FrmFind::ilerle(std::size_t done, std::size_t total) {
 void FrmFind::sayiyiYaz() {
   const bool any = BulList.rowCount() > 0;
   LSayı.setCaption(std::to_string(BulList.rowCount()));
-  mnuonizleme.setEnabled(any);
-  mnuyazdır.setEnabled(any);
-  buttamam.setEnabled(any && !is_.running());
+  // A list that still grows is neither printed nor taken.
+  for (forms::Control* whole :
+       {static_cast<forms::Control*>(&mnuonizleme), static_cast<forms::Control*>(&mnuyazdır),
+        static_cast<forms::Control*>(&buttamam)})
+    whole->setEnabled(any && !is_.running());
   ButGit.setEnabled(BulList.selectedRow() >= 0);
 }
 
@@ -157,22 +154,21 @@ void FrmFind::bitti() {
   sayiyiYaz();
   BulList.setToolTip(BulList.rowCount() > 0 ? std::string()
                                             : phrase(istasyon, shell::Phrase::NobodyFound));
-  ListeBitti();
 }
 
 void FrmFind::git() {
   const std::string name(BulList.selectedKey());
   if (name.empty()) return;
-  if (!kartiBul(name)) {
-    LDurum.setCaption(shell::RecordScreen::sisim(name) + ": " +
-                      phrase(istasyon, shell::Phrase::RecordGone));
-    return istasyon.host.beep();
-  }
+  const auto found = kartiBul(name);
+  if (!found) return soyle(found.error().text());
+  if (!*found)
+    return soyle(shell::RecordScreen::sisim(name) + ": " +
+                 phrase(istasyon, shell::Phrase::RecordGone));
   istasyon.host.close(*this);
   if (istasyon.kart != nullptr) istasyon.kart->hastaSec(name);
 }
 
-// The caller gets all names or, when this is stopped or the window closed, none.
+// The caller gets all names or, when this is stopped, cannot read or the window is closed, none.
 void FrmFind::tamam() {
   struct Picking {
     std::size_t row = 0;
@@ -186,8 +182,10 @@ void FrmFind::tamam() {
       [this, picking]() -> dao::Result<bool> {
         if (picking->row == BulList.rowCount()) return true;
         std::string name(BulList.key(picking->row++));
-        if (!picking->known.contains(name) && kartiBul(name) && adresiVar())
-          picking->names.push_back(std::move(name));
+        if (picking->known.contains(name)) return false;
+        const auto found = kartiBul(name);
+        if (!found) return std::unexpected(found.error());
+        if (*found && adresiVar()) picking->names.push_back(std::move(name));
         return false;
       },
       [this, picking] { ilerle(picking->row, BulList.rowCount()); },
@@ -197,12 +195,15 @@ void FrmFind::tamam() {
       });
 }
 
-bool FrmFind::kartiBul(std::string_view name) {
+dao::Result<bool> FrmFind::kartiBul(std::string_view name) {
   if (!kartlar_.isOpen()) {
     auto opened = istasyon.stores.personal.database.OpenRecordset("IDCard");
-    if (opened) kartlar_ = std::move(*opened);
+    if (!opened) return std::unexpected(opened.error());
+    kartlar_ = std::move(*opened);
   }
-  return kartlar_.Seek("=", name) && !kartlar_.NoMatch();
+  const dao::Status sought = kartlar_.Seek("=", name);
+  if (!sought) return std::unexpected(sought);
+  return !kartlar_.NoMatch();
 }
 
 bool FrmFind::adresiVar() {

@@ -42,10 +42,19 @@ std::optional<std::string> yasmetni(Station& istasyon, std::string_view birth,
   return yearsAndMonths(istasyon, months);
 }
 
+bool kisaDogum(std::string_view birth) {
+  constexpr std::size_t shortestFullDate = 5;
+  return text::length(birth) < shortestFullDate;
+}
+
+bool yilMi(std::string_view birth) {
+  return text::length(birth) == 4 && text::wholeNumber(birth);
+}
+
 bool gecerliDogum(std::string_view birth, const text::DateTime& today) {
-  if (text::length(birth) == 4) {
-    const auto year = text::wholeNumber(birth);
-    if (year) return *year > 1800 && *year <= today.year();
+  if (yilMi(birth)) {
+    const auto year = *text::wholeNumber(birth);
+    return year > 1800 && year <= today.year();
   }
   return text::parseDate(birth, today).has_value();
 }

@@ -14,6 +14,10 @@ namespace shell {
 [[nodiscard]] std::optional<std::string> yasmetni(Station& istasyon, std::string_view birth,
                                                   const text::DateTime& reference);
 
+// Too short for a date: such a birth value is taken for a year.
+[[nodiscard]] bool kisaDogum(std::string_view birth);
+// Four digits: stored as a year, never as a date.
+[[nodiscard]] bool yilMi(std::string_view birth);
 // A date, or a year of four digits after 1800 and not later than this year.
 [[nodiscard]] bool gecerliDogum(std::string_view birth, const text::DateTime& today);
 

@@ -77,7 +77,7 @@ void FrmOption::ayarlariBagla() {
 }
 
 void FrmOption::ayarlariOku() {
-  (istasyon.ayar("Language") == "tr" ? OptTR : OptGB).setValue(true);
+  (istasyon.turkce() ? OptTR : OptGB).setValue(true);
   const auto read = [this](const BoxSetting& row) {
     (this->*row.box).setValue(istasyon.acik(row.key));
   };

@@ -33,6 +33,14 @@ void completeFromList(forms::ComboBox& combo, const forms::Key& key) {
   combo.select(static_cast<std::size_t>(length), text::length(combo.text()));
 }
 
+int rowOfFirstLetter(const forms::ComboBox& combo) {
+  const auto letter = [](const std::string& text) { return text::upper(text::left(text, 1)); };
+  const std::string first = letter(combo.text());
+  const auto& rows = combo.items();
+  const auto row = std::ranges::find(rows, first, letter);
+  return first.empty() || row == rows.end() ? -1 : static_cast<int>(row - rows.begin());
+}
+
 void keepTypedValue(forms::ComboBox& combo) {
   if (combo.rowOf(combo.text()) < 0) combo.addItem(combo.text());
 }

@@ -11,6 +11,10 @@ namespace shell {
 // rest is appended and selected, so that typing on replaces it. Steering keys complete nothing.
 void completeFromList(forms::ComboBox& combo, const forms::Key& key);
 
+// The row that begins with the first letter of the typed text, whatever its case; -1 when there is
+// none.
+[[nodiscard]] int rowOfFirstLetter(const forms::ComboBox& combo);
+
 // A text that no row equals letter for letter becomes a row, for this session.
 void keepTypedValue(forms::ComboBox& combo);
 

@@ -104,8 +104,7 @@ std::string phrase(Station& istasyon, Phrase which) {
       }(),
       "the rows stand in the order of the enumerators");
   const Row& row = phraseRows.at(static_cast<std::size_t>(which));
-  const std::string chosen = istasyon.ayar("Language", istasyon.Dil);
-  return chosen == "tr" ? row.turkish : row.english;
+  return istasyon.turkce() ? row.turkish : row.english;
 }
 
 }  // namespace shell

@@ -23,11 +23,10 @@ std::string sexOnCard(Station& istasyon) {
 }  // namespace
 
 bool tarihUygun(const Station& istasyon, const text::DateTime& date) {
-  constexpr std::size_t shortestFullDate = 5;
   const text::DateTime today = istasyon.clock.today();
   if (date > today) return false;
   const std::string birth = birthOnCard(istasyon);
-  if (text::length(birth) < shortestFullDate) return date.year() >= text::Val(birth);
+  if (kisaDogum(birth)) return date.year() >= text::Val(birth);
   const auto born = text::parseDate(birth, today);
   return !born || date >= *born;
 }

@@ -74,6 +74,8 @@ struct Station {
 
   // Settings of the program, in its section `Main`.
   [[nodiscard]] std::string ayar(std::string_view key, std::string_view missing = {}) const;
+  // Whether the user works in Turkish.
+  [[nodiscard]] bool turkce() const { return ayar("Language", Dil) == "tr"; }
   // A setting that is on or off: on when it is a number other than 0, or "True".
   [[nodiscard]] bool acik(std::string_view key) const;
   void ayarYaz(std::string_view key, std::string_view value);

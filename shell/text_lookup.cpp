@@ -22,7 +22,7 @@ void chooseLanguage(Station& istasyon) {
 
 std::string metinbul(Station& istasyon, std::string_view key) {
   chooseLanguage(istasyon);
-  const Language language = istasyon.Dil == "tr" ? Language::Turkish : Language::English;
+  const Language language = istasyon.turkce() ? Language::Turkish : Language::English;
   return std::string(lookUp(key, language));
 }
 

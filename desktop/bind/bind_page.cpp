@@ -4,8 +4,6 @@
 #include <QPainter>
 #include <QWheelEvent>
 
-#include "desktop/print/page_painter.h"
-
 namespace desktop {
 
 namespace {
@@ -20,6 +18,7 @@ PageWidget::PageWidget(QWidget* parent) : QWidget(parent) {
 
 void PageWidget::setPage(const page::Page* page, const page::Size& sheet) {
   page_ = page;
+  parts_.pictures.clear();
   sheet_ = sheet;
   update();
 }
@@ -40,7 +39,7 @@ void PageWidget::paintEvent(QPaintEvent* event) {
   const double scale = static_cast<double>(frame_.width()) / sheet_.width;
   painter.scale(scale, scale);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-  paintPage(painter, *page_, fonts_, qRound(scale * devicePixelRatioF() * page::twipsPerInch));
+  paintPage(painter, *page_, parts_, qRound(scale * devicePixelRatioF() * page::twipsPerInch));
 }
 
 void PageWidget::resizeEvent(QResizeEvent* event) {

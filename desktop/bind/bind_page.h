@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "desktop/bind/binding.h"
-#include "desktop/print/fonts.h"
+#include "desktop/print/page_painter.h"
 #include "documents/page_view.h"
 
 namespace desktop {
@@ -34,7 +34,7 @@ class PageWidget : public QWidget {
   const page::Page* page_ = nullptr;
   page::Size sheet_;
   QRect frame_;
-  PageFonts fonts_;
+  PageParts parts_;
 };
 
 void bind(PageWidget& widget, documents::PageView& control);

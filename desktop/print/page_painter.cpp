@@ -1,6 +1,5 @@
 #include "desktop/print/page_painter.h"
 
-#include "desktop/picture_frame.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -16,11 +15,11 @@ QRect rectOf(const page::Rectangle& place) {
 
 struct Painting {
   QPainter& painter;
-  PageFonts& fonts;
+  PageParts& parts;
   int dotsPerInch;
 
   void operator()(const page::Text& text) const {
-    const PageFont& font = fonts.of(text.font);
+    const PageFont& font = parts.fonts.of(text.font);
     painter.setFont(font.font);
     painter.setPen(QColor::fromRgb(text.font.colour.value_or(ink)));
     painter.drawText(QPointF(text.x, text.y + font.metrics.ascent()), qs(text.text));
@@ -28,8 +27,8 @@ struct Painting {
   void operator()(const page::Picture& picture) const {
     const QSize place(picture.place.width, picture.place.height);
     const double pixelsPerTwip = static_cast<double>(dotsPerInch) / page::twipsPerInch;
-    const QImage image =
-        loadPicture(qs(picture.path), (place * pixelsPerTwip).expandedTo(QSize(1, 1)));
+    const QImage& image =
+        parts.pictures.of(picture.path, (place * pixelsPerTwip).expandedTo(QSize(1, 1)));
     if (!image.isNull()) painter.drawImage(rectOf(picture.place), image);
   }
   void operator()(const page::Line& line) const {
@@ -45,9 +44,9 @@ struct Painting {
 
 }  // namespace
 
-void paintPage(QPainter& painter, const page::Page& page, PageFonts& fonts, int dotsPerInch) {
+void paintPage(QPainter& painter, const page::Page& page, PageParts& parts, int dotsPerInch) {
   for (const page::Operation& operation : page.operations)
-    std::visit(Painting{painter, fonts, dotsPerInch}, operation);
+    std::visit(Painting{painter, parts, dotsPerInch}, operation);
 }
 
 }  // namespace desktop

@@ -103,11 +103,12 @@ bool QtPrinter::draw(QPagedPaintDevice& device, const page::Pages& pages) {
   if (!painter.begin(&device)) return false;
   const double scale = static_cast<double>(device.logicalDpiX()) / page::twipsPerInch;
   painter.scale(scale, scale);
+  PageParts parts;
   bool first = true;
   for (const page::Page& page : pages.pages) {
     if (!first && !device.newPage()) return false;
     first = false;
-    paintPage(painter, page, fonts_, pictureDotsPerInch);
+    paintPage(painter, page, parts, pictureDotsPerInch);
   }
   return painter.end();
 }

@@ -36,7 +36,6 @@ class QtPrinter : public page::Printer {
   [[nodiscard]] bool draw(QPagedPaintDevice& device, const page::Pages& pages);
 
   QtMetrics metrics_;
-  PageFonts fonts_;
 };
 
 }  // namespace desktop

@@ -124,7 +124,7 @@ QToolBar* toolbar(QMainWindow& window) {
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   for (const char* entry : {"mnuekle", "mnusil", "", "mnugeri", "mnuileri", "", "mnu100", "mnu150",
-                            "mnu200", "mnu400"}) {
+                            "mnu200", "mnu400", "", "mnuyazdır"}) {
     auto* const action = window.menuBar()->findChild<QAction*>(QString::fromUtf8(entry));
     *entry == '\0' ? (void)bar->addSeparator() : bar->addAction(action);
   }

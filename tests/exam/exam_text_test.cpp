@@ -4,6 +4,7 @@
 #include "platform/richtext/rtf_reader.h"
 #include "shell/frm_progress.h"
 #include "tests/exam/exam_fixture.h"
+#include "tests/support/scripted_printer.h"
 
 namespace {
 
@@ -52,6 +53,40 @@ TEST_F(ExamText, TheTextHoldsWhatIsFilledInItsOrder) {
   EXPECT_FALSE(text().formatAt(10).bold);
   screen->alanlaribosalt();
   EXPECT_EQ(text().plainText(), "");
+}
+
+// However long a text is and whatever becomes of the printer, the record stays and can be printed.
+TEST_F(ExamText, HostileTextsAndPrintersLeaveTheRecordAsItIs) {
+  support::ScriptedPrinter printer;
+  printer.names = {"Muayene"};
+  printer.answer = {platform::Fault::Other, "Muayene: no paper"};
+  desk.station.yazici = &printer;
+  desk.host.modal["frmprinter"] = [](forms::Form& form) {
+    dynamic_cast<forms::CommandButton&>(*form.find("buttamam")).press();
+  };
+  constexpr std::size_t megabyte = 1 << 20;
+  std::string words;
+  while (words.size() < megabyte) words += "ağrı ";
+  const std::pair<const char*, std::string> texts[] = {
+      {"one word", std::string(megabyte, 'x')},
+      {"words", words},
+      {"lines", std::string(megabyte, '\n') + "son"},
+      {"broken UTF-8", std::string(megabyte, '\xC4')}};
+  for (const auto& [kind, text] : texts) {
+    SCOPED_TRACE(kind);
+    screen->txthikaye.setText(text);
+    screen->txtşikayet.setText("x");
+    screen->mnukaydet.press();
+    printer.jobs.clear();
+    desk.host.errors.clear();
+    screen->mnuyazdır.press();
+    ASSERT_EQ(printer.jobs.size(), 1u);
+    EXPECT_EQ(printer.jobs[0].pages.pages.size(), 1u);
+    ASSERT_EQ(desk.host.errors.size(), 1u);
+    EXPECT_EQ(desk.host.errors[0].text(), "Muayene: no paper");
+    EXPECT_EQ(screen->txthikaye.text(), text);
+    screen->mnuyeni.Click();
+  }
 }
 
 TEST_F(ExamText, TheListingHoldsEveryStoredRecordAndReplacesNoFile) {

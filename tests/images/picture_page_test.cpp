@@ -4,65 +4,88 @@
 
 #include <vector>
 
+#include "documents/frm_prewive.h"
 #include "images/frm_picture.h"
 #include "tests/support/practice.h"
+#include "tests/support/scripted_printer.h"
 
 namespace {
 
-using namespace images;
+using images::FrmPicture;
+using Lines = std::vector<std::string>;
 
-struct Recorder : PictureDevice {
-  void letterhead(int y) override { calls.push_back("letterhead " + std::to_string(y)); }
-  void text(int x, int y, std::string_view line) override {
-    calls.push_back(at(x, y) + " " + std::string(line));
+// "x,y width,height name" of every picture.
+Lines pictures(const page::Page& page) {
+  Lines lines;
+  for (const page::Picture& picture : support::all<page::Picture>(page)) {
+    const auto at = [](int x, int y) { return std::to_string(x) + "," + std::to_string(y); };
+    lines.push_back(at(picture.place.x, picture.place.y) + " " +
+                    at(picture.place.width, picture.place.height) + " " + picture.path);
   }
-  void picture(std::string_view path, const PagePlace& place) override {
-    calls.push_back(at(place.x, place.y) + " " + std::string(path) + " " +
-                    at(place.size.width, place.size.height));
+  return lines;
+}
+
+struct PicturePage : testing::Test {
+  support::TemporaryFolder folder;
+  support::Desk desk{folder.path()};
+  support::ScriptedPrinter printer;
+
+  PicturePage() {
+    desk.station.yazici = &printer;
+    for (const char* name : {"1", "3", "4", "6"}) printer.fixed.pictures[name] = {100, 100};
   }
-  static std::string at(int x, int y) { return std::to_string(x) + "," + std::to_string(y); }
-  std::vector<std::string> calls;
+  Lines drawn(std::span<const images::PrintedPicture> six) {
+    const page::Pages pages = images::resimSayfasi(
+        desk.station, {.isim = "Ayşe", .tarih = "22.11.2026", .pictures = six});
+    EXPECT_EQ(pages.pages.size(), 1u);
+    EXPECT_EQ(support::texts(pages.pages[0]), (Lines{"7500,1600 Ayşe", "7500,1840 22.11.2026"}));
+    return pictures(pages.pages[0]);
+  }
 };
 
-std::vector<std::string> drawn(std::span<const PrintedPicture> pictures) {
-  Recorder device;
-  drawPicturePage(device, {.isim = "Ayşe", .tarih = "22.11.2026", .pictures = pictures});
-  return device.calls;
+TEST_F(PicturePage, OnePictureGetsTheWholePage) {
+  const images::PrintedPicture one[] = {{"1", {2000, 1000}}};
+  EXPECT_EQ(drawn(one), Lines{"500,2500 11000,5500 1"});
 }
 
-TEST(PicturePage, OnePictureGetsTheWholePage) {
-  const PrintedPicture one[] = {{"/a.jpg", {2000, 1000}}};
-  EXPECT_EQ(drawn(one),
-            (std::vector<std::string>{"letterhead 300", "7500,1600 Ayşe", "7500,1900 22.11.2026",
-                                      "500,2500 /a.jpg 11000,5500"}));
+TEST_F(PicturePage, SixPicturesKeepTheirCells) {
+  const images::PrintedPicture six[] = {{"1", {100, 100}}, {"", {}},         {"3", {4300, 100}},
+                                        {"4", {100, 200}}, {"gone.jpg", {}}, {"6", {10, 10}}};
+  EXPECT_EQ(drawn(six), (Lines{"500,2500 3300,3300 1", "500,6000 4300,100 3",
+                               "5000,6000 1650,3300 4", "5000,9500 3300,3300 6"}));
 }
 
-TEST(PicturePage, SixPicturesKeepTheirCells) {
-  const PrintedPicture six[] = {{"1", {100, 100}}, {"", {}},         {"3", {4300, 100}},
-                                {"4", {100, 200}}, {"gone.jpg", {}}, {"6", {10, 10}}};
-  const std::vector<std::string> calls = drawn(six);
-  EXPECT_EQ(std::vector(calls.begin() + 3, calls.end()),
-            (std::vector<std::string>{"500,2500 1 3300,3300", "500,6000 3 4300,100",
-                                      "5000,6000 4 1650,3300", "5000,9500 6 3300,3300"}));
+TEST_F(PicturePage, TheLetterheadStandsAboveThePatient) {
+  const std::string heading = desk.station.dosya("Data/Baslik.bmp");
+  printer.fixed.pictures[heading] = {4000, 1200};
+  EXPECT_EQ(drawn({}), Lines{"567,300 4000,1200 " + heading});
 }
 
-TEST(PicturePage, TheLargePictureIsPrintedAloneElseTheSheet) {
-  support::TemporaryFolder folder;
-  support::Desk desk(folder.path());
-  desk.station.Resimler.yollar = {"/a.jpg", "/b.jpg"};
+TEST_F(PicturePage, TheMenuPrintsTheLargePictureAloneElseTheSheet) {
+  desk.station.Resimler.yollar = {"1", "3"};
+  printer.names = {"Muayene"};
   FrmPicture screen(desk.station);
   screen.Load();
+  EXPECT_FALSE(screen.mnuonizleme.enabled() || screen.mnuyazdır.enabled()) << "nothing is shown";
   screen.Img1.report({10, 10});
   screen.Img2.report({10, 10});
-  Recorder sheet;
-  screen.sayfayaYaz(sheet);
+  Lines seen;
+  desk.host.modal["frmprewive"] = [&](forms::Form& form) {
+    auto& preview = dynamic_cast<documents::FrmPrewive&>(form);
+    seen = pictures(*preview.picgor.page());
+    preview.mnuyazdır.press();
+  };
+  desk.host.modal["frmprinter"] = [](forms::Form& form) {
+    dynamic_cast<forms::CommandButton&>(*form.find("buttamam")).press();
+  };
+  screen.mnuonizleme.press();
+  EXPECT_EQ(seen, (Lines{"500,2500 3300,3300 1", "5000,2500 3300,3300 3"}));
   screen.sec(2);
   screen.picfoto.report({10, 10});
-  Recorder single;
-  screen.sayfayaYaz(single);
-  EXPECT_EQ(sheet.calls.back(), "5000,2500 /b.jpg 3300,3300");
-  EXPECT_EQ(single.calls.back(), "500,2500 /b.jpg 11000,11000");
-  EXPECT_EQ(single.calls.size() + 1, sheet.calls.size());
+  screen.mnuyazdır.press();
+  ASSERT_EQ(printer.jobs.size(), 2u);
+  EXPECT_EQ(pictures(printer.jobs[0].pages.pages[0]), seen);
+  EXPECT_EQ(pictures(printer.jobs[1].pages.pages[0]), Lines{"500,2500 11000,11000 3"});
 }
 
 }  // namespace

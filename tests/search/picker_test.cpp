@@ -64,6 +64,17 @@ TEST_F(Picker, CancelLeavesTheListAsItIs) {
   EXPECT_TRUE(stopped.empty());
 }
 
+TEST_F(Picker, WhatCannotBeReadIsNotPickedInPart) {
+  const Names picked = pick({}, [&](search::FrmFind& finder) {
+    finder.TümListe();
+    stores::CloseStores(desk.station.stores);
+    finder.buttamam.press();
+    EXPECT_NE(finder.LDurum.caption(), "");
+    EXPECT_TRUE(desk.host.closed.empty()) << "the reason can be read";
+  });
+  EXPECT_TRUE(picked.empty());
+}
+
 TEST_F(Picker, IsForTheCallersOnly) {
   search::FrmFind finder(desk.station);
   finder.Load();
