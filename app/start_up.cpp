@@ -6,6 +6,7 @@
 #include "documents/frm_preview1.h"
 #include "documents/frm_prewive.h"
 #include "documents/frm_printer.h"
+#include "documents/frm_wizard_drug.h"
 #include "exam/frm_demand.h"
 #include "exam/frm_drug.h"
 #include "exam/frm_exam.h"
@@ -70,6 +71,7 @@ shell::ScreenDirectory screens() {
   add<documents::FrmPrewive>(directory, "frmprewive");
   add<documents::FrmPreview1>(directory, "frmpreview1");
   add<documents::FrmPrinter>(directory, "frmprinter");
+  add<documents::FrmWizardDrug>(directory, "frmwizarddrug");
   add<images::FrmPicture>(directory, "frmpicture");
   add<scheduling::FrmMesajlar>(directory, "frmmesajlar");
   add<scheduling::FrmMsgGon>(directory, "Frmmsggon");

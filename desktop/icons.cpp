@@ -57,6 +57,7 @@ constexpr auto names = std::to_array<IconName>({
     {"program", "user-identity"},
     {"invoice", "view-financial-list"},
     {"filtre", "view-filter"},
+    {"sihirbaz", "tools-wizard"},
     {"grafik", "office-chart-line"},
     {"testler", "view-list-details"},
     {"recete", "document-edit"},

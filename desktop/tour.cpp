@@ -4,13 +4,13 @@
 #include <QDir>
 #include <QPixmap>
 #include <QTextStream>
-#include <QWindow>
 
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
 #include "desktop/tour_exam.h"
 #include "desktop/tour_pictures.h"
+#include "desktop/tour_prescription.h"
 #include "desktop/tour_print.h"
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
@@ -58,6 +58,7 @@ class Album {
     complain(QStringLiteral("Cannot write ") + file);
     good_ = false;
   }
+  [[nodiscard]] std::string file(const QString& name) const { return utf8(folder_.filePath(name)); }
   void keep(const SamplePreview& preview, const QString& name) {
     const platform::Status kept =
         preview.save(utf8(folder_.filePath(name + QStringLiteral(".pdf"))));
@@ -132,6 +133,7 @@ class Tour {
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
     if (album_.wants(QStringLiteral("FrmFind"))) takeFinder(suffix);
     if (album_.wants(QStringLiteral("frmpicture"))) takeArchive(suffix);
+    if (album_.wants(QStringLiteral("frmwizarddrug"))) takePrescription(suffix);
     takePrints(suffix);
     istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
@@ -283,6 +285,16 @@ class Tour {
       archive.choose();
       album_.take(window, QStringLiteral("frmpicture-150") + suffix);
     });
+  }
+
+  void takePrescription(const QString& suffix) {
+    istasyon_.SeciliHasta = patientWithResults();
+    SamplePrescription sample(host_, istasyon_);
+    takeForm(sample.drugs(), QStringLiteral("-recete"), suffix);
+    takeForm(sample.openWizard(), QStringLiteral("-recete"), suffix);
+    album_.take(sample.editedWizard(), QStringLiteral("frmwizarddrug-edit") + suffix);
+    album_.take(sample.openPreview(), QStringLiteral("frmpreview1-recete") + suffix);
+    sample.print(album_.file(QStringLiteral("recete") + suffix + QStringLiteral(".pdf")));
   }
 
   void takePrints(const QString& suffix) {

@@ -15,6 +15,7 @@
 #include "desktop/views/save_view.h"
 #include "desktop/views/splash_view.h"
 #include "desktop/views/trend_view.h"
+#include "desktop/views/wizard_view.h"
 #include "shell/dated_record_screen.h"
 
 namespace desktop {
@@ -53,6 +54,7 @@ ViewRegistry programViews() {
   views.add("frmmesajlar", messagesView);
   views.add("Frmmsggon", messageView);
   views.add("frmayar", messageSettingsView);
+  views.add("frmwizarddrug", prescriptionWizardView);
   return views;
 }
 

@@ -88,11 +88,16 @@ void BaslikYazici(const shell::Station& istasyon, page::Device& device) {
 
 void metniYaz(page::Device& device, const richtext::Document& text, int bottom,
               const std::function<bool()>& full) {
-  const FontKept font(device);
   // As wide a margin on the right, but never less than what printers cannot reach.
-  const int room = device.width() - device.left - std::max(device.left, place::textTop);
-  page::eachLine(device.metrics(), text, std::max(room, 1), [&](const page::FlowLine& line) {
-    if (device.y + line.height.line > bottom && !full()) return false;
+  const int width = device.width() - device.left - std::max(device.left, place::textTop);
+  metniYaz(device, text, TextRoom{width, bottom}, full);
+}
+
+void metniYaz(page::Device& device, const richtext::Document& text, TextRoom room,
+              const std::function<bool()>& full) {
+  const FontKept font(device);
+  page::eachLine(device.metrics(), text, std::max(room.width, 1), [&](const page::FlowLine& line) {
+    if (device.y + line.height.line > room.bottom && !full()) return false;
     page::printLine(device, line);
     return true;
   });

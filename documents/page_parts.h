@@ -26,6 +26,13 @@ void BaslikYazici(const shell::Station& istasyon, page::Device& device);
 // well.
 void metniYaz(page::Device& device, const richtext::Document& text, int bottom,
               const std::function<bool()>& full);
+// The same in a room of the caller's own: how wide its lines are at the most, and where it ends.
+struct TextRoom {
+  int width;
+  int bottom;
+};
+void metniYaz(page::Device& device, const richtext::Document& text, TextRoom room,
+              const std::function<bool()>& full);
 
 // Every line of the signature ends at the same place on the right, in the font that the dialog of
 // templates stored, else in the device's own.

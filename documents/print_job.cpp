@@ -11,11 +11,13 @@ namespace documents {
 namespace {
 
 template <class Preview>
-void show(shell::Station& istasyon, page::Pages pages) {
+[[nodiscard]] bool show(shell::Station& istasyon, page::Pages pages) {
+  istasyon.OnizlemeSonucu.clear();
   Preview preview(istasyon);
   preview.sayfalariAl(std::move(pages));
   preview.Load();
   istasyon.host.showModal(preview);
+  return istasyon.OnizlemeSonucu == printAsked;
 }
 
 }  // namespace
@@ -36,10 +38,12 @@ void sayfalariYazdir(shell::Station& istasyon, const std::string& title, const p
 }
 
 bool sayfalariGoster(shell::Station& istasyon, page::Pages pages) {
-  istasyon.OnizlemeSonucu.clear();
-  pages.pages.size() > 1 ? show<FrmPreview1>(istasyon, std::move(pages))
-                         : show<FrmPrewive>(istasyon, std::move(pages));
-  return istasyon.OnizlemeSonucu == printAsked;
+  return pages.pages.size() > 1 ? show<FrmPreview1>(istasyon, std::move(pages))
+                                : show<FrmPrewive>(istasyon, std::move(pages));
+}
+
+bool sihirbazSayfalariGoster(shell::Station& istasyon, page::Pages pages) {
+  return show<FrmPreview1>(istasyon, std::move(pages));
 }
 
 }  // namespace documents

@@ -17,5 +17,7 @@ void sayfalariYazdir(shell::Station& istasyon, const std::string& title, const p
 // Shows the pages: a single one in frmprewive, several in frmpreview1. True when the user asked for
 // printing there.
 [[nodiscard]] bool sayfalariGoster(shell::Station& istasyon, page::Pages pages);
+// The same for the pages of a wizard, which are shown in frmpreview1 however few they are.
+[[nodiscard]] bool sihirbazSayfalariGoster(shell::Station& istasyon, page::Pages pages);
 
 }  // namespace documents

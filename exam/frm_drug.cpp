@@ -3,13 +3,19 @@
 #include <algorithm>
 #include <array>
 
+#include "documents/frm_wizard_drug.h"
 #include "platform/dao/prefix_search.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/text_lookup.h"
 
 namespace exam {
+
+namespace {
+constexpr const char* letterheadNameAndDate = "3";
+}
 
 std::string kabulEdilen(std::string_view prescription) {
   constexpr std::string_view dropped = "\n  ";
@@ -23,7 +29,9 @@ std::string kabulEdilen(std::string_view prescription) {
 
 FrmDrug::FrmDrug(Station& station) : NamedRecordScreen(station, "frmdrug", "txteskiilaç") {
   sırano.setVisible(false);
+  baski.lblsablonno.setCaption(letterheadNameAndDate);
   tusGrubu({"New", "Save", "Delete"});
+  tusGrubu({"Print", "sihirbaz"});
   tbToolBar.addButton("Exit", "Exit");
   alanlariBagla();
   txtilaç.KeyUp.connect([this](forms::Key key) { isimYazildi(key); });
@@ -31,6 +39,8 @@ FrmDrug::FrmDrug(Station& station) : NamedRecordScreen(station, "frmdrug", "txte
   Lstilaç.Click.connect([this] { ilacSecildi(); });
   Lstilaç.DblClick.connect([this] { buttasi.press(); });
   buttasi.Click.connect([this] { Reçeteyeilaçekle(); });
+  txtrecete.Change.connect([this] { receteDegisti(); });
+  mnusihirbaz.Click.connect([this] { sihirbazAc(); });
   buttamam.Click.connect([this] { kabul(); });
   Butİptal.Click.connect([this] { istasyon.host.close(*this); });
 }
@@ -49,6 +59,7 @@ std::span<const shell::FieldRow> FrmDrug::alanlar() const {
 void FrmDrug::Load() {
   alanGenislikleri(istasyon.stores.clinical.database, "drug");
   NamedRecordScreen::Load();
+  tbToolBar.setButtonToolTip("sihirbaz", phrase(istasyon, shell::Phrase::PrintWizard));
   lblisim.setCaption(sisim(istasyon.SeciliHasta));
   sırano.setCaption("0");
   İlaçlistele();
@@ -145,6 +156,37 @@ void FrmDrug::Reçeteyeilaçekle() {
   txtrecete.setText(prescription + (prescription.empty() ? "" : "\n") + sırano.caption() + " - " +
                     name + "   " + text::trim(txtadet.text()) +
                     "\n    S: " + text::trim(txtkullanım.text()));
+}
+
+bool FrmDrug::tusBas(std::string_view key) {
+  if (key == "sihirbaz") return mnusihirbaz.press(), true;
+  return NamedRecordScreen::tusBas(key);
+}
+
+// What is printed is the prescription, whichever drug is on the screen.
+void FrmDrug::yeniEtkin(bool enabled) {
+  NamedRecordScreen::yeniEtkin(enabled);
+  receteDegisti();
+}
+
+void FrmDrug::receteDegisti() {
+  const bool composed = !txtrecete.text().empty();
+  mnuonizleme.setEnabled(composed);
+  etkinlestir(mnuyazdır, "Print", composed);
+  etkinlestir(mnusihirbaz, "sihirbaz", composed);
+}
+
+void FrmDrug::Yazılar(documents::ReportText& yazı) {
+  yazı.secyazitipi();
+  yazı.yaz(lblRp.caption() + "\n\n");
+  yazı.yazitipiayarla();
+  yazı.yaz(txtrecete.text());
+}
+
+void FrmDrug::sihirbazAc() {
+  istasyon.ekranAc("frmwizarddrug", mnusihirbaz.caption(), [this](forms::Form& form) {
+    dynamic_cast<documents::FrmWizardDrug&>(form).receteAl(txtrecete.text());
+  });
 }
 
 void FrmDrug::kabul() {

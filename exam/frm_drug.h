@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "documents/print_menu.h"
 #include "platform/forms/button.h"
 #include "platform/forms/label.h"
 #include "platform/forms/list_control.h"
@@ -22,9 +23,14 @@ using shell::Station;
 // together with them, so that each drug ends up on a line of its own.
 [[nodiscard]] std::string kabulEdilen(std::string_view prescription);
 
-class FrmDrug : public shell::NamedRecordScreen {
+class FrmDrug : public shell::NamedRecordScreen, public documents::PrintedRecord {
+  static constexpr int noRecord = 0;
+
  public:
   explicit FrmDrug(Station& istasyon);
+
+  forms::MenuItem MnuReçete{*this, "MnuReçete"};
+  forms::MenuItem mnusihirbaz{MnuReçete, "mnusihirbaz"};
 
   forms::ListBox Lstilaç{*this, "Lstilaç"};
   forms::TextBox txtilaç{*this, "txtilaç"};
@@ -53,12 +59,26 @@ class FrmDrug : public shell::NamedRecordScreen {
   // Adds the drug on the screen to the prescription, after a question when it is on it already.
   void Reçeteyeilaçekle();
 
+  // The prescription on paper: heading, text, patient. It has no settings record: its template and
+  // signature are chosen anew each time.
+  documents::PrintMenu baski{istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, noRecord};
+  void receteyazdir() { baski.oniz(); }
+  void Yazılar(documents::ReportText& yazı) override;
+  [[nodiscard]] std::string basilanIsim() const override { return lblisim.caption(); }
+  [[nodiscard]] std::string basilanTarih() const override {
+    return text::shortDate(istasyon.clock.today());
+  }
+  // Opens the print wizard with the prescription that is composed so far.
+  void sihirbazAc();
+
  protected:
   [[nodiscard]] forms::TextControl& isimAlani() override { return txtilaç; }
   [[nodiscard]] dao::Database& veritabani() override { return istasyon.stores.clinical.database; }
   void listeDegisti() override { İlaçlistele(); }
   void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
   [[nodiscard]] bool temizlenebilir() override;
+  void yeniEtkin(bool enabled) override;
+  bool tusBas(std::string_view key) override;
   [[nodiscard]] std::string ayarAdi() const override { return "Drug"; }
 
  private:
@@ -69,6 +89,7 @@ class FrmDrug : public shell::NamedRecordScreen {
   [[nodiscard]] bool yalnizIsim() const;
   [[nodiscard]] std::string katlanmis(std::string_view name) const;
   void kabul();
+  void receteDegisti();
 
   std::vector<std::string> katlanmis_;  // the names of the list, folded for the search
   bool aramada_ = false;                // the list follows what is typed: nothing is chosen

@@ -19,8 +19,8 @@
 #include "search/card_line.h"
 #include "search/card_scan.h"
 #include "search/find_filters.h"
-#include "search/slices.h"
 #include "shell/font_record.h"
+#include "shell/slices.h"
 #include "shell/station.h"
 
 namespace search {
@@ -170,12 +170,11 @@ class FrmFind : public forms::Form, public documents::PrintedPages {
   void soyle(const std::string& why);
   // Whether there is such a card; kartlar_ stands on it then.
   [[nodiscard]] dao::Result<bool> kartiBul(std::string_view name);
-  [[nodiscard]] bool gizliMi(std::string_view key) const;
   [[nodiscard]] bool adresiVar();
 
   std::vector<std::string>* adresler_;  // the list of the caller that picks addresses
   dao::Recordset kartlar_;
-  Slices is_;
+  shell::Slices is_;
   // The rows of a slice; the memory of those before is used again.
   std::vector<forms::ListView::Row> satirlar_;
   std::size_t yeni_ = 0;

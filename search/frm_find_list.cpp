@@ -35,7 +35,7 @@ void FrmFind::TümListe() {
 CardScan FrmFind::tarama(Filters filters, dao::Fold fold, std::span<const std::string_view> wanted,
                          Found found) {
   CardScan scan(istasyon.stores.personal.database, wanted,
-                {[this](std::string_view key) { return gizliMi(key); }, std::move(found)});
+                {[this](std::string_view key) { return istasyon.gizliMi(key); }, std::move(found)});
   for (const FilterRow& row : filterRows()) {
     forms::TextControl& control = row.control(*this);
     if (filters == Filters::Applied && !control.text().empty())
@@ -66,7 +66,8 @@ void FrmFind::SonuçlarıListele() {
         const std::string& name = ListFiltre.items()[(*next)++].text;
         const auto found = kartiBul(name);
         if (!found) return std::unexpected(found.error());
-        if (*found && !gizliMi(kartlar_.Fields("Key").view())) line.write(kartlar_, yeniSatir());
+        if (*found && !istasyon.gizliMi(kartlar_.Fields("Key").view()))
+          line.write(kartlar_, yeniSatir());
         return false;
       },
       [this, next] {
@@ -89,7 +90,7 @@ void FrmFind::dilimle(std::function<dao::Result<bool>()> step, std::function<voi
                       std::function<void()> end) {
   dilim_ = 0;
   is_.start([this, step = std::move(step), sliceEnd = std::move(sliceEnd), end = std::move(end)] {
-    const Deadline deadline(dilimSuresi);
+    const shell::Deadline deadline(dilimSuresi);
     dao::Result<bool> done = false;
     do done = step();
     while (done && !*done && !deadline.passed());
@@ -203,11 +204,6 @@ dao::Result<bool> FrmFind::kartiBul(std::string_view name) {
   const dao::Status sought = kartlar_.Seek("=", name);
   if (!sought) return std::unexpected(sought);
   return !kartlar_.NoMatch();
-}
-
-// Without a card to ask, every mark hides.
-bool FrmFind::gizliMi(std::string_view key) const {
-  return !key.empty() && (istasyon.kart == nullptr || istasyon.kart->gizliMi(key));
 }
 
 bool FrmFind::adresiVar() {

@@ -31,7 +31,7 @@ void FrmFind::hepsiniDiz(ResultPages& pages) {
 void FrmFind::dilimDilimDiz(ResultPages& pages) {
   const auto slice = [&]() -> std::optional<std::int64_t> {
     if (pages.done()) return std::nullopt;
-    const Deadline deadline(dilimSuresi);
+    const shell::Deadline deadline(dilimSuresi);
     do pages.step();
     while (!pages.done() && !deadline.passed());
     return static_cast<std::int64_t>(pages.row());

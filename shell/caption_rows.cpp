@@ -186,7 +186,18 @@ constexpr std::array examRows{
 constexpr std::array drugRows{
     CaptionRow{"frmdrug", "ilac", Window}, CaptionRow{"Lstilaç", "ilac"},
     CaptionRow{"buttasi", "Ekle"},         CaptionRow{"lblRp", "recete"},
-    CaptionRow{"txtrecete", "recete"},
+    CaptionRow{"txtrecete", "recete"},     CaptionRow{"MnuReçete", "recete", Menu},
+};
+
+constexpr std::array wizardRows{
+    CaptionRow{"imgisim", "isim", Plain, "frmwizarddrug"},
+    CaptionRow{"imgtarih", "Tarih", Plain, "frmwizarddrug"},
+    CaptionRow{"ImgMektup", "recete", Plain, "frmwizarddrug"},
+    CaptionRow{"piconiz", "onizleme"},
+    CaptionRow{"txtisim", "isim", Plain, "frmwizarddrug"},
+    CaptionRow{"butonizleme", "onizleme"},
+    CaptionRow{"ButYazdır", "yazdir"},
+    CaptionRow{"butcik", "cik"},
 };
 
 constexpr std::array findRows{
@@ -260,7 +271,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   return all;
 }
 constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows,
-                                findRows, laboratoryRows, pictureRows, messageRows);
+                                wizardRows, findRows, laboratoryRows, pictureRows, messageRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -355,6 +366,11 @@ constexpr std::array phrases{
     PhraseRow{"Drive1", Phrase::Place},
     PhraseRow{"Dir1", Phrase::FoldersInIt},
     PhraseRow{"Lsonbaslik", Phrase::LastBackup},
+    PhraseRow{"mnusihirbaz", Phrase::PrintWizard},
+    PhraseRow{"GrdÖzellik", Phrase::PageItems},
+    PhraseRow{"TxtGrid", Phrase::PageItems},
+    PhraseRow{"LstGörüntüle", Phrase::PrintedItems},
+    PhraseRow{"LstTüm", Phrase::Patients},
 };
 
 }  // namespace

@@ -9,7 +9,8 @@ namespace shell {
 // The record numbers, one per screen or family of screens.
 namespace font_record {
 inline constexpr int card = 1;
-inline constexpr int examination = 9;  // and the radiology report
+inline constexpr int prescription = card;  // its layout lies beside the card's font
+inline constexpr int examination = 9;      // and the radiology report
 inline constexpr int laboratory = 19;
 inline constexpr int find = 23;
 inline constexpr int signature = 22;

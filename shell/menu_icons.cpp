@@ -10,7 +10,7 @@ namespace shell {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 24> icons{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 25> icons{{
     {"mnuyeni", "New"},
     {"mnukaydet", "Save"},
     {"mnusil", "Delete"},
@@ -35,6 +35,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 24> icons{{
     {"mnumesajal", "al"},
     {"mnutümmesajlarısil", "Delete"},
     {"mnuayar", "ayar"},
+    {"mnusihirbaz", "sihirbaz"},
 }};
 
 }  // namespace

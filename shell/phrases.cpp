@@ -133,6 +133,10 @@ constexpr auto phraseRows = std::to_array<Row>({
      "Bir dosya, adının gösterdiği dosya değil."},
     {Phrase::FileInUse, "A file is in use; please try again.",
      "Bir dosya kullanılıyor; yeniden deneyin."},
+    {Phrase::PrintWizard, "Print wizard", "Yazdırma sihirbazı"},
+    {Phrase::PageItems, "Layout of the page", "Sayfa düzeni"},
+    {Phrase::PrintedItems, "Printed", "Yazdırılacaklar"},
+    {Phrase::Patients, "Patients", "Hastalar"},
 });
 
 }  // namespace

@@ -92,7 +92,11 @@ enum class Phrase {
   NotWritable,
   FileDamaged,
   OtherFile,
-  FileInUse
+  FileInUse,
+  PrintWizard,
+  PageItems,     // and their properties
+  PrintedItems,  // of a page
+  Patients
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -102,7 +102,7 @@ class RecordScreen : public forms::Form {
   // Enables or disables a menu entry and the toolbar button that mirrors it.
   void etkinlestir(forms::MenuItem& entry, std::string_view button, bool enabled);
   // New, and what follows it: there is something on the screen to preview and print.
-  void yeniEtkin(bool enabled);
+  virtual void yeniEtkin(bool enabled);
   // Presses the entry that a toolbar button stands for; false for a button of the screen's own.
   virtual bool tusBas(std::string_view key);
 

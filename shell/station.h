@@ -83,6 +83,11 @@ struct Station {
     return UygYolu + std::string(relative);
   }
 
+  // Whether a card with that key mark is not to be shown. Without a card to ask, every mark hides.
+  [[nodiscard]] bool gizliMi(std::string_view key) const {
+    return !key.empty() && (kart == nullptr || kart->gizliMi(key));
+  }
+
   // A message box under the main window's caption.
   host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon);
   [[nodiscard]] bool evetMi(std::string_view question);

@@ -12,6 +12,7 @@
 #include "platform/richtext/rtf_writer.h"
 #include "shell/letterhead.h"
 #include "stores/value_list.h"
+#include "tools/drug_catalogue.h"
 #include "tools/exam_maker.h"
 #include "tools/lab_maker.h"
 #include "tools/message_maker.h"
@@ -124,6 +125,7 @@ class Filler {
   Status addCatalogues() {
     if (Status added = addDoctors(); !added) return added;
     if (Status added = addTests(); !added) return added;
+    if (Status added = addDrugs(); !added) return added;
     return addListValues();
   }
 
@@ -143,6 +145,17 @@ class Filler {
                       {"Max", test.max},
                       {"Information", test.information}};
       if (Status added = addRow(stores_.clinical.Tests, card); !added) return added;
+    }
+    return {};
+  }
+
+  Status addDrugs() {
+    for (const CatalogueDrug& drug : catalogueDrugs()) {
+      const Card card{{"Drog", drug.name},
+                      {"Dosage", drug.dosage},
+                      {"number", drug.number},
+                      {"Prospectus", drug.insert}};
+      if (Status added = addRow(stores_.clinical.drug, card); !added) return added;
     }
     return {};
   }

@@ -21,6 +21,7 @@ void showCurrent(QAbstractItemView& view, int row) {
   const QSignalBlocker quiet(view.selectionModel());
   if (index.isValid()) {
     view.setCurrentIndex(index);
+    view.scrollTo(index);
   } else {
     view.selectionModel()->clear();
   }

@@ -8,10 +8,9 @@ namespace files {
 namespace {
 
 constexpr TextField<SettingRecord> texts[] = {
-    {&SettingRecord::owner, 0, 30},
-    {&SettingRecord::colour, 70, 50},
-    {&SettingRecord::fontName, 120, 50},
-    {&SettingRecord::signature, 170, 50},
+    {&SettingRecord::owner, 0, 30},      {&SettingRecord::colour, 70, 50},
+    {&SettingRecord::fontName, 120, 50}, {&SettingRecord::signature, 170, 50},
+    {&SettingRecord::text1, 220, 50},    {&SettingRecord::text2, 270, 50},
 };
 
 constexpr std::size_t numbersOffset = 30;

@@ -13,7 +13,7 @@ struct SettingRecord {
   static constexpr std::size_t length = 320;
 
   std::string owner;                       // the form that wrote it last; 30 bytes
-  std::array<std::int16_t, 14> numbers{};  // percentages of the invoice, else zero
+  std::array<std::int16_t, 14> numbers{};  // percentages of the invoice, places of a layout
   std::int16_t templateNumber = 0;
   std::int16_t fontSize = 0;  // points
   bool bold = false;
@@ -23,6 +23,8 @@ struct SettingRecord {
   std::string colour;  // decimal text; 50 bytes, as the texts that follow
   std::string fontName;
   std::string signature;  // of the screen's template
+  std::string text1;      // carried along, except by layouts of pages
+  std::string text2;
 
   // A buffer of another length reads as if filled with zeros, or cut.
   static SettingRecord decode(RecordBuffer buffer);

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "documents/frm_prewive.h"
+#include "documents/frm_wizard_drug.h"
 #include "exam/frm_drug.h"
 #include "tests/shell/record_fixture.h"
+#include "tests/support/scripted_printer.h"
 
 namespace {
 
@@ -96,6 +99,59 @@ TEST_F(Drug, AnotherDrugAsksBeforeChangesAreLost) {
   EXPECT_EQ(screen.txtilaç.text(), "Parol");
   screen.Lstilaç.setListIndex(0);
   EXPECT_EQ(screen.txtkullanım.text(), "1x2");
+}
+
+TEST_F(Drug, ThePrescriptionIsPrintedWhicheverDrugIsOnTheScreen) {
+  const auto printable = [&] {
+    EXPECT_EQ(screen.mnuonizleme.enabled(), screen.mnusihirbaz.enabled());
+    EXPECT_EQ(screen.mnuyazdır.enabled(), screen.tbToolBar.button("Print")->enabled);
+    EXPECT_EQ(screen.mnuyazdır.enabled(), screen.mnuonizleme.enabled());
+    return screen.mnuonizleme.enabled();
+  };
+  EXPECT_TRUE(screen.mnuşablon.visible() && screen.mnuonizleme.visible());
+  EXPECT_FALSE(printable());
+  add("Parol", "3x1", "1");
+  EXPECT_FALSE(printable());
+  screen.Lstilaç.setListIndex(0);
+  EXPECT_FALSE(printable());
+  screen.buttasi.press();
+  EXPECT_TRUE(printable());
+  screen.mnuyeni.press();
+  EXPECT_TRUE(printable());
+  screen.txtrecete.setText("");
+  EXPECT_FALSE(printable());
+}
+
+TEST_F(Drug, ThePreviewHasHeadingPatientAndPrescription) {
+  support::ScriptedPrinter printer;
+  desk.station.yazici = &printer;
+  screen.lblisim.setCaption("Ayşe Yıldız");
+  screen.txtrecete.setText("1 - Parol   1\n    S: 3x1");
+  std::vector<std::string> seen;
+  desk.host.modal["frmprewive"] = [&](forms::Form& form) {
+    seen = support::texts(*dynamic_cast<documents::FrmPrewive&>(form).picgor.page());
+  };
+  screen.receteyazdir();
+  EXPECT_EQ(seen, (std::vector<std::string>{"567,2100 İsim: Ayşe Yıldız", "7000,2100 22.11.2026",
+                                            "567,3180 Reçete", "567,3660 1 - Parol   1",
+                                            "567,3900     S: 3x1"}));
+}
+
+TEST_F(Drug, TheWizardGetsThePrescriptionComposedSoFar) {
+  support::ScriptedPrinter printer;
+  desk.station.yazici = &printer;
+  desk.screens.add("frmwizarddrug", [](shell::Station& station) {
+    return std::make_unique<documents::FrmWizardDrug>(station);
+  });
+  screen.txtrecete.setText("1 - Parol   1");
+  std::vector<std::string> seen;
+  desk.host.modal["frmwizarddrug"] = [&](forms::Form& form) {
+    seen = support::texts(dynamic_cast<documents::FrmWizardDrug&>(form).ImgMektup.drawing());
+    form.Unload();
+  };
+  screen.tbToolBar.press("sihirbaz");
+  EXPECT_EQ(seen, (std::vector<std::string>{"0,0 1 - Parol   1"}));
+  EXPECT_EQ(desk.station.AktarilanMetin, "");
 }
 
 }  // namespace

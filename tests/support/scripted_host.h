@@ -38,6 +38,7 @@ class ScriptedHost : public host::Host {
   std::deque<std::string> inputs;
   std::deque<std::optional<std::string>> files;
   std::deque<std::optional<std::string>> folders;
+  std::deque<forms::Font> fonts;  // none left: the user cancels
   std::map<std::string, Size, std::less<>> pictures;
   // What a modal form goes through while it is shown, by the form's name.
   std::map<std::string, std::function<void(forms::Form&)>, std::less<>> modal;
@@ -79,7 +80,12 @@ class ScriptedHost : public host::Host {
   std::optional<std::string> chooseFolder(std::string_view title, std::string_view) override {
     return take(folders, title);
   }
-  std::optional<forms::Font> chooseFont(const forms::Font&) override { return std::nullopt; }
+  std::optional<forms::Font> chooseFont(const forms::Font&) override {
+    if (fonts.empty()) return std::nullopt;
+    forms::Font chosen = std::move(fonts.front());
+    fonts.pop_front();
+    return chosen;
+  }
   std::optional<forms::Colour> chooseColour(forms::Colour) override { return std::nullopt; }
   void show(forms::Form& form) override { shown.push_back(form.name()); }
   void showModal(forms::Form& form) override {

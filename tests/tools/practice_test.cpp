@@ -209,6 +209,18 @@ TEST_F(PracticeTest, TheLedgerIsTheOneThatTheRecordsGive) {
   EXPECT_EQ(rowsOf(shared_->stores.clinical.Visit), before);
 }
 
+TEST_F(PracticeTest, EveryDrugCanBePrescribed) {
+  dao::Recordset& drugs = shared_->stores.clinical.drug;
+  EXPECT_GE(drugs.RecordCount(), 150);
+  for (drugs.MoveFirst().ignore(); !drugs.Eof(); drugs.MoveNext().ignore()) {
+    for (const char* column : {"Drog", "Dosage", "number", "Prospectus"}) {
+      const std::string text = drugs.Fields(column).text();
+      EXPECT_FALSE(text.empty()) << drugs.Fields("Drog").text() << ": " << column;
+      EXPECT_EQ(text::trim(text), text);
+    }
+  }
+}
+
 TEST_F(PracticeTest, HasALetterhead) {
   std::ifstream file(shared_->folder / shell::letterhead::text, std::ios::binary);
   const std::string bytes{std::istreambuf_iterator<char>(file), {}};

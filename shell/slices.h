@@ -7,7 +7,7 @@
 
 #include "platform/host/host.h"
 
-namespace search {
+namespace shell {
 
 // When a slice has worked long enough.
 class Deadline {
@@ -39,4 +39,4 @@ class Slices {
   std::shared_ptr<Slice> work_;
 };
 
-}  // namespace search
+}  // namespace shell

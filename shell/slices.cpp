@@ -1,8 +1,8 @@
-#include "search/slices.h"
+#include "shell/slices.h"
 
 #include <utility>
 
-namespace search {
+namespace shell {
 
 void Slices::start(Slice slice) {
   work_ = std::make_shared<Slice>(std::move(slice));
@@ -19,4 +19,4 @@ void Slices::run(const std::shared_ptr<Slice>& work) {
   });
 }
 
-}  // namespace search
+}  // namespace shell

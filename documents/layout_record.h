@@ -1,0 +1,17 @@
+// A layout in a record of Data/setting.dat: the places among its numbers, which items are printed
+// in its template number, the fonts of up to three texts in its text fields. The record's owner and
+// its own font are nobody's business here, so that a layout can lie in the record of another
+// screen.
+#pragma once
+
+#include "documents/page_layout.h"
+#include "platform/files/setting_record.h"
+
+namespace documents {
+
+// A record in which no layout was ever written leaves the layout as it is; so does, for its item, a
+// font that cannot be read.
+void yerlesimOku(PageLayout& layout, const files::SettingRecord& record);
+void yerlesimYaz(const PageLayout& layout, files::SettingRecord& record);
+
+}  // namespace documents
