@@ -1,7 +1,7 @@
-// A layout in a record of Data/setting.dat: the places among its numbers, which items are printed
-// in its template number, the fonts of up to three texts in its text fields. The record's owner and
-// its own font are nobody's business here, so that a layout can lie in the record of another
-// screen.
+// A layout in a record of Data/setting.dat: its numbers hold the places of up to six items and,
+// last, which of them are printed; its two spare text fields hold the fonts. The record's owner,
+// font, template and signature are nobody's business here, so that a layout can lie in the record
+// of another screen.
 #pragma once
 
 #include "documents/page_layout.h"

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <tuple>
+
 #include "documents/layout_pages.h"
 #include "documents/layout_record.h"
 #include "tests/support/scripted_printer.h"
@@ -85,6 +89,33 @@ TEST(LayoutRecord, KeepsPlacesFontsAndWhatIsPrinted) {
   EXPECT_EQ(read, laid);
 }
 
+TEST(LayoutRecord, LeavesTheScreenOfTheRecordItsOwn) {
+  files::SettingRecord record;
+  record.owner = "FrmMain";
+  record.templateNumber = 9;
+  record.signature = "Saygılarımla";
+  record.fontName = "Arial";
+  const files::SettingRecord before = record;
+  documents::yerlesimYaz(prescription(), record);
+  EXPECT_EQ(std::tie(record.owner, record.templateNumber, record.signature, record.fontName),
+            std::tie(before.owner, before.templateNumber, before.signature, before.fontName));
+}
+
+TEST(LayoutRecord, FontsShareTheRoomWhereverItsFieldsMeet) {
+  for (int letters = 1; letters < 25; ++letters) {
+    PageLayout laid = prescription();
+    const std::string name = std::string(static_cast<std::size_t>(letters), 'x') + " Sans";
+    laid.setFont(2, {.name = name, .size = 9});
+    laid.setFont(3, {.name = "Times New Roman", .size = 10});
+    laid.setFont(4, {.name = "DejaVu Sans", .size = 11});
+    files::SettingRecord record;
+    documents::yerlesimYaz(laid, record);
+    PageLayout read = prescription();
+    documents::yerlesimOku(read, stored(record));
+    EXPECT_EQ(read, laid) << letters;
+  }
+}
+
 TEST(LayoutRecord, IsKeptEvenWhenNothingIsPrinted) {
   PageLayout laid = prescription();
   for (std::size_t i = 0; i < laid.items().size(); ++i) laid.setShown(i, false);
@@ -100,7 +131,7 @@ TEST(LayoutRecord, LeavesTheUsualLayoutWhereNoneWasWritten) {
   record.owner = "FrmMain";
   record.signature = "Saygılarımla";
   for (const int mark : {0, 7, -1}) {
-    record.templateNumber = static_cast<std::int16_t>(mark);
+    record.numbers.back() = static_cast<std::int16_t>(mark);
     PageLayout read = prescription();
     documents::yerlesimOku(read, record);
     EXPECT_EQ(read, prescription()) << mark;
@@ -110,9 +141,10 @@ TEST(LayoutRecord, LeavesTheUsualLayoutWhereNoneWasWritten) {
 TEST(LayoutRecord, NumbersOffTheSheetComeBackAndADamagedFontIsPassedOver) {
   files::SettingRecord record;
   documents::yerlesimYaz(prescription(), record);
-  record.numbers = {-5, -32768, 32767, 32767};
+  std::ranges::copy(std::array<std::int16_t, 4>{-5, -32768, 32767, 32767}, record.numbers.begin());
   for (const char* broken : {"", "x;b;0;Arial", "12;b;-1;Arial", "-4;;0;", "99999;;0;Arial"}) {
-    record.signature = broken;
+    record.text1 = broken;
+    record.text2.clear();
     PageLayout read = prescription();
     documents::yerlesimOku(read, stored(record));
     EXPECT_EQ(read.items()[0].left, 0);
