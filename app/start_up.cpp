@@ -79,6 +79,7 @@ Session::Outcome Session::start() {
   main_.Load();
   istasyon_.host.pause(splashMilliseconds);
   istasyon_.host.close(logo);
+  if (!main_.acildi()) return Outcome::Refused;
   if (!openingPassword()) {
     main_.Unload();
     return Outcome::Refused;

@@ -23,7 +23,7 @@ constexpr unsigned ticksPerDayList = 200;
 constexpr int defaultWidth = 1240;
 constexpr int defaultHeight = 780;
 constexpr auto windowName = "Main";
-constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Lresim"};
+constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Lresim", "Netsıra"};
 
 }  // namespace
 
@@ -58,13 +58,12 @@ std::span<const shell::FieldRow> FrmMain::alanlar() const {
 void FrmMain::Load() {
   shell::bransmenusu(istasyon, *this);
   klasorleriAc();
-  const dao::Status opened = stores::OpenStores(istasyon.stores);
-  if (!opened)
-    istasyon.host.runtimeError(
-        {opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
-  alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+  acildi_ = netAc();
+  if (!acildi_) return;
+  depolariAc();
   basliklariYenile();
   Listeleriyaz();
+  netacilis();
   alanlaribosalt();
   Eskialanmain();
   shell::Setkayitlarioku(istasyon, *this, shell::font_record::card);
@@ -73,14 +72,26 @@ void FrmMain::Load() {
   ayarlarioku();
   isimleriAc(false);
   tbToolBar.setButtonEnabled("muayene", false);
-  const bool anyone = !istasyon.stores.personal.IDCard.empty();
-  yonEtkin(Direction::Back, anyone);
-  yonEtkin(Direction::Forward, anyone);
+  yonleriAc();
   istasyon.settings.set(shell::applicationName, istasyon.BransAdi, "Path", istasyon.UygYolu)
       .ignore();
   shell::menuikon(*this);
   sbDurum.setPanel(6, istasyon.UygYolu);
   Txtİsim.setFocus();
+}
+
+void FrmMain::depolariAc() {
+  const dao::Status opened = stores::OpenStores(istasyon.stores);
+  if (!opened)
+    istasyon.host.runtimeError(
+        {opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
+  alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+}
+
+void FrmMain::yonleriAc() {
+  const bool anyone = !istasyon.stores.personal.IDCard.empty();
+  yonEtkin(Direction::Back, anyone);
+  yonEtkin(Direction::Forward, anyone);
 }
 
 void FrmMain::Activate() {
@@ -93,6 +104,7 @@ void FrmMain::Unload() {
   alanlaribosalt();
   ayarlariyaz();
   shell::setkayityaz(istasyon, *this, shell::font_record::card).ignore();
+  netkapanis();
 }
 
 // Folders that cannot be made are met again, with a message, by the first file that is wanted in

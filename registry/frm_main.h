@@ -78,6 +78,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
   forms::MenuItem çizgi9{MnuSecenek, "çizgi9", forms::MenuKind::Separator};
+  forms::MenuItem mnudosyabakimi{MnuSecenek, "mnudosyabakimi"};
   forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
   forms::MenuItem mnugebekart{MnuSecenek, "mnugebekart"};
 
@@ -162,6 +163,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::TextBox txtkey{*this, "txtkey"};            // "¬" hides the patient
   forms::Label idk{*this, "idk"};                    // the counter of the delayed search
   forms::Label Lresim{*this, "Lresim"};              // the splitter's place, setting CurX
+  forms::Label Netsıra{*this, "Netsıra"};            // this station's slot in the register
 
   // --- The protocol
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
@@ -169,7 +171,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   [[nodiscard]] std::string eskiAnahtar() const override { return TxtEskiİsim.text(); }
   [[nodiscard]] std::string& yedek() override { return istasyon.KartYedegi; }
 
+  // Leaves everything closed when another station cares for the files and the user does not wait.
   void Load() override;
+  [[nodiscard]] bool acildi() const { return acildi_; }
   void Activate() override;
   [[nodiscard]] bool QueryUnload() override { return kayitkontrol(); }
   void Unload() override;
@@ -211,6 +215,9 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   // Adds a card for every name of the Pregnancy table that has none.
   void Command1();
 
+  // The run of maintenance over the stores; the screen goes on with those that it leaves.
+  void dosyabakimi();
+
   // Fits the photograph into its panel.
   void ResimBoyutla();
 
@@ -220,6 +227,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
  private:
   enum class Direction { Back, Forward };
   enum class NameCheck { Kept, OtherPatientLoaded };
+  enum class Taken { Ours, Missing, Elsewhere };
 
   void menuleriBagla();
   void araclariKur();
@@ -229,6 +237,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   bool tusBas(std::string_view key) override;
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);
+  bool ilkAcilan(Direction direction, bool found);
 
   // Ends what was typed into the name field: the case of a listed name, then the namesake question.
   NameCheck isimBitti();
@@ -237,7 +246,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
-  void hastayiGoster(const std::string& name);
+  bool hastayiGoster(const std::string& name);
   void saatVurusu();
   void digerleriniGor();
   void isimYazildi();
@@ -257,6 +266,20 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   [[nodiscard]] bool gizliHasta(const std::string& name);
   void gunuTazele();
 
+  // The register of stations: held from before the stores open until the window is gone.
+  [[nodiscard]] bool netAc();
+  void netacilis();
+  void netkapanis();
+  void yalnizAcildi(bool alone);
+  void yerAl();
+  bool netSay(int stations);
+  void netDurumu();
+  // Looks Station::SeciliHasta up and takes the patient for this station.
+  [[nodiscard]] Taken hastayiTut();
+  // Shows the card that was looked up.
+  void hastayiYukle();
+  [[nodiscard]] dao::Status tutarakYaz();
+
   [[nodiscard]] dao::Status kartiYenile(const std::string& name);
   [[nodiscard]] bool dogumSaklanir();
 
@@ -275,6 +298,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void fotoSec();
 
   void klasorleriAc();
+  void depolariAc();
+  void yonleriAc();
   void ayarlarioku();
   void ayarlariyaz();
   void basliklariYenile() override;
@@ -285,6 +310,10 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   // from it under another one.
   bool gizliYuklu_ = false;
   bool ayarlarOkunuyor_ = true;
+  bool acildi_ = false;
+  bool hataliCikis_ = false;    // the last run ended without netkapanis
+  bool sayildi_ = false;        // this run stands in the setting NS
+  platform::Status yalnizlik_;  // why this station has no slot
   NameSearch isimler_;
   // Tasks that were put off look whether the card is still there.
   std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);

@@ -92,6 +92,9 @@ void FrmMain::menuleriBagla() {
   });
   mnugeri.Click.connect([this] { adim(Direction::Back); });
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
+  mnudosyabakimi.Click.connect([this] {
+    if (kayitkontrol()) dosyabakimi();
+  });
   mnutamir.Click.connect([this] { Tamir2(); });
   mnugebekart.Click.connect([this] { Command1(); });
   mnugeri.setShortcut("Ctrl+PgUp");
@@ -182,12 +185,24 @@ void FrmMain::adim(Direction direction) {
   } else {
     found = cards.Seek(back ? "<" : ">", Txtİsim.text()) && !cards.NoMatch();
   }
-  while (found && gizliMi(cards.Fields("Key").text())) {
-    found = (back ? cards.MovePrevious() : cards.MoveNext()) && !cards.Eof() && !cards.Bof();
-  }
-  if (!found) return yonEtkin(direction, false);
-  hastayiGoster(cards.Fields("Name").text());
+  if (!ilkAcilan(direction, found)) return yonEtkin(direction, false);
   yonEtkin(back ? Direction::Forward : Direction::Back, true);
+}
+
+// From the current record on, the first card that may be shown. One that another station has open
+// says so and is passed over.
+bool FrmMain::ilkAcilan(Direction direction, bool found) {
+  dao::Recordset& cards = tablo();
+  const bool back = direction == Direction::Back;
+  for (;;) {
+    while (found && gizliMi(cards.Fields("Key").text())) {
+      found = (back ? cards.MovePrevious() : cards.MoveNext()) && !cards.Eof() && !cards.Bof();
+    }
+    if (!found) return false;
+    const std::string name = cards.Fields("Name").text();
+    if (hastayiGoster(name)) return true;
+    found = cards.Seek(back ? "<" : ">", name) && !cards.NoMatch();
+  }
 }
 
 }  // namespace registry

@@ -66,6 +66,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnulensara", "lensara", Menu},
     CaptionRow{"MnuSecenek", "araclar", Menu},
     CaptionRow{"mnusecenekler", "secenek", Menu},
+    CaptionRow{"mnudosyabakimi", "dosyabakimi", Menu},
     CaptionRow{"MnuYardim", "yardim", Menu},
     CaptionRow{"mnuhakkinda", "hakkinda", Menu},
 };

@@ -79,6 +79,13 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::PicturePathTooLong,
      "The name of the file with its folders is too long. Longest, in characters: ",
      "Dosyanın klasörleriyle birlikte adı çok uzun. En çok karakter: "},
+    {Phrase::StationNumber, "station ", "istasyon "},
+    {Phrase::WithoutRegister,
+     "alone, without a station register: ", "tek başına, istasyon kaydı yok: "},
+    {Phrase::CareElsewhere,
+     "Another station is maintaining the files.\nOK tries again, Cancel leaves the program closed.",
+     "Başka bir istasyonda dosya bakımı yapılıyor.\nTamam yeniden dener, İptal programı kapalı "
+     "bırakır."},
 });
 
 }  // namespace

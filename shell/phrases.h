@@ -61,7 +61,10 @@ enum class Phrase {
   NotAPicture,
   PictureDamaged,
   PictureTooLarge,
-  PicturePathTooLong  // the largest number of characters follows
+  PicturePathTooLong,  // the largest number of characters follows
+  StationNumber,       // a number follows
+  WithoutRegister,     // a reason follows
+  CareElsewhere
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -1,0 +1,5 @@
+#include "shell/file_care.h"
+namespace shell {
+void dosyabakimi(Station&) {}
+void removeLeftovers(Station&) {}
+}  // namespace shell
