@@ -18,6 +18,9 @@
 #include "registry/frm_birthday.h"
 #include "registry/frm_key.h"
 #include "registry/frm_max.h"
+#include "scheduling/frm_ayar.h"
+#include "scheduling/frm_mesajlar.h"
+#include "scheduling/frm_msg_gon.h"
 #include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
@@ -66,6 +69,9 @@ shell::ScreenDirectory screens() {
   add<documents::FrmPreview1>(directory, "frmpreview1");
   add<documents::FrmPrinter>(directory, "frmprinter");
   add<images::FrmPicture>(directory, "frmpicture");
+  add<scheduling::FrmMesajlar>(directory, "frmmesajlar");
+  add<scheduling::FrmMsgGon>(directory, "Frmmsggon");
+  add<scheduling::FrmAyar>(directory, "frmayar");
   return directory;
 }
 

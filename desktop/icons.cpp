@@ -74,6 +74,12 @@ constexpr auto names = std::to_array<IconName>({
     {"efor", "speedometer"},
     {"film", "tool-animator"},
     {"dokum", "view-pages-overview"},
+    {"mesaj", "mail-message"},
+    {"yaz", "mail-message-new"},
+    {"yanit", "mail-reply-sender"},
+    {"al", "mail-receive"},
+    {"sil", "edit-delete"},
+    {"ayar", "configure"},
 });
 
 // Behind the name of an image: the other one, filled, which says that there are records of that

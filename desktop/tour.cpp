@@ -15,6 +15,7 @@
 #include "search/frm_find.h"
 #include "shell/frm_progress.h"
 #include "stores/visit_ledger.h"
+#include "tools/message_maker.h"
 
 namespace desktop {
 
@@ -101,6 +102,7 @@ class Tour {
  private:
   void inLanguage(const char* language) {
     istasyon_.ayarYaz("Language", language);
+    istasyon_.ayarYaz("msg address", tools::messageReader);
     main_.dilDegisti();
     main_.Activate();
     const QString suffix = QLatin1Char('-') + QLatin1String(language);

@@ -6,6 +6,7 @@
 #include "desktop/views/find_view.h"
 #include "desktop/views/generic_view.h"
 #include "desktop/views/laboratory_views.h"
+#include "desktop/views/message_views.h"
 #include "desktop/views/option_view.h"
 #include "desktop/views/photo_view.h"
 #include "desktop/views/picture_view.h"
@@ -47,6 +48,9 @@ ViewRegistry programViews() {
   views.add("frmtestfilter", testFilterView);
   views.add("frmtesttrend", testTrendView);
   views.add("frmpicture", pictureView);
+  views.add("frmmesajlar", messagesView);
+  views.add("Frmmsggon", messageView);
+  views.add("frmayar", messageSettingsView);
   return views;
 }
 

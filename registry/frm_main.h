@@ -61,6 +61,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   forms::MenuItem mnumuayenetarihleri{MnuListeler, "mnumuayenetarihleri"};
   forms::MenuItem mnulensstok{MnuListeler, "mnulensstok"};
   forms::MenuItem mnubekdoğum{MnuListeler, "mnubekdoğum"};
+  forms::MenuItem mnuhesaplar{MnuListeler, "mnuhesaplar"};
 
   forms::MenuItem mnuara{*this, "mnuara"};
   forms::MenuItem mnubul{mnuara, "mnubul"};
@@ -77,6 +78,7 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
 
   forms::MenuItem MnuSecenek{*this, "MnuSecenek"};
   forms::MenuItem mnusecenekler{MnuSecenek, "mnusecenekler"};
+  forms::MenuItem mnumesajlar{MnuSecenek, "mnumesajlar"};
   forms::MenuItem çizgi9{MnuSecenek, "çizgi9", forms::MenuKind::Separator};
   forms::MenuItem mnudosyabakimi{MnuSecenek, "mnudosyabakimi"};
   forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
@@ -256,6 +258,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void listeyiKapat();
   void isimleriAc(bool unlocked);
   void isimSifresi();
+  // The accounts open for whoever knows their password, when one is asked for.
+  void hesaplariAc();
   void gizlileriSec();
 
   void gunuBagla();

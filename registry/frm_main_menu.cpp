@@ -18,7 +18,7 @@ struct EntryScreen {
 };
 
 // The screen behind each entry, by its name in the screen directory.
-constexpr std::array<EntryScreen, 37> entryScreens{{
+constexpr std::array<EntryScreen, 38> entryScreens{{
     {&FrmMain::mnumuayene1, "FrmExam"},
     {&FrmMain::MnuMuayene2, "FrmExam"},
     {&FrmMain::MnuMuayene3, "FrmExam"},
@@ -55,6 +55,7 @@ constexpr std::array<EntryScreen, 37> entryScreens{{
     {&FrmMain::mnuanjiyoara, "frmsearchgen"},
     {&FrmMain::mnulensara, "frmsearchlens"},
     {&FrmMain::mnusecenekler, "FrmOption"},
+    {&FrmMain::mnumesajlar, "frmmesajlar"},
     {&FrmMain::mnuhakkinda, "frmabout"},
 }};
 
@@ -87,6 +88,7 @@ void FrmMain::menuleriBagla() {
     const bool pathology = istasyon.BransNo == shell::brans::pathology;
     ekranAc(mnuraporara, pathology ? "frmsearchpat" : "frmsearchrad");
   });
+  mnuhesaplar.Click.connect([this] { hesaplariAc(); });
   mnuyeni.Click.connect([this] {
     if (kayitkontrol()) Yeni();
   });

@@ -1,6 +1,7 @@
 // The name field: search as you type, the list under it, and the rule that tells namesakes apart.
 #include <algorithm>
 
+#include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "registry/frm_main.h"
 #include "shell/frm_pass.h"
@@ -44,6 +45,13 @@ void FrmMain::isimSifresi() {
   if (!shell::sifreSor(istasyon, shell::password::names)) return;
   istasyon.SifreSonucu = 0;
   isimleriAc(true);
+}
+
+void FrmMain::hesaplariAc() {
+  const bool asked = text::Val(istasyon.ayar("accpas", "0")) != 0;
+  if (asked && !shell::sifreSor(istasyon, shell::password::accounts)) return;
+  istasyon.SifreSonucu = 0;
+  ekranAc(mnuhesaplar, "frmaccount");
 }
 
 // The card carries the mark along: it must not write an old one back.

@@ -54,6 +54,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnumuayenetarihleri", "muayenetarihleri", Menu},
     CaptionRow{"mnulensstok", "lensstok", Menu},
     CaptionRow{"mnubekdoğum", "beklenendogumlar", Menu},
+    CaptionRow{"mnuhesaplar", "hesaplar", Menu},
     CaptionRow{"mnuara", "Ara", Menu},
     CaptionRow{"mnubul", "Bul", Menu},
     CaptionRow{"mnumuayeneara", "muayeneara", Menu},
@@ -219,6 +220,31 @@ constexpr std::array pictureRows{
     CaptionRow{"VSlfoto", "dusey"},
 };
 
+constexpr std::array messageRows{
+    CaptionRow{"mnumesajlar", "Mesaj", Menu},
+    CaptionRow{"mnumesajyaz", "mesajyaz", Menu},
+    CaptionRow{"mnumesajal", "mesajal", Menu},
+    CaptionRow{"mnutümmesajlarısil", "tummesajlarisil", Menu},
+    CaptionRow{"mnuadres", "gonderenisminiyaziniz", Menu},
+    CaptionRow{"mnuayar", "goruntulenecekmesaj", Menu},
+    CaptionRow{"msgrid1", "Mesaj", Plain, "frmmesajlar"},
+    CaptionRow{"txtmesaj", "Mesaj"},
+    CaptionRow{"opttümü", "tummesajlar"},
+    CaptionRow{"optgünlük", "gunlukmesajlar"},
+    CaptionRow{"optokunmamış", "okunmamismesajlar"},
+    CaptionRow{"optyeni", "yenimesajlar"},
+    CaptionRow{"frmayar", "goruntulenecekmesaj", Window},
+    CaptionRow{"opttumu", "tummesajlar"},
+    CaptionRow{"optgunluk", "gunlukmesajlar"},
+    CaptionRow{"optokunmamis", "okunmamismesajlar"},
+    CaptionRow{"Frmmsggon", "mesajyaz", Window},
+    CaptionRow{"ComKimden", "Kimden"},
+    CaptionRow{"ButLKimden", "Kimden"},
+    CaptionRow{"ComKime", "Kime"},
+    CaptionRow{"txtkonu", "Konu"},
+    CaptionRow{"Butgönder", "gonder"},
+};
+
 template <std::size_t... Sizes>
 constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   std::array<CaptionRow, (Sizes + ...)> all{};
@@ -229,7 +255,7 @@ constexpr auto joined(const std::array<CaptionRow, Sizes>&... parts) {
   return all;
 }
 constexpr auto allRows = joined(menuRows, cardRows, optionRows, dialogRows, examRows, drugRows,
-                                findRows, laboratoryRows, pictureRows);
+                                findRows, laboratoryRows, pictureRows, messageRows);
 
 constexpr std::array toolTips{
     KeyedCaption{"New", "Yeni"},
@@ -278,6 +304,10 @@ constexpr std::array toolTips{
     KeyedCaption{"filtre", "testfiltrele"},
     KeyedCaption{"grafik", "Grafik"},
     KeyedCaption{"testler", "testduzenle"},
+    KeyedCaption{"yaz", "mesajyaz"},
+    KeyedCaption{"al", "mesajal"},
+    KeyedCaption{"sil", "Sil"},
+    KeyedCaption{"ayar", "goruntulenecekmesaj"},
 };
 
 constexpr std::array tabs{
@@ -311,6 +341,7 @@ constexpr std::array phrases{
     PhraseRow{"mnusayfaeni", Phrase::FitWidth},
     PhraseRow{"pageno", Phrase::PageNumber},
     PhraseRow{"mnutümü", Phrase::AllResults},
+    PhraseRow{"mnuyanıtla", Phrase::Reply},
 };
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace shell {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 17> icons{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 24> icons{{
     {"mnuyeni", "New"},
     {"mnukaydet", "Save"},
     {"mnusil", "Delete"},
@@ -28,6 +28,13 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 17> icons{{
     {"mnutestfiltrele", "filtre"},
     {"mnugrafik", "grafik"},
     {"mnutestdüzenle", "testler"},
+    {"mnumesajlar", "mesaj"},
+    {"mnuhesaplar", "invoice"},
+    {"mnumesajyaz", "yaz"},
+    {"mnuyanıtla", "yanit"},
+    {"mnumesajal", "al"},
+    {"mnutümmesajlarısil", "Delete"},
+    {"mnuayar", "ayar"},
 }};
 
 }  // namespace

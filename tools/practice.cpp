@@ -14,6 +14,7 @@
 #include "stores/value_list.h"
 #include "tools/exam_maker.h"
 #include "tools/lab_maker.h"
+#include "tools/message_maker.h"
 #include "tools/visit_maker.h"
 #include "tools/word_lists.h"
 
@@ -202,6 +203,7 @@ Status makePractice(const std::string& folder, const PracticeOptions& options,
   if (!stores.personal.IDCard.empty())
     return {dao::Fault::Exists, folder + ": there are patients in this folder already."};
   if (Status filled = Filler(stores, options).fill(progress); !filled) return filled;
+  if (Status written = writeMessages(stores.folder, options.reference); !written) return written;
   return writeLetterhead(stores.folder);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/bind/bind_label.h"
 
+#include <QEvent>
 #include <QSignalBlocker>
 
 #include "desktop/text.h"
@@ -11,6 +12,20 @@ namespace {
 using forms::Aspect;
 
 constexpr int lightFrom = 140;  // brightness from which black is easier to read than white
+
+// Lives as long as the binding.
+class DoubleClicks : public QObject {
+ public:
+  DoubleClicks(QObject& parent, forms::Label& label) : QObject(&parent), label_(label) {}
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonDblClick) label_.DblClick();
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  forms::Label& label_;
+};
 
 void showRange(QScrollBar& bar, const forms::ScrollBar& control) {
   const QSignalBlocker quiet(bar);
@@ -37,10 +52,11 @@ void setBackColour(QWidget& widget, forms::OptionalColour colour) {
 }
 
 void bind(QLabel& label, forms::Label& control) {
-  attach(label, control, Follow::All, [&](Aspect aspect) {
+  Binding& binding = attach(label, control, Follow::All, [&](Aspect aspect) {
     if (aspect == Aspect::Caption) label.setText(withLineBreaks(control.caption()));
     if (aspect == Aspect::Paint) setBackColour(label, control.backColour());
   });
+  label.installEventFilter(new DoubleClicks(binding, control));
 }
 
 void bind(QWidget& widget, forms::Panel& panel, Follow follow) {

@@ -104,6 +104,7 @@ void bind(QPlainTextEdit& edit, forms::TextBox& box) {
   edit.setTabChangesFocus(true);
   Binding& binding = attach(edit, box, Follow::All, [&](Aspect aspect) {
     if (aspect == Aspect::Text) showPlainText(edit, box);
+    if (aspect == Aspect::Enabled) edit.setReadOnly(box.locked());
     if (aspect == Aspect::Selection && edit.hasFocus()) showPlainSelection(edit, box);
   });
   QObject::connect(&edit, &QPlainTextEdit::textChanged, &binding, [&] {

@@ -1,6 +1,7 @@
 #include "platform/files/descriptor.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -37,6 +38,13 @@ Descriptor::~Descriptor() {
 
 void Descriptor::close() {
   if (number_ >= 0) ::close(std::exchange(number_, -1));
+}
+
+bool isNamed(const Descriptor& file, const std::filesystem::path& path) {
+  struct stat held = {};
+  struct stat named = {};
+  if (::fstat(file.number(), &held) != 0 || ::stat(path.c_str(), &named) != 0) return false;
+  return held.st_dev == named.st_dev && held.st_ino == named.st_ino;
 }
 
 namespace {

@@ -26,6 +26,9 @@ class Descriptor {
   int number_ = -1;
 };
 
+// Whether the open file is the one that the path names now; nobody may have deleted or replaced it.
+[[nodiscard]] bool isNamed(const Descriptor& file, const std::filesystem::path& path);
+
 // The fault that an errno value stands for, with a text that names the file.
 [[nodiscard]] platform::Status systemFault(const std::filesystem::path& path, int error);
 

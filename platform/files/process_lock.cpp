@@ -1,7 +1,6 @@
 #include "platform/files/process_lock.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 
 #include <utility>
 
@@ -45,20 +44,13 @@ void ProcessLock::release() {
   (void)requestLock(file_.number(), F_UNLCK, stationByte);
 }
 
-// The last station may delete the file between our opening and locking it; a lock on a file
-// without a name would keep nobody out.
-bool ProcessLock::isReplaced() const {
-  struct stat held = {};
-  struct stat named = {};
-  if (::fstat(file_.number(), &held) != 0 || ::stat(path_.c_str(), &named) != 0) return true;
-  return held.st_dev != named.st_dev || held.st_ino != named.st_ino;
-}
-
 Status ProcessLock::lock(short kind, std::chrono::milliseconds patience) {
   for (;;) {
     const int error = awaitLock(file_.number(), kind, stationByte, patience);
     if (error != 0) return systemFault(path_, error);
-    if (!isReplaced()) return {};
+    // The last station may delete the file between our opening and locking it; a lock on a file
+    // without a name would keep nobody out.
+    if (isNamed(file_, path_)) return {};
     auto file = openOrCreate(path_);
     if (!file) return file.error();
     file_ = std::move(*file);

@@ -29,7 +29,6 @@ class ProcessLock {
 
  private:
   ProcessLock(Descriptor file, std::filesystem::path path);
-  [[nodiscard]] bool isReplaced() const;
   [[nodiscard]] platform::Status lock(short kind, std::chrono::milliseconds patience);
 
   Descriptor file_;

@@ -74,6 +74,10 @@ Status RecordFile::put(long number, const RecordBuffer& buffer) {
   return {};
 }
 
+Status RecordFile::flush() const {
+  return ::fsync(file_.number()) == 0 ? Status{} : systemFault(path_, errno);
+}
+
 Result<long> RecordFile::count() const {
   struct stat state = {};
   if (::fstat(file_.number(), &state) != 0) return std::unexpected(systemFault(path_, errno));

@@ -43,6 +43,11 @@ class RecordFile {
   [[nodiscard]] platform::Result<ScopedRangeLock> lockAll(
       std::chrono::milliseconds patience = lockPatience) const;
 
+  // Brings what was put to the disk.
+  [[nodiscard]] platform::Status flush() const;
+  // Whether the path has become another file, or none, since this one was opened.
+  [[nodiscard]] bool isReplaced() const { return !isNamed(file_, path_); }
+
   void close() { file_.close(); }
 
  private:

@@ -21,6 +21,7 @@ class Label : public Control {
   void setBackColour(OptionalColour colour);
 
   Event<> Change;
+  Event<> DblClick;
 
  protected:
   void captionChanged() override { Change(); }

@@ -28,6 +28,11 @@ void TextControl::setMaxLength(std::size_t characters) {
   notify(Aspect::Range);
 }
 
+void TextControl::setLocked(bool locked) {
+  locked_ = locked;
+  notify(Aspect::Enabled);
+}
+
 void TextControl::select(std::size_t start, std::size_t length) {
   selectionMoved(start, length);
   notify(Aspect::Selection);

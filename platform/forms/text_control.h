@@ -26,6 +26,10 @@ class TextControl : public Control {
   [[nodiscard]] std::size_t maxLength() const { return maxLength_; }
   void setMaxLength(std::size_t characters);
 
+  // The user reads and copies it, and cannot change it.
+  [[nodiscard]] bool locked() const { return locked_; }
+  void setLocked(bool locked);
+
   // In characters from the start of the text.
   [[nodiscard]] std::size_t selStart() const { return selStart_; }
   [[nodiscard]] std::size_t selLength() const { return selLength_; }
@@ -55,6 +59,7 @@ class TextControl : public Control {
   std::string text_;
   std::string unit_;
   std::size_t maxLength_ = 0;
+  bool locked_ = false;
   std::size_t selStart_ = 0;
   std::size_t selLength_ = 0;
 };

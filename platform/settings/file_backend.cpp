@@ -48,6 +48,10 @@ class Turn {
     const path name = beside(settings, ".lock");
     auto file = files::Descriptor::open(name, O_RDWR | O_CREAT);
     if (!file) return std::unexpected(file.error());
+    // The place at the head of the queue: without it a writer that writes again at once would be
+    // there before those who look for their turn only every now and then.
+    const auto next = files::ScopedRangeLock::take(*file, name, {1, 1});
+    if (!next) return std::unexpected(next.error());
     auto lock = files::ScopedRangeLock::take(*file, name, {0, 1});
     if (!lock) return std::unexpected(lock.error());
     return Turn{std::move(*file), std::move(*lock)};

@@ -26,7 +26,8 @@ const std::vector<Part> table{
     {"exam", {"documents"}},
     {"search", {"documents"}},
     {"images", {"shell"}},
-    {"app", {"registry", "exam", "search", "images"}},
+    {"scheduling", {"shell"}},
+    {"app", {"registry", "exam", "search", "images", "scheduling"}},
     {"tools", {"shell"}},
     {"desktop", {"app", "tools"}},
 };

@@ -1,4 +1,5 @@
-// Hiding patients: who is chosen, what is stored, and that no name slips out.
+// Passwords of the card. Hiding patients: who is chosen, what is stored, and that no name slips
+// out.
 #include <gtest/gtest.h>
 
 #include "registry/frm_key.h"
@@ -156,6 +157,27 @@ TEST_F(HiddenNames, AreSteppedOverAndATableOfThemAloneEndsBothWays) {
       EXPECT_EQ(desk.main.Txtİsim.text(), back ? each.first : each.last);
       EXPECT_FALSE(entry.enabled());
     }
+  }
+}
+
+TEST_F(HiddenNames, AccountsOpenOnlyForTheirPasswordWhenItIsAskedFor) {
+  desk.station.ayarYaz("account", "1234");
+  // This version has no such screen and says so, which tells that it would be opened.
+  const auto opens = [&](const char* asked, const char* typed) {
+    desk.station.ayarYaz("accpas", asked);
+    desk.host.modal["frmpass"] = [typed](forms::Form& form) {
+      static_cast<forms::TextBox&>(*form.find("txtsifre")).setText(typed);
+      static_cast<forms::CommandButton&>(*form.find("buttamam")).press();
+    };
+    desk.host.asked.clear();
+    desk.main.mnuhesaplar.press();
+    return desk.host.asked.back().text.find("Hesaplar") != std::string::npos;
+  };
+  for (const auto& [asked, typed, opened] :
+       {std::tuple{"0", "", true}, std::tuple{"1", "1234", true}, std::tuple{"1", "4321", false}}) {
+    desk.host.expect(opened ? "Hesaplar" : "Hatalı Şifre", host::Answer::Ok);
+    EXPECT_EQ(opens(asked, typed), opened) << asked << typed;
+    EXPECT_EQ(desk.station.SifreSonucu, 0);
   }
 }
 

@@ -1,0 +1,112 @@
+#include "platform/files/message_file.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/files/atomic_write.h"
+#include "platform/files/record_file.h"
+
+namespace files {
+namespace {
+
+using platform::Fault;
+using platform::Result;
+using platform::Status;
+using std::filesystem::path;
+
+Result<std::vector<Message>> readAll(const RecordFile& file) {
+  const auto count = file.count();
+  if (!count) return std::unexpected(count.error());
+  std::vector<Message> messages;
+  for (long number = 1; number <= *count; ++number) {
+    auto record = file.get(number);
+    if (!record) return std::unexpected(record.error());
+    if (record->extent != Extent::Whole) continue;
+    messages.push_back({number, MessageRecord::decode(std::move(record->buffer))});
+  }
+  return messages;
+}
+
+// The file, and the lock that goes before it.
+struct Locked {
+  RecordFile file;
+  ScopedRangeLock lock;
+};
+
+// A deletion puts a new file in the place of the old one: a lock on the old one would keep nobody
+// out.
+Result<Locked> lockFile(const path& name) {
+  for (;;) {
+    auto file = RecordFile::open(name, MessageRecord::length);
+    if (!file) return std::unexpected(file.error());
+    auto lock = file->lockAll();
+    if (!lock) return std::unexpected(lock.error());
+    if (!file->isReplaced()) return Locked{std::move(*file), std::move(*lock)};
+  }
+}
+
+// The record's own number, unless a deletion has moved it.
+std::optional<long> placeOf(const std::vector<Message>& messages, const Message& wanted) {
+  const auto isWanted = [&](const Message& each) { return each.record.isSameNote(wanted.record); };
+  const auto there = std::ranges::find(messages, wanted.number, &Message::number);
+  if (there != messages.end() && isWanted(*there)) return wanted.number;
+  const auto moved = std::ranges::find_if(messages, isWanted);
+  return moved == messages.end() ? std::nullopt : std::optional(moved->number);
+}
+
+Status gone(const path& name) {
+  return {Fault::Missing, name.string() + ": the message is not there any more."};
+}
+
+}  // namespace
+
+Result<std::vector<Message>> readMessages(const path& name) {
+  const auto file = RecordFile::open(name, MessageRecord::length);
+  if (!file) return std::unexpected(file.error());
+  return readAll(*file);
+}
+
+Status sendMessage(const path& name, const MessageRecord& record) {
+  auto locked = lockFile(name);
+  if (!locked) return locked.error();
+  const auto count = locked->file.count();
+  if (!count) return count.error();
+  if (Status put = locked->file.put(*count + 1, record.encode()); !put) return put;
+  return locked->file.flush();
+}
+
+Status changeMessage(const path& name, const Message& message,
+                     const std::function<void(MessageRecord&)>& change) {
+  auto locked = lockFile(name);
+  if (!locked) return locked.error();
+  auto messages = readAll(locked->file);
+  if (!messages) return messages.error();
+  const auto place = placeOf(*messages, message);
+  if (!place) return gone(name);
+  MessageRecord& record = std::ranges::find(*messages, *place, &Message::number)->record;
+  change(record);
+  return locked->file.put(*place, record.encode());
+}
+
+Status deleteMessage(const path& name, const Message& message) {
+  const auto locked = lockFile(name);
+  if (!locked) return locked.error();
+  const auto messages = readAll(locked->file);
+  if (!messages) return messages.error();
+  const auto place = placeOf(*messages, message);
+  if (!place) return gone(name);
+  std::string rest;
+  for (const Message& each : *messages) {
+    if (each.number != *place) rest += each.record.encode().bytes();
+  }
+  return writeAtomically(name, rest);
+}
+
+Status deleteAllMessages(const path& name) {
+  const auto locked = lockFile(name);
+  return locked ? writeAtomically(name, {}) : locked.error();
+}
+
+}  // namespace files

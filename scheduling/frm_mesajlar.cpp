@@ -1,0 +1,265 @@
+#include "scheduling/frm_mesajlar.h"
+
+#include <algorithm>
+
+#include "platform/text/number.h"
+#include "scheduling/frm_msg_gon.h"
+#include "shell/captions.h"
+#include "shell/menu_icons.h"
+#include "shell/phrases.h"
+#include "shell/text_lookup.h"
+#include "shell/window_settings.h"
+
+namespace scheduling {
+
+using files::Message;
+using files::MessageRecord;
+using shell::metinbul;
+using shell::Phrase;
+
+namespace {
+
+constexpr int tickMilliseconds = 1000;
+constexpr const char* ticksToRenewal = "10";
+constexpr std::string_view windowName = "Messages";
+
+// A cell has one line.
+std::string onOneLine(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
+  return text;
+}
+
+}  // namespace
+
+FrmMesajlar::FrmMesajlar(shell::Station& station) : Form("frmmesajlar"), istasyon_(station) {
+  süre.setCaption("0");
+  süreyenile.setCaption(ticksToRenewal);
+  for (forms::Label* label : {&lblsırano, &süre, &süreyenile}) label->setVisible(false);
+  txtmesaj.setLocked(true);
+  menuleriBagla();
+  for (std::size_t row = 0; row < messageViews.size(); ++row) {
+    secenekler_[row]->Click.connect([this, row] { gorunumSec(messageViews[row].view); });
+  }
+  msgrid1.Click.connect([this] { satirSecildi(); });
+  msgrid1.RowColChange.connect([this] { satirSecildi(); });
+  msgrid1.DblClick.connect([this] { mnuyanıtla.press(); });
+  Lmsgadres.DblClick.connect([this] { adresDegistir(); });
+  Timer1.Tick.connect([this] { tik(); });
+}
+
+void FrmMesajlar::menuleriBagla() {
+  struct Entry {
+    const char* key;
+    forms::MenuItem* item;
+  };
+  const std::array buttons{Entry{"yaz", &mnumesajyaz}, Entry{"yanit", &mnuyanıtla},
+                           Entry{"al", &mnumesajal},   Entry{"sil", &mnusil},
+                           Entry{"ayar", &mnuayar},    Entry{"Exit", &mnucik}};
+  for (const Entry& entry : buttons) tbToolBar.addButton(entry.key, entry.key);
+  tbToolBar.ButtonClick.connect([buttons](std::string_view key) {
+    const auto* const pressed = std::ranges::find(buttons, key, &Entry::key);
+    if (pressed != buttons.end()) pressed->item->press();
+  });
+  mnumesajyaz.setShortcut("Ctrl+N");
+  mnuyanıtla.setShortcut("Ctrl+R");
+  mnumesajal.setShortcut("F5");
+  mnumesajyaz.Click.connect([this] { yaz({}, {}); });
+  mnuyanıtla.Click.connect([this] { yanitla(); });
+  mnumesajal.Click.connect([this] { Mesajyenile(); });
+  mnusil.Click.connect([this] { sil(); });
+  mnutümmesajlarısil.Click.connect([this] { tumunuSil(); });
+  mnuadres.Click.connect([this] { adresDegistir(); });
+  mnuayar.Click.connect([this] { ayarla(); });
+  mnucik.Click.connect([this] { istasyon_.host.close(*this); });
+}
+
+void FrmMesajlar::Load() {
+  shell::basliklariyaz(istasyon_, *this);
+  shell::menuikon(*this);
+  shell::pencereOku(istasyon_, *this, shell::mainSection, windowName);
+  if (mesajAdresi(istasyon_).empty()) {
+    mesajAdresiSor(istasyon_, metinbul(istasyon_, "inpgonderenismi"),
+                   metinbul(istasyon_, "Kimden"));
+  }
+  adresGoster();
+  gorunumSec(secilenGorunum(istasyon_).view);
+  Timer1.setInterval(tickMilliseconds);
+}
+
+void FrmMesajlar::Unload() {
+  Timer1.setInterval(0);
+  for (const Message& message : listelenen_) {
+    if (message.record.isNew == 0) continue;
+    // One that was deleted meanwhile has no flag to lose.
+    files::changeMessage(mesajDosyasi(istasyon_), message, [](MessageRecord& record) {
+      record.isNew = 0;
+    }).ignore();
+  }
+  shell::pencereYaz(istasyon_, *this, shell::mainSection, windowName).ignore();
+}
+
+void FrmMesajlar::gorunumSec(MessageView view) {
+  gorunum_ = view;
+  for (std::size_t row = 0; row < messageViews.size(); ++row) {
+    const bool chosen = messageViews[row].view == view;
+    if (secenekler_[row]->value() != chosen) return secenekler_[row]->setValue(chosen);
+    if (chosen) setCaption(metinbul(istasyon_, messageViews[row].title));
+  }
+  Gridyaz();
+}
+
+void FrmMesajlar::Gridyaz() {
+  auto messages = mesajlar(istasyon_, gorunum_);
+  if (!messages) return sbDurum.setPanel(1, messages.error().text());
+  const forms::Grid::Bulk bulk(msgrid1);
+  msgrid1.setRows(1);
+  msgrid1.setHeadings(std::array{metinbul(istasyon_, "Kimden"), metinbul(istasyon_, "Konu"),
+                                 metinbul(istasyon_, "Tarih"), metinbul(istasyon_, "Metin")});
+  listelenen_.clear();
+  for (Message& message : *messages) satirEkle(message);
+  msgrid1.dropChoice();
+  secimYok();
+  sayiGoster();
+}
+
+void FrmMesajlar::satirEkle(const Message& message) {
+  const MessageRecord& record = message.record;
+  std::string row = record.sender;
+  for (const std::string& text : {record.subject, record.sent, record.text})
+    row += '\t' + onOneLine(text);
+  msgrid1.AddItem(row);
+  const int added = msgrid1.rows() - 1;
+  msgrid1.setRowData(added, message.number);
+  if (record.isNew == 1) vurgula(added, forms::Emphasis::Strong);
+  listelenen_.push_back(message);
+}
+
+void FrmMesajlar::vurgula(int row, forms::Emphasis emphasis) {
+  for (int col = 0; col < msgrid1.cols(); ++col) msgrid1.setEmphasis(row, col, emphasis);
+}
+
+Message* FrmMesajlar::secilen() {
+  const int row = msgrid1.Row() - msgrid1.fixedRows();
+  const bool chosen = row >= 0 && row < static_cast<int>(listelenen_.size());
+  return chosen ? &listelenen_[static_cast<std::size_t>(row)] : nullptr;
+}
+
+void FrmMesajlar::satirSecildi() {
+  Message* const message = secilen();
+  if (message == nullptr) return;
+  lblsırano.setCaption(std::to_string(message->number));
+  for (forms::MenuItem* entry : {&mnusil, &mnuyanıtla}) entry->setEnabled(true);
+  for (const char* key : {"sil", "yanit"}) tbToolBar.setButtonEnabled(key, true);
+  txtmesaj.setText(message->record.text);
+  okundu(*message);
+}
+
+void FrmMesajlar::secimYok() {
+  lblsırano.setCaption({});
+  for (forms::MenuItem* entry : {&mnusil, &mnuyanıtla}) entry->setEnabled(false);
+  for (const char* key : {"sil", "yanit"}) tbToolBar.setButtonEnabled(key, false);
+  txtmesaj.setText({});
+}
+
+// A note that was opened has been seen as well.
+void FrmMesajlar::okundu(Message& message) {
+  if (message.record.isRead == 1 && message.record.isNew == 0) return;
+  const auto mark = [](MessageRecord& record) {
+    record.isNew = 0;
+    record.isRead = 1;
+  };
+  const platform::Status marked = files::changeMessage(mesajDosyasi(istasyon_), message, mark);
+  if (!marked) return sbDurum.setPanel(1, marked.text());
+  mark(message.record);
+  vurgula(msgrid1.Row(), forms::Emphasis::None);
+  sayiGoster();
+}
+
+void FrmMesajlar::Mesajyenile() {
+  const auto messages = mesajlar(istasyon_, gorunum_);
+  if (!messages) return sbDurum.setPanel(1, messages.error().text());
+  bool any = false;
+  for (const Message& message : *messages) {
+    const bool listed = std::ranges::any_of(
+        listelenen_, [&](const Message& each) { return each.record.isSameNote(message.record); });
+    if (listed) continue;
+    satirEkle(message);
+    any = true;
+  }
+  if (!any) return;
+  istasyon_.host.beep();
+  sayiGoster();
+  Sonsırayıseç();
+}
+
+// The newest one is in sight; it is read when the user goes to it.
+void FrmMesajlar::Sonsırayıseç() {
+  msgrid1.setRow(msgrid1.rows() - 1);
+}
+
+void FrmMesajlar::tik() {
+  saat.setCaption(text::shortTime(istasyon_.clock.now()));
+  const long passed = text::wholeNumber(süre.caption()).value_or(0) + 1;
+  const bool due = passed >= text::wholeNumber(süreyenile.caption()).value_or(1);
+  süre.setCaption(std::to_string(due ? 0 : passed));
+  if (due) Mesajyenile();
+}
+
+void FrmMesajlar::yaz(const std::string& kime, const std::string& konu) {
+  istasyon_.ekranAc("Frmmsggon", mnumesajyaz.caption(), [&](forms::Form& form) {
+    auto& writing = dynamic_cast<FrmMsgGon&>(form);
+    writing.ComKime.setText(kime);
+    writing.txtkonu.setText(konu);
+  });
+  Mesajyenile();
+}
+
+void FrmMesajlar::yanitla() {
+  const Message* const message = secilen();
+  if (message == nullptr) return;
+  constexpr std::string_view answer = "Re: ";
+  const std::string& subject = message->record.subject;
+  yaz(message->record.sender,
+      subject.starts_with(answer) ? subject : std::string(answer) + subject);
+}
+
+void FrmMesajlar::sil() {
+  const Message* const message = secilen();
+  if (message == nullptr) return;
+  const platform::Status deleted = files::deleteMessage(mesajDosyasi(istasyon_), *message);
+  Gridyaz();
+  // Somebody else was quicker: it is gone, as was asked for.
+  if (!deleted && deleted.fault() != platform::Fault::Missing) sbDurum.setPanel(1, deleted.text());
+}
+
+void FrmMesajlar::tumunuSil() {
+  if (!istasyon_.evetMi(metinbul(istasyon_, "msgmesajlarisil"))) return;
+  const platform::Status deleted = files::deleteAllMessages(mesajDosyasi(istasyon_));
+  Gridyaz();
+  if (!deleted) sbDurum.setPanel(1, deleted.text());
+}
+
+void FrmMesajlar::ayarla() {
+  istasyon_.ekranAc("frmayar", mnuayar.caption());
+  gorunumSec(secilenGorunum(istasyon_).view);
+}
+
+void FrmMesajlar::adresDegistir() {
+  mesajAdresiSor(istasyon_, "Gönderen ismini yazınız", "mesajı gönderen");
+  adresGoster();
+  Gridyaz();
+}
+
+void FrmMesajlar::adresGoster() {
+  Lmsgadres.setCaption(mesajAdresi(istasyon_));
+}
+
+void FrmMesajlar::sayiGoster() {
+  const auto unread = std::ranges::count_if(
+      listelenen_, [](const Message& each) { return each.record.isRead == 0; });
+  sbDurum.setPanel(1, phrase(istasyon_, Phrase::UnreadCount) + std::to_string(unread));
+  sbDurum.setPanel(2, phrase(istasyon_, Phrase::MessageCount) + std::to_string(listelenen_.size()));
+}
+
+}  // namespace scheduling

@@ -1,0 +1,97 @@
+#include "scheduling/frm_msg_gon.h"
+
+#include "platform/files/message_file.h"
+#include "platform/files/name_list.h"
+#include "platform/text/utf8.h"
+#include "scheduling/message_board.h"
+#include "shell/captions.h"
+#include "shell/list_completion.h"
+#include "shell/phrases.h"
+#include "shell/text_lookup.h"
+
+namespace scheduling {
+
+using files::MessageRecord;
+using shell::metinbul;
+using shell::Phrase;
+
+namespace {
+
+constexpr std::string_view namesFile = "Data/List.dat";
+
+std::string timeOf(const text::DateTime& now) {
+  return text::shortDate(now) + ' ' + text::shortTime(now);
+}
+
+}  // namespace
+
+FrmMsgGon::FrmMsgGon(shell::Station& station) : Form("Frmmsggon"), istasyon_(station) {
+  ComKimden.setMaxLength(MessageRecord::nameWidth);
+  ComKime.setMaxLength(MessageRecord::nameWidth);
+  txtkonu.setMaxLength(MessageRecord::subjectWidth);
+  txtmesaj.setMaxLength(MessageRecord::textWidth);
+  shell::completeWhileTyping(ComKimden);
+  shell::completeWhileTyping(ComKime);
+  ComKime.Change.connect([this] { tuskontrol(); });
+  ComKime.Click.connect([this] { tuskontrol(); });
+  txtkonu.Change.connect([this] { tuskontrol(); });
+  ButLKimden.Click.connect([this] {
+    const std::string title = metinbul(istasyon_, "Kimden");
+    if (mesajAdresiSor(istasyon_, metinbul(istasyon_, "inpgonderenismi"), title))
+      ComKimden.setText(mesajAdresi(istasyon_));
+  });
+  Butgönder.Click.connect([this] { gonder(); });
+  Butİptal.Click.connect([this] { istasyon_.host.close(*this); });
+}
+
+void FrmMsgGon::Load() {
+  shell::basliklariyaz(istasyon_, *this);
+  isimleriListele();
+  ComKimden.setText(mesajAdresi(istasyon_));
+  tuskontrol();
+}
+
+// Without the list of names they are typed.
+void FrmMsgGon::isimleriListele() {
+  const auto names = files::readNames(istasyon_.dosya(namesFile));
+  if (!names) return;
+  ComKimden.setItems(*names);
+  ComKime.setItems(*names);
+}
+
+void FrmMsgGon::tuskontrol() {
+  Butgönder.setEnabled(!text::trimmed(ComKime.text()).empty() &&
+                       !text::trimmed(txtkonu.text()).empty());
+}
+
+void FrmMsgGon::gonder() {
+  MessageRecord record;
+  record.sender = text::trim(ComKimden.text());
+  record.addressee = text::trim(ComKime.text());
+  record.subject = text::trim(txtkonu.text());
+  record.text = txtmesaj.text();
+  record.sent = timeOf(istasyon_.clock.now());
+  record.isNew = 1;
+  if (platform::Status sent = files::sendMessage(mesajDosyasi(istasyon_), record); !sent)
+    return istasyon_.bilgi(phrase(istasyon_, Phrase::StoreFailed) + sent.text());
+  // The message is out; a name that is not offered next time is typed again.
+  ListeleriKimden().ignore();
+  ListeleriKime().ignore();
+  gonderildi_ = true;
+  istasyon_.host.close(*this);
+}
+
+platform::Status FrmMsgGon::ListeleriKimden() {
+  return files::addName(istasyon_.dosya(namesFile), ComKimden.text());
+}
+
+platform::Status FrmMsgGon::ListeleriKime() {
+  return files::addName(istasyon_.dosya(namesFile), ComKime.text());
+}
+
+bool FrmMsgGon::QueryUnload() {
+  if (gonderildi_ || text::trimmed(txtmesaj.text()).empty()) return true;
+  return istasyon_.evetMi(phrase(istasyon_, Phrase::MessageNotSent));
+}
+
+}  // namespace scheduling

@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <tuple>
+
+#include "platform/files/name_list.h"
+#include "scheduling/frm_ayar.h"
+#include "scheduling/frm_mesajlar.h"
+#include "scheduling/frm_msg_gon.h"
+#include "tests/support/practice.h"
+
+namespace {
+
+using namespace scheduling;
+using files::MessageRecord;
+using support::Desk;
+
+template <class Screen>
+void add(shell::ScreenDirectory& screens, std::string_view name) {
+  screens.add(name, [](shell::Station& station) { return std::make_unique<Screen>(station); });
+}
+
+struct Messages : testing::Test {
+  Messages() {
+    std::filesystem::create_directories(folder / "Data");
+    desk.station.ayarYaz("msg address", "İbrahim");
+    add<FrmMsgGon>(desk.screens, "Frmmsggon");
+    add<FrmAyar>(desk.screens, "frmayar");
+  }
+
+  void receive(std::string_view addressee, std::string_view subject,
+               std::string_view sent = "22.11.2026 09:30") {
+    MessageRecord record;
+    record.sender = "Ayşe";
+    record.addressee = addressee;
+    record.subject = subject;
+    record.sent = sent;
+    record.text = "Bir\r\niki";
+    record.isNew = 1;
+    ASSERT_TRUE(files::sendMessage(mesajDosyasi(desk.station), record));
+  }
+  MessageRecord kept(std::size_t at) {
+    return (*files::readMessages(mesajDosyasi(desk.station)))[at].record;
+  }
+  static std::vector<std::string> subjects(const FrmMesajlar& board) {
+    std::vector<std::string> column;
+    for (int row = 1; row < board.msgrid1.rows(); ++row)
+      column.push_back(board.msgrid1.TextMatrix(row, 1));
+    return column;
+  }
+  static bool isBold(const FrmMesajlar& board, int row) {
+    return board.msgrid1.cell(row, 0).emphasis == forms::Emphasis::Strong;
+  }
+
+  support::TemporaryFolder folder;
+  Desk desk{folder.path()};
+};
+
+using Subjects = std::vector<std::string>;
+
+TEST_F(Messages, ArriveAtTheirAddresseeInAnyCaseAndInEveryView) {
+  receive("ibrahim", "dün", "21.11.2026 17:00");
+  receive("İBRAHİM  ", "bugün");
+  receive("Ibrahim", "başkası");
+  ASSERT_TRUE(files::changeMessage(mesajDosyasi(desk.station), {1, kept(0)},
+                                   [](MessageRecord& record) { record.isRead = 1; }));
+  ASSERT_TRUE(files::changeMessage(mesajDosyasi(desk.station), {2, kept(1)},
+                                   [](MessageRecord& record) { record.isNew = 0; }));
+  FrmMesajlar board(desk.station);
+  board.Load();
+  using Case = std::tuple<forms::OptionButton*, const char*, Subjects>;
+  for (const auto& [option, title, shown] :
+       {Case{&board.optyeni, "Yeni Mesajlar", {"dün"}},
+        Case{&board.optokunmamış, "Okunmamış Mesajlar", {"bugün"}},
+        Case{&board.optgünlük, "Günlük Mesajlar", {"bugün"}},
+        Case{&board.opttümü, "Tüm Mesajlar", {"dün", "bugün"}}}) {
+    option->setValue(true);
+    EXPECT_EQ(subjects(board), shown) << title;
+    EXPECT_EQ(board.caption(), title);
+  }
+  EXPECT_TRUE(isBold(board, 1));
+  EXPECT_FALSE(isBold(board, 2));
+}
+
+TEST_F(Messages, AreReadByAClickAndSeenOnceTheScreenCloses) {
+  receive("İbrahim", "bir");
+  receive("İbrahim", "iki");
+  FrmMesajlar board(desk.station);
+  board.Load();
+  EXPECT_FALSE(board.mnusil.enabled());
+  board.msgrid1.choose({1, 0});
+  EXPECT_EQ(board.txtmesaj.text(), "Bir\r\niki");
+  EXPECT_EQ(board.lblsırano.caption(), "1");
+  EXPECT_TRUE(board.mnusil.enabled() && board.tbToolBar.button("sil")->enabled);
+  EXPECT_EQ(kept(0).isRead, 1);
+  EXPECT_EQ(kept(1).isRead, 0);
+  EXPECT_EQ(kept(1).isNew, 1);
+  EXPECT_FALSE(isBold(board, 1));
+  board.Unload();
+  EXPECT_EQ(kept(1).isRead, 0);
+  EXPECT_EQ(kept(1).isNew, 0);
+}
+
+TEST_F(Messages, ComeInWhileTheScreenIsOpen) {
+  receive("İbrahim", "ilk");
+  FrmMesajlar board(desk.station);
+  board.Load();
+  receive("İbrahim", "ikinci");
+  receive("Ayşe", "başkası");
+  for (int tick = 0; tick < 9; ++tick) board.Timer1.Tick();
+  EXPECT_EQ(subjects(board), Subjects{"ilk"});
+  board.Timer1.Tick();
+  EXPECT_EQ(subjects(board), (Subjects{"ilk", "ikinci"}));
+  EXPECT_EQ(board.msgrid1.Row(), 2);
+  EXPECT_EQ(board.süre.caption(), "0");
+}
+
+TEST_F(Messages, AreDeletedOneByOneOrAllAfterAQuestion) {
+  for (const char* subject : {"bir", "iki", "üç"}) receive("İbrahim", subject);
+  FrmMesajlar board(desk.station);
+  board.Load();
+  board.msgrid1.choose({2, 0});
+  board.mnusil.press();
+  EXPECT_EQ(subjects(board), (Subjects{"bir", "üç"}));
+  EXPECT_FALSE(board.mnusil.enabled());
+  desk.host.expect("Tüm mesajları silmek istiyor musunuz?", host::Answer::No);
+  board.mnutümmesajlarısil.press();
+  EXPECT_EQ(subjects(board).size(), 2U);
+  desk.host.expect("Tüm mesajları silmek istiyor musunuz?", host::Answer::Yes);
+  board.mnutümmesajlarısil.press();
+  EXPECT_TRUE(subjects(board).empty());
+}
+
+TEST_F(Messages, NeedANameOfOnesOwn) {
+  receive("", "kimseye");
+  desk.station.ayarYaz("msg address", "");
+  desk.host.inputs = {"", "  Zeynep "};
+  FrmMesajlar board(desk.station);
+  board.Load();
+  EXPECT_TRUE(subjects(board).empty());
+  board.Lmsgadres.DblClick();
+  EXPECT_EQ(board.Lmsgadres.caption(), "Zeynep");
+  EXPECT_EQ(desk.station.ayar("msg address"), "Zeynep");
+}
+
+TEST_F(Messages, AreSentAndTheirNamesKept) {
+  receive("İbrahim", "soru");
+  FrmMesajlar board(desk.station);
+  board.Load();
+  board.msgrid1.choose({1, 0});
+  desk.host.modal["Frmmsggon"] = [&](forms::Form& form) {
+    auto& writing = dynamic_cast<FrmMsgGon&>(form);
+    EXPECT_EQ(writing.ComKimden.text(), "İbrahim");
+    EXPECT_EQ(writing.ComKime.text(), "Ayşe");
+    EXPECT_EQ(writing.txtkonu.text(), "Re: soru");
+    writing.ComKime.setText(" ");
+    EXPECT_FALSE(writing.Butgönder.enabled());
+    writing.ComKime.setText("Ayşe");
+    writing.txtmesaj.setText(std::string(300, 'a'));
+    desk.host.expect("Vazgeçilsin mi?", host::Answer::No);
+    EXPECT_FALSE(writing.QueryUnload());
+    writing.Butgönder.press();
+  };
+  board.mnuyanıtla.press();
+  EXPECT_EQ(desk.host.closed, std::vector<std::string>{"Frmmsggon"});
+  const MessageRecord sent = kept(1);
+  EXPECT_EQ(sent.addressee, "Ayşe");
+  EXPECT_EQ(sent.sent, "22.11.2026 14:05");
+  EXPECT_EQ(sent.text.size(), 250U);
+  EXPECT_EQ(sent.isNew, 1);
+  EXPECT_EQ(*files::readNames(folder / "Data/List.dat"), (Subjects{"İbrahim", "Ayşe"}));
+}
+
+TEST_F(Messages, OpenInTheViewThatWasChosen) {
+  FrmAyar settings(desk.station);
+  settings.Load();
+  EXPECT_TRUE(settings.opttumu.value());
+  settings.optokunmamis.setValue(true);
+  settings.buttamam.press();
+  EXPECT_EQ(desk.station.ayar("optmsgbold"), "True");
+  EXPECT_EQ(desk.station.ayar("optmsgall"), "False");
+  EXPECT_EQ(secilenGorunum(desk.station).view, MessageView::Unread);
+}
+
+}  // namespace
