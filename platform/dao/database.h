@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -138,9 +139,18 @@ class Database {
 // Exists when there is a file of that name.
 [[nodiscard]] Result<Database> CreateDatabase(const std::filesystem::path& path, Order order);
 
-// Writes a compact copy. The source is closed everywhere, the destination must not exist.
+// Bytes done and bytes in all, as far as they can be told. False stops the work.
+using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
+
+// Writes a compact copy of the rows as they stand at one moment, whoever else has the store open;
+// what others save waits until the rows are written and counted. The copy is brought to the disk
+// and checked: its tables and indexes are sound, and each table has as many rows as in the source.
+// `to` must not exist, and nothing of it is left after a fault. Missing (no source, or no folder to
+// write to), Exists, Busy, ReadOnly, DiskFull, Damaged, Unsupported (the source is a file of
+// another program), Other when it was stopped.
 [[nodiscard]] Status CompactDatabase(const std::filesystem::path& from,
-                                     const std::filesystem::path& to);
+                                     const std::filesystem::path& to,
+                                     const Progress& progress = {});
 
 struct RepairReport {
   bool wasDamaged = false;

@@ -17,6 +17,9 @@ constexpr std::int64_t kTurkishMark = 2;
 // How long another station's commit may go unnoticed while rows of one page are walked.
 constexpr std::chrono::microseconds kNoticeWithin{100};
 
+// Some milliseconds of work.
+constexpr int kStepsBetweenQuestions = 10'000;
+
 std::int64_t markOf(Order order) {
   return order == Order::Turkish ? kTurkishMark : kGeneralMark;
 }
@@ -229,6 +232,15 @@ void Engine::rollback() {
   if (handle_ && !sqlite3_get_autocommit(handle_))
     sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
   ++rollbacks_;
+}
+
+void Engine::whileRunning(const std::function<bool()>& goOn) {
+  const auto refused = [](void* asked) {
+    return (*static_cast<const std::function<bool()>*>(asked))() ? 0 : 1;
+  };
+  // The engine hands back what it was given and does not write to it.
+  sqlite3_progress_handler(handle_, kStepsBetweenQuestions, refused,
+                           const_cast<std::function<bool()>*>(&goOn));
 }
 
 ChangeStamp Engine::changeStamp() {

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -94,6 +95,10 @@ class Engine {
 
   // Writes the marks of a store into a file that has none.
   Status mark();
+
+  // Asks now and then, while a statement runs, whether to go on; a refusal ends the statement with
+  // a fault. The function outlives the connection.
+  void whileRunning(const std::function<bool()>& goOn);
 
   [[nodiscard]] ChangeStamp changeStamp();
   [[nodiscard]] std::int64_t lastNumber() const;

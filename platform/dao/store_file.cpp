@@ -1,4 +1,4 @@
-// Stores as files: making, opening, checking, compacting and repairing them.
+// Stores as files: making, opening, checking and repairing them.
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -41,14 +41,6 @@ Status claim(const std::filesystem::path& path) {
   if (file < 0) return creationFault(path, errno);
   ::close(file);
   return {};
-}
-
-Status flushed(const std::filesystem::path& path) {
-  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  const bool done = file >= 0 && ::fsync(file) == 0;
-  if (file >= 0) ::close(file);
-  return done ? Status()
-              : Status(Fault::Other, nameOf(path) + ": the file could not be brought to the disk.");
 }
 
 Status removing(const std::filesystem::path& path, Status fault) {
@@ -100,17 +92,6 @@ Result<Database> CreateDatabase(const std::filesystem::path& path, Order order) 
     return std::unexpected(removing(path, std::move(status)));
   }
   return Database(std::move(*engine));
-}
-
-Status CompactDatabase(const std::filesystem::path& from, const std::filesystem::path& to) {
-  std::error_code ignored;
-  if (std::filesystem::exists(to, ignored))
-    return {Fault::Exists, nameOf(to) + ": the file is there already."};
-  auto engine = Engine::open(from, {});
-  if (!engine) return engine.error();
-  const auto done = (*engine)->run("VACUUM INTO ?", nameOf(from), {to.string()});
-  if (!done) return removing(to, done.error());
-  return flushed(to);
 }
 
 Status Database::integrityCheck() {

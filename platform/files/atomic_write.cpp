@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/files/descriptor.h"
+#include "platform/files/replace.h"
 
 namespace files {
 namespace {
@@ -57,20 +58,6 @@ Status fillDraft(const Draft& draft, const path& target, std::string_view conten
   return {};
 }
 
-// Without this the new name may be lost with a power cut. Some file systems cannot, and need not.
-void flushFolder(const path& target) {
-  const path folder = target.has_parent_path() ? target.parent_path() : path{"."};
-  const auto handle = Descriptor::open(folder, O_RDONLY | O_DIRECTORY);
-  if (handle) (void)::fsync(handle->number());
-}
-
-path behindLinks(const path& target) {
-  std::error_code error;
-  if (!std::filesystem::is_symlink(target, error)) return target;
-  const path resolved = std::filesystem::canonical(target, error);
-  return error ? target : resolved;
-}
-
 }  // namespace
 
 Status writeAtomically(const path& path, std::string_view content) {
@@ -86,7 +73,7 @@ Status writeAtomically(const path& path, std::string_view content) {
     (void)::unlink(draft->name.c_str());
     return status;
   }
-  flushFolder(target);
+  flushFolder(target.parent_path());
   return {};
 }
 
