@@ -222,7 +222,9 @@ void QtHost::later(std::function<void()> task) {
 void QtHost::pause(int milliseconds) {
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  // A window that stands in front of all others can be answered.
+  const bool modal = QApplication::activeModalWidget() != nullptr;
+  loop.exec(modal ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
 }
 
 void QtHost::shellOpen(std::string_view target) {

@@ -112,13 +112,18 @@ dao::Status FrmMain::tutarakYaz() {
   return written;
 }
 
+// The recordsets are new ones. A card on the screen is read again; what failed to open before the
+// run may be there now.
 void FrmMain::dosyabakimi() {
+  const bool wasOpen = istasyon.stores.personal.database.isOpen();
   listeyiKapat();
   shell::dosyabakimi(istasyon);
-  alanGenislikleri(istasyon.stores.personal.database, "IDCard");
-  Listeleriyaz();
+  if (!wasOpen) {
+    alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+    Listeleriyaz();
+    Yeni();
+  }
   gunlukListele();
-  yonleriAc();
   if (!TxtEskiİsim.text().empty()) hastayiGoster(TxtEskiİsim.text());
 }
 
