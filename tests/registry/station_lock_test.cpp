@@ -2,9 +2,9 @@
 // to be alone.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "app/start_up.h"
+#include "shell/patient_lock.h"
+#include "stores/smoking_store.h"
 #include "tests/registry/card_fixture.h"
 #include "tests/stores/stores_fixture.h"
 
