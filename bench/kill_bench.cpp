@@ -21,7 +21,7 @@ using namespace bench;
 constexpr std::array works{"save", "rename", "maintenance"};
 constexpr std::array storeFiles{"Personal.mdb", "Sanavel.mdb", "Smoke.mdb"};
 constexpr auto patient = "Ölçüm Hastası";
-constexpr unsigned longestMicroseconds = 60'000;
+constexpr long mostDoneBefore = 3;
 
 // What the station has told so far; outlives it.
 struct Told {
@@ -171,6 +171,7 @@ class Trial {
 
  private:
   void station(std::size_t work, Told& told) const;
+  void awaitMoment(std::size_t work, const Child& child, const Told& told);
   void look();
 
   std::string folder_;
@@ -178,6 +179,7 @@ class Trial {
   std::array<long, works.size()> told_{};
   std::array<long, works.size()> succeeded_{};
   std::array<int, works.size()> killed_{};
+  std::array<double, works.size()> usual_{20, 20, 20};  // milliseconds for one
   Losses losses_;
 };
 
@@ -195,11 +197,7 @@ void Trial::kill(std::size_t work) {
   if (work != maintaining && !witness.open(folder_ + "/")) fail("the register cannot be opened");
   witness.letIn();
   Child child([&] { station(work, *told); });
-  while (!told->started) {
-    if (!child.isRunning()) fail("the station did not start");
-    ::usleep(100);
-  }
-  ::usleep(static_cast<useconds_t>(random_() % longestMicroseconds));
+  awaitMoment(work, child, *told);
   child.kill();
   ++killed_[work];
   succeeded_[work] += told->done - told_[work];
@@ -208,6 +206,22 @@ void Trial::kill(std::size_t work) {
   checkSound(folder_, losses_);
   checkRegister(folder_, witness, losses_);
   look();
+}
+
+// Somewhere in the first, second, third or fourth piece of work.
+void Trial::awaitMoment(std::size_t work, const Child& child, const Told& told) {
+  const auto running = [&](auto awaited) {
+    while (!awaited()) {
+      if (!child.isRunning()) fail("the station came to an end");
+      ::usleep(50);
+    }
+  };
+  const long before = static_cast<long>(random_()) % (mostDoneBefore + 1);
+  running([&] { return told.started.load(); });
+  const double time = timed([&] { running([&] { return told.done >= told_[work] + before; }); });
+  if (before > 0) usual_[work] = time / static_cast<double>(before);
+  const double part = std::uniform_real_distribution<>(0, usual_[work])(random_);
+  ::usleep(static_cast<useconds_t>(part * 1000));
 }
 
 // The next station goes on from what is there.
