@@ -119,6 +119,7 @@ void FrmMain::basliklariYenile() {
   RecordScreen::basliklariYenile();
   hakkindaYaz();
   gunlukBaslik();
+  netDurumu();
 }
 
 // The workspace is set up anew for its words; on a polyclinic copy the chosen speciality stays the
