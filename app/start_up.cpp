@@ -37,7 +37,7 @@ constexpr int splashMilliseconds = 1;
 // Restricted opening: the card and the name list stay usable, the tools and the examination do not.
 void sp4(registry::FrmMain& main) {
   main.MnuSecenek.setVisible(false);
-  main.tbToolBar.setButtonVisible("muayene", false);
+  for (const char* key : {"muayene", "mesaj"}) main.tbToolBar.setButtonVisible(key, false);
 }
 
 template <class Screen>
@@ -75,7 +75,14 @@ shell::ScreenDirectory screens() {
   return directory;
 }
 
-Session::Session(shell::Station& istasyon) : istasyon_(istasyon), main_(istasyon) {}
+Session::Session(shell::Station& istasyon)
+    : istasyon_(istasyon), main_(istasyon), messages_(istasyon) {
+  main_.Timer1.Tick.connect([this] { mesajlaraBak(); });
+}
+
+void Session::mesajlaraBak() {
+  if (const auto fresh = messages_.look()) main_.yeniMesaj(*fresh);
+}
 
 Session::Outcome Session::start() {
   shell::bransmenusu(istasyon_, main_);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "registry/frm_main.h"
+#include "scheduling/message_watch.h"
 #include "shell/logo.h"
 #include "shell/screen_directory.h"
 #include "shell/station.h"
@@ -25,9 +26,11 @@ class Session {
 
  private:
   [[nodiscard]] bool openingPassword();
+  void mesajlaraBak();
 
   shell::Station& istasyon_;
   registry::FrmMain main_;
+  scheduling::MessageWatch messages_;
 };
 
 }  // namespace app

@@ -12,6 +12,7 @@ std::optional<CommandLine> readCommandLine(std::span<char* const> arguments) {
     const std::string_view word = arguments[i];
     std::string* const value = word == "--folder" ? &line.folder
                                : word == "--tour" ? &line.tour
+                               : word == "--only" ? &line.only
                                                   : nullptr;
     if (word == "--help") {
       line.help = true;

@@ -35,10 +35,10 @@ int serve(desktop::Application& application, shell::Station& station) {
 }
 
 int takePictures(desktop::Application& application, shell::Station& station,
-                 const std::string& folder) {
+                 const desktop::TourPlan& plan) {
   app::Session session(station);
   session.main().Load();
-  return desktop::tour(application.host(), station, session.main(), folder) ? 0 : 1;
+  return desktop::tour(application.host(), station, session.main(), plan) ? 0 : 1;
 }
 
 }  // namespace
@@ -62,5 +62,5 @@ int main(int argc, char** argv) {
   station.yazici = &printer;
   application.host().setWords([&](std::string_view key) { return metinbul(station, key); });
   return line->tour.empty() ? serve(application, station)
-                            : takePictures(application, station, line->tour);
+                            : takePictures(application, station, {line->tour, line->only});
 }

@@ -45,11 +45,17 @@ void settle() {
 
 class Album {
  public:
-  explicit Album(const std::string& folder) : folder_(qs(folder)) {
+  explicit Album(const TourPlan& plan) : folder_(qs(plan.folder)), only_(qs(plan.only)) {
     good_ = QDir().mkpath(folder_.path());
   }
 
+  // Whether pictures of that screen are asked for.
+  [[nodiscard]] bool wants(const QString& screen) const {
+    return only_.isEmpty() || screen == only_;
+  }
+
   void take(QWidget& window, const QString& name) {
+    if (!wants(name.section(QLatin1Char('-'), 0, 0))) return;
     settle();
     const QString file = folder_.filePath(name + QStringLiteral(".png"));
     if (window.grab().save(file)) return;
@@ -60,6 +66,7 @@ class Album {
 
  private:
   QDir folder_;
+  QString only_;
   bool good_ = false;
 };
 
@@ -87,8 +94,8 @@ void takeTabs(Album& album, QtHost& host, forms::Form& form, const QString& suff
 
 class Tour {
  public:
-  Tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main, const std::string& folder)
-      : host_(host), istasyon_(istasyon), main_(main), album_(folder) {}
+  Tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main, const TourPlan& plan)
+      : host_(host), istasyon_(istasyon), main_(main), album_(plan) {}
 
   bool run() {
     if (!album_.good())
@@ -114,15 +121,15 @@ class Tour {
     takeTabs(album_, host_, main_, suffix);
     nameList(suffix);
     daysList();
-    takeVariants(suffix);
+    if (album_.wants(QStringLiteral("FrmMain"))) takeVariants(suffix);
     progress(suffix);
     crashMessage(suffix);
     istasyon_.SeciliHasta = patientWithResults();
     takeLaboratory(suffix);
-    takeExaminations(suffix);
+    if (album_.wants(QStringLiteral("FrmExam"))) takeExaminations(suffix);
     for (const auto& [name, maker] : istasyon_.screens.all()) takeScreen(name, suffix);
-    takeFinder(suffix);
-    takeArchive(suffix);
+    if (album_.wants(QStringLiteral("FrmFind"))) takeFinder(suffix);
+    if (album_.wants(QStringLiteral("frmpicture"))) takeArchive(suffix);
     istasyon_.SeciliHasta.clear();
     main_.alanlaribosalt();
     main_.Eskialanmain();
@@ -330,6 +337,7 @@ class Tour {
 
   // In the size that it opens with, or in one of the caller's.
   void takeScreen(const std::string& name, const QString& suffix, QSize size = {}) {
+    if (!album_.wants(qs(name))) return;
     const auto form = istasyon_.screens.make(name, istasyon_);
     if (form == nullptr) return;
     form->Load();
@@ -348,13 +356,12 @@ class Tour {
 
 }  // namespace
 
-bool tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main,
-          const std::string& folder) {
+bool tour(QtHost& host, shell::Station& istasyon, registry::FrmMain& main, const TourPlan& plan) {
   if (const QString problem = fontProblem(); !problem.isEmpty()) {
     complain(problem);
     return false;
   }
-  return Tour(host, istasyon, main, folder).run();
+  return Tour(host, istasyon, main, plan).run();
 }
 
 }  // namespace desktop

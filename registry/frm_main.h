@@ -198,6 +198,8 @@ class FrmMain : public shell::RecordScreen, public shell::PatientCard {
   void dilDegisti() override;
   void sigaraGirisi() override;
   void ButtonsForPatient() override;
+  // How many messages wait for the user of this desk.
+  void yeniMesaj(long count);
   // Opens the examination of the present speciality.
   void muayenetus();
 

@@ -77,6 +77,7 @@ void FrmMain::araclariKur() {
   tusGrubu({"Geri", "ileri", "Find"});
   tusGrubu({"muayene", "smok"});
   tusGrubu({"keyclose", "keyopen", "idpass"});
+  tusGrubu({"mesaj"});
   tbToolBar.addButton("Exit", "Exit");
 }
 
@@ -134,10 +135,19 @@ bool FrmMain::tusBas(std::string_view key) {
   if (key == "Find") return mnubul.press(), true;
   if (key == "muayene") return muayenetus(), true;
   if (key == "smok") return mnusigarabp.press(), true;
+  if (key == "mesaj") return mnumesajlar.press(), true;
   if (key == "keyclose") return isimSifresi(), true;
   if (key == "keyopen") return isimleriAc(false), true;
   if (key == "idpass") return gizlileriSec(), true;
   return false;
+}
+
+void FrmMain::yeniMesaj(long count) {
+  tbToolBar.setButtonImage("mesaj", count > 0 ? "mesajv" : "mesaj");
+  const std::string caption = shell::metinbul(istasyon, count > 0 ? "yenimesajlar" : "Mesaj");
+  tbToolBar.setButtonToolTip("mesaj",
+                             count > 0 ? caption + " (" + std::to_string(count) + ")" : caption);
+  sbDurum.setPanel(4, count > 0 ? tbToolBar.button("mesaj")->toolTip : std::string());
 }
 
 void FrmMain::muayenetus() {

@@ -82,6 +82,7 @@ void FrmMesajlar::Load() {
     mesajAdresiSor(istasyon_, metinbul(istasyon_, "inpgonderenismi"),
                    metinbul(istasyon_, "Kimden"));
   }
+  msgrid1.setToolTip(phrase(istasyon_, Phrase::NoMessages));
   adresGoster();
   gorunumSec(secilenGorunum(istasyon_).view);
   Timer1.setInterval(tickMilliseconds);

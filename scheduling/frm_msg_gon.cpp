@@ -49,6 +49,7 @@ void FrmMsgGon::Load() {
   isimleriListele();
   ComKimden.setText(mesajAdresi(istasyon_));
   tuskontrol();
+  (ComKimden.text().empty() ? ComKimden : ComKime).setFocus();
 }
 
 // Without the list of names they are typed.

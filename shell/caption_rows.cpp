@@ -304,6 +304,7 @@ constexpr std::array toolTips{
     KeyedCaption{"filtre", "testfiltrele"},
     KeyedCaption{"grafik", "Grafik"},
     KeyedCaption{"testler", "testduzenle"},
+    KeyedCaption{"mesaj", "Mesaj"},
     KeyedCaption{"yaz", "mesajyaz"},
     KeyedCaption{"al", "mesajal"},
     KeyedCaption{"sil", "Sil"},

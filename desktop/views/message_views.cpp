@@ -19,6 +19,7 @@ namespace {
 constexpr QSize boardSize{860, 600};
 constexpr QSize writingSize{560, 460};
 constexpr int nameFontPercent = 125;
+constexpr int textLines = 7;
 constexpr int listShare = 3;  // of the height, against one of the text
 
 QVBoxLayout* columnIn(QWidget& parent) {
@@ -75,8 +76,12 @@ std::unique_ptr<QWidget> messagesView(forms::Form& form) {
   column->addLayout(head(form, body));
   auto* const splitter = new QSplitter(Qt::Vertical, &body);
   splitter->setChildrenCollapsible(false);
-  splitter->addWidget(made(form, "msgrid1", *splitter));
-  splitter->addWidget(made(form, "txtmesaj", *splitter));
+  auto* const table = static_cast<GridTable*>(made(form, "msgrid1", *splitter));
+  table->horizontalHeader()->setStretchLastSection(true);
+  splitter->addWidget(table);
+  QWidget* const text = made(form, "txtmesaj", *splitter);
+  text->setMinimumHeight(textLines * text->fontMetrics().lineSpacing());
+  splitter->addWidget(text);
   splitter->setStretchFactor(0, listShare);
   splitter->setStretchFactor(1, 1);
   column->addWidget(splitter, 1);

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QImageReader>
+#include <fstream>
 
 #include "tests/desktop/desk.h"
 
@@ -12,7 +13,7 @@ TEST(Tour, TakesEveryScreenAndTabInBothLanguages) {
   registry::FrmMain card(desk.station);
   card.Load();
   const std::string folder = desk.folder / "tour";
-  ASSERT_TRUE(desktop::tour(desk.host, desk.station, card, folder));
+  ASSERT_TRUE(desktop::tour(desk.host, desk.station, card, {folder, {}}));
   const QDir pictures(desktop::qs(folder));
   for (const char* name :
        {"FrmMain-TSKişisel-tr", "FrmMain-TSNot-eng", "FrmMain-TSAdres-dark-tr",
@@ -33,7 +34,9 @@ TEST(Tour, SaysWhenItCannotWrite) {
   support::WindowDesk desk;
   registry::FrmMain card(desk.station);
   card.Load();
-  EXPECT_FALSE(desktop::tour(desk.host, desk.station, card, "/proc/no/such/folder"));
+  const std::string file = desk.folder / "file";
+  std::ofstream(file) << "no folder";
+  EXPECT_FALSE(desktop::tour(desk.host, desk.station, card, {file + "/tour", {}}));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "scheduling/frm_ayar.h"
 #include "scheduling/frm_mesajlar.h"
 #include "scheduling/frm_msg_gon.h"
+#include "scheduling/message_watch.h"
 #include "tests/support/practice.h"
 
 namespace {
@@ -180,6 +181,23 @@ TEST_F(Messages, OpenInTheViewThatWasChosen) {
   EXPECT_EQ(desk.station.ayar("optmsgbold"), "True");
   EXPECT_EQ(desk.station.ayar("optmsgall"), "False");
   EXPECT_EQ(secilenGorunum(desk.station).view, MessageView::Unread);
+}
+
+TEST_F(Messages, AreNoticedWithoutTheirScreen) {
+  MessageWatch watch(desk.station);
+  const auto after = [&](int seconds) {
+    desk.clock.time.seconds += seconds;
+    return watch.look();
+  };
+  EXPECT_EQ(after(0), 0);
+  receive("İbrahim", "bir");
+  EXPECT_EQ(after(9), std::nullopt) << "not yet looked again";
+  EXPECT_EQ(after(1), 1);
+  EXPECT_EQ(after(10), std::nullopt) << "nothing has changed";
+  receive("Ayşe", "başkası");
+  EXPECT_EQ(after(10), 1);
+  desk.station.ayarYaz("msg address", "Zeynep");
+  EXPECT_EQ(after(10), 0);
 }
 
 }  // namespace

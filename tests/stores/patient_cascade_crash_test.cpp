@@ -8,7 +8,7 @@
 namespace stores {
 namespace {
 
-constexpr int kills = 100;
+constexpr int kills = 60;
 
 std::string patient(int number) {
   return "Çağrı Işık " + std::to_string(number);
@@ -32,18 +32,23 @@ class CascadeCrashTest : public testing::Test {
     EXPECT_TRUE(CreateSmokingStore(stores.folder));
   }
 
-  // Lets the work run in a process of its own for some moments.
+  // Lets the work run in a process of its own, which tells each step that it has done, and ends it
+  // somewhere in the step behind the `steps` first ones, however fast or slow the disk is.
   template <class Work>
-  void interrupt(Work work) {
-    Signal ready;
+  void interrupt(int steps, Work work) {
+    using Clock = std::chrono::steady_clock;
+    Counter done;
     ChildProcess station([&] {
       Stores stores = openFew(folder_.path());
-      return ready.give() && work(stores);
+      return done.send(0) && work(stores, done);
     });
-    ASSERT_TRUE(ready.await());
-    const auto moment =
-        std::chrono::steady_clock::now() + std::chrono::microseconds(random_() % 4000);
-    while (std::chrono::steady_clock::now() < moment) continue;
+    for (int step = 0; step <= steps; ++step) {
+      const auto begun = Clock::now();
+      ASSERT_GE(done.receive(), 0);
+      if (step > 0) stepTime_ = Clock::now() - begun;
+    }
+    const auto moment = Clock::now() + stepTime_ * (random_() % 100) / 100;
+    while (Clock::now() < moment) continue;
     station.kill();
     std::error_code none;
     const auto journal = std::filesystem::file_size(folder_ / "Data/Sanavel.mdb-journal", none);
@@ -59,6 +64,7 @@ class CascadeCrashTest : public testing::Test {
 
   ProgramFolder folder_{inMemory()};
   std::minstd_rand random_{42};
+  std::chrono::steady_clock::duration stepTime_ = std::chrono::milliseconds(4);
   int interrupted_ = 0;  // how often the work was in the middle of a transaction
 };
 
@@ -85,9 +91,10 @@ TEST_F(CascadeCrashTest, ARenameIsInEveryTableOrInNone) {
   int current = 0;
   for (int round = 0; round < kills; ++round) {
     SCOPED_TRACE(round);
-    interrupt([&](Stores& stores) {
+    interrupt(round % 3, [&](Stores& stores, Counter& done) {
       for (int name = current;; ++name)
-        if (!renamePatient(stores, patient(name), patient(name + 1))) return false;
+        if (!renamePatient(stores, patient(name), patient(name + 1)) || !done.send(name))
+          return false;
     });
     Stores stores = openFew(folder_.path());
     expectSound(stores);
@@ -116,9 +123,9 @@ TEST_F(CascadeCrashTest, ADeleteIsInEveryTableOrInNone) {
         one = census(stores, patient(next));
       }
     }
-    interrupt([&](Stores& stores) {
+    interrupt(round % 3, [&](Stores& stores, Counter& done) {
       for (int number = next - patients; number < next; ++number)
-        if (!deletePatient(stores, patient(number))) return false;
+        if (!deletePatient(stores, patient(number)) || !done.send(number)) return false;
       return true;
     });
     Stores stores = openFew(folder_.path());

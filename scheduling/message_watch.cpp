@@ -1,0 +1,44 @@
+#include "scheduling/message_watch.h"
+
+#include "scheduling/message_board.h"
+
+namespace scheduling {
+
+namespace {
+
+constexpr int secondsBetween = 10;
+
+}  // namespace
+
+std::optional<long> MessageWatch::look() {
+  if (!isDue()) return std::nullopt;
+  Seen now = present();
+  if (now == seen_) return std::nullopt;
+  // A practice that has never written a message gets no file for it.
+  const auto messages =
+      now.size == 0 ? std::vector<files::Message>()
+                    : mesajlar(istasyon_, MessageView::New).value_or(std::vector<files::Message>());
+  seen_ = std::move(now);
+  return static_cast<long>(messages.size());
+}
+
+// A clock that was set back counts as time gone by.
+bool MessageWatch::isDue() {
+  const text::DateTime now = istasyon_.clock.now();
+  const bool sameDay = now.day == lookedAt_.day;
+  const int passed = now.seconds - lookedAt_.seconds;
+  if (sameDay && passed >= 0 && passed < secondsBetween) return false;
+  lookedAt_ = now;
+  return true;
+}
+
+MessageWatch::Seen MessageWatch::present() const {
+  const std::filesystem::path path = mesajDosyasi(istasyon_);
+  std::error_code missing;
+  Seen seen{std::filesystem::last_write_time(path, missing), 0, mesajAdresi(istasyon_)};
+  const std::uintmax_t size = std::filesystem::file_size(path, missing);
+  if (!missing) seen.size = size;
+  return seen;
+}
+
+}  // namespace scheduling
