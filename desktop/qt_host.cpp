@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 
 #include "desktop/bind/binding.h"
 #include "desktop/form_frame.h"
@@ -223,7 +224,9 @@ void QtHost::pause(int milliseconds) {
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
   // A window that stands in front of all others can be answered.
-  const bool modal = QApplication::activeModalWidget() != nullptr;
+  const bool modal = std::ranges::any_of(QApplication::topLevelWidgets(), [](QWidget* window) {
+    return window->isVisible() && window->isModal();
+  });
   loop.exec(modal ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -12,6 +12,8 @@ namespace {
 constexpr long fullBar = 1000;
 // Often enough to seem alive.
 constexpr std::chrono::milliseconds betweenPictures{40};
+// Enough for what is drawn and pressed; none at all would leave presses waiting.
+constexpr int answeringMilliseconds = 1;
 
 }  // namespace
 
@@ -44,7 +46,7 @@ void FrmCare::calis() {
 
 void FrmCare::tell(std::string state) {
   sbDurum.setPanel(1, std::move(state));
-  istasyon.host.pause(0);
+  istasyon.host.pause(answeringMilliseconds);
 }
 
 bool FrmCare::advance(std::int64_t thousandths) {
@@ -52,7 +54,7 @@ bool FrmCare::advance(std::int64_t thousandths) {
   const auto now = std::chrono::steady_clock::now();
   if (now - cizildi_ >= betweenPictures) {
     cizildi_ = now;
-    istasyon.host.pause(0);
+    istasyon.host.pause(answeringMilliseconds);
   }
   return !durduruldu_;
 }
