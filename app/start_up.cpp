@@ -96,6 +96,7 @@ Session::Outcome Session::start() {
   main_.Load();
   istasyon_.host.pause(splashMilliseconds);
   istasyon_.host.close(logo);
+  if (!main_.acildi()) return Outcome::Refused;
   if (!openingPassword()) {
     // What goes down with the program is done all the same; nothing was typed that could be lost.
     (void)main_.QueryUnload();

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 
 #include "desktop/bind/binding.h"
 #include "desktop/form_frame.h"
@@ -222,7 +223,11 @@ void QtHost::later(std::function<void()> task) {
 void QtHost::pause(int milliseconds) {
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  // A window that stands in front of all others can be answered.
+  const bool modal = std::ranges::any_of(QApplication::topLevelWidgets(), [](QWidget* window) {
+    return window->isVisible() && window->isModal();
+  });
+  loop.exec(modal ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
 }
 
 void QtHost::shellOpen(std::string_view target) {

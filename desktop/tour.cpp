@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QPixmap>
 #include <QTextStream>
+#include <QTimer>
+#include <QWindow>
 
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
@@ -14,7 +16,10 @@
 #include "desktop/tour_print.h"
 #include "platform/forms/menu.h"
 #include "search/frm_find.h"
+#include "shell/frm_care.h"
 #include "shell/frm_progress.h"
+#include "shell/phrases.h"
+#include "shell/text_lookup.h"
 #include "tools/message_maker.h"
 
 namespace desktop {
@@ -127,6 +132,7 @@ class Tour {
     daysList();
     if (album_.wants(QStringLiteral("FrmMain"))) takeVariants(suffix);
     progress(suffix);
+    crashMessage(suffix);
     istasyon_.SeciliHasta = patientWithResults(istasyon_);
     takeLaboratory(suffix);
     if (album_.wants(QStringLiteral("FrmExam"))) takeExaminations(suffix);
@@ -183,6 +189,30 @@ class Tour {
     takeTabs(album_, host_, screen, suffix);
     host_.close(screen);
     settle();
+    care(suffix);
+  }
+
+  // In the middle of its second store; no file is touched.
+  void care(const QString& suffix) {
+    shell::FrmCare screen(istasyon_, [&](shell::FrmCare& shown) {
+      shown.tell("Sanavel.mdb" + phrase(istasyon_, shell::Phrase::CareCompacting));
+      (void)shown.advance(440);
+      takeTabs(album_, host_, shown, suffix);
+    });
+    screen.Load();
+    host_.show(screen);
+    settle();
+  }
+
+  // What the user is told after a run that ended in the middle.
+  void crashMessage(const QString& suffix) {
+    QTimer::singleShot(0, [&] {
+      QWidget* const box = QApplication::activeModalWidget();
+      if (box == nullptr) return complain(QStringLiteral("no message"));
+      album_.take(*box, QStringLiteral("msghatalicikis") + suffix);
+      box->close();
+    });
+    istasyon_.bilgi(metinbul(istasyon_, "msghatalicikis"));
   }
 
   void takeVariants(const QString& suffix) {
@@ -288,7 +318,7 @@ class Tour {
   }
 
   void takePrescription(const QString& suffix) {
-    istasyon_.SeciliHasta = patientWithResults();
+    istasyon_.SeciliHasta = patientWithResults(istasyon_);
     SamplePrescription sample(host_, istasyon_);
     takeForm(sample.drugs(), QStringLiteral("-recete"), suffix);
     takeForm(sample.openWizard(), QStringLiteral("-recete"), suffix);

@@ -36,6 +36,7 @@ ViewRegistry programViews() {
   views.add("frmpass", passwordView);
   views.add("Frmkey", hiddenNamesView);
   views.add("frmprogress", progressView);
+  views.add("frmbakim", careView);
   views.add("frmabout", aboutView);
   views.add("frmmax", photoView);
   views.add("frmdrug", drugView);

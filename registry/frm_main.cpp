@@ -24,7 +24,7 @@ constexpr int defaultWidth = 1240;
 constexpr int defaultHeight = 780;
 constexpr auto letterheadAlone = "4";  // the name is the first line of the text
 constexpr auto windowName = "Main";
-constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Lresim"};
+constexpr std::array stateControls{"TxtEskiİsim", "txtkey", "txtfoto", "idk", "Lresim", "Netsıra"};
 
 }  // namespace
 
@@ -60,13 +60,12 @@ std::span<const shell::FieldRow> FrmMain::alanlar() const {
 void FrmMain::Load() {
   shell::bransmenusu(istasyon, *this);
   klasorleriAc();
-  const dao::Status opened = stores::OpenStores(istasyon.stores);
-  if (!opened)
-    istasyon.host.runtimeError(
-        {opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
-  alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+  acildi_ = netAc();
+  if (!acildi_) return;
+  depolariAc();
   basliklariYenile();
   Listeleriyaz();
+  netacilis();
   alanlaribosalt();
   Eskialanmain();
   baski.Setkayitlarioku();
@@ -75,14 +74,26 @@ void FrmMain::Load() {
   ayarlarioku();
   isimleriAc(false);
   tbToolBar.setButtonEnabled("muayene", false);
-  const bool anyone = !istasyon.stores.personal.IDCard.empty();
-  yonEtkin(Direction::Back, anyone);
-  yonEtkin(Direction::Forward, anyone);
+  yonleriAc();
   istasyon.settings.set(shell::applicationName, istasyon.BransAdi, "Path", istasyon.UygYolu)
       .ignore();
   shell::menuikon(*this);
   sbDurum.setPanel(6, istasyon.UygYolu);
   Txtİsim.setFocus();
+}
+
+void FrmMain::depolariAc() {
+  const dao::Status opened = stores::OpenStores(istasyon.stores);
+  if (!opened)
+    istasyon.host.runtimeError(
+        {opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
+  alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+}
+
+void FrmMain::yonleriAc() {
+  const bool anyone = !istasyon.stores.personal.IDCard.empty();
+  yonEtkin(Direction::Back, anyone);
+  yonEtkin(Direction::Forward, anyone);
 }
 
 void FrmMain::Activate() {
@@ -99,6 +110,7 @@ void FrmMain::Unload() {
   alanlaribosalt();
   ayarlariyaz();
   baski.setkayityaz().ignore();
+  netkapanis();
 }
 
 // Folders that cannot be made are met again, with a message, by the first file that is wanted in
@@ -113,6 +125,7 @@ void FrmMain::basliklariYenile() {
   RecordScreen::basliklariYenile();
   hakkindaYaz();
   gunlukBaslik();
+  netDurumu();
 }
 
 // The workspace is set up anew for its words; on a polyclinic copy the chosen speciality stays the

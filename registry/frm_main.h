@@ -87,6 +87,7 @@ class FrmMain : public shell::RecordScreen,
   forms::MenuItem mnuyedekle{MnuSecenek, "mnuyedekle"};
   forms::MenuItem mnugeriyukle{MnuSecenek, "mnugeriyukle"};
   forms::MenuItem mnuyedekdene{MnuSecenek, "mnuyedekdene"};
+  forms::MenuItem mnudosyabakimi{MnuSecenek, "mnudosyabakimi"};
   forms::MenuItem çizgi10{MnuSecenek, "çizgi10", forms::MenuKind::Separator};
   forms::MenuItem mnutamir{MnuSecenek, "mnutamir"};
   forms::MenuItem mnugebekart{MnuSecenek, "mnugebekart"};
@@ -164,7 +165,7 @@ class FrmMain : public shell::RecordScreen,
   forms::TextBox txttarih{*this, "txttarih"};
   forms::ListBox Liste{*this, "Liste"};
 
-  forms::StatusBar sbDurum{*this, "sbDurum", 6};
+  forms::StatusBar sbDurum{*this, "sbDurum", 7};
   forms::Timer Timer1{*this, "Timer1"};
 
   // --- State that never shows
@@ -172,6 +173,7 @@ class FrmMain : public shell::RecordScreen,
   forms::TextBox txtkey{*this, "txtkey"};            // "¬" hides the patient
   forms::Label idk{*this, "idk"};                    // the counter of the delayed search
   forms::Label Lresim{*this, "Lresim"};              // the splitter's place, setting CurX
+  forms::Label Netsıra{*this, "Netsıra"};            // this station's slot in the register
 
   documents::PrintMenu baski{
       istasyon, {mnuşablon, mnuonizleme, mnuyazdır}, *this, shell::font_record::card};
@@ -182,7 +184,9 @@ class FrmMain : public shell::RecordScreen,
   [[nodiscard]] std::string eskiAnahtar() const override { return TxtEskiİsim.text(); }
   [[nodiscard]] std::string& yedek() override { return istasyon.KartYedegi; }
 
+  // Leaves everything closed when another station cares for the files and the user does not wait.
   void Load() override;
+  [[nodiscard]] bool acildi() const { return acildi_; }
   void Activate() override;
   // The backup at exit comes before the save question.
   [[nodiscard]] bool QueryUnload() override;
@@ -234,6 +238,8 @@ class FrmMain : public shell::RecordScreen,
 
   // Restores the stores from the backup and empties the card: no row of the old stores stays on it.
   void mnugeriyukle_Click();
+  // The run of maintenance over the stores; the screen goes on with those that it leaves.
+  void dosyabakimi();
 
   // Fits the photograph into its panel.
   void ResimBoyutla();
@@ -245,6 +251,7 @@ class FrmMain : public shell::RecordScreen,
   enum class Direction { Back, Forward };
   // A name is not kept when its patient was loaded instead, or was to be and the card stayed.
   enum class NameCheck { Kept, NotKept };
+  enum class Taken { Ours, Missing, Elsewhere };
 
   void menuleriBagla();
   void araclariKur();
@@ -255,6 +262,7 @@ class FrmMain : public shell::RecordScreen,
   bool tusBas(std::string_view key) override;
   void yonEtkin(Direction direction, bool enabled);
   void adim(Direction direction);
+  bool ilkAcilan(Direction direction, bool found);
 
   // Ends what was typed into the name field: the case of a listed name, then the namesake question.
   NameCheck isimBitti();
@@ -263,7 +271,7 @@ class FrmMain : public shell::RecordScreen,
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
-  void hastayiGoster(const std::string& name);
+  bool hastayiGoster(const std::string& name);
   void saatVurusu();
   void digerleriniGor();
   void isimYazildi();
@@ -285,6 +293,20 @@ class FrmMain : public shell::RecordScreen,
   [[nodiscard]] bool gizliHasta(const std::string& name);
   void gunuTazele();
 
+  // The register of stations: held from before the stores open until the window is gone.
+  [[nodiscard]] bool netAc();
+  void netacilis();
+  void netkapanis();
+  void yalnizAcildi(bool alone);
+  void yerAl();
+  bool netSay(int stations);
+  void netDurumu();
+  // Looks Station::SeciliHasta up and takes the patient for this station.
+  [[nodiscard]] Taken hastayiTut();
+  // Shows the card that was looked up.
+  void hastayiYukle();
+  [[nodiscard]] dao::Status tutarakYaz();
+
   [[nodiscard]] dao::Status kartiYenile(const std::string& name);
   [[nodiscard]] bool dogumSaklanir();
 
@@ -303,6 +325,8 @@ class FrmMain : public shell::RecordScreen,
   void fotoSec();
 
   void klasorleriAc();
+  void depolariAc();
+  void yonleriAc();
   void ayarlarioku();
   void ayarlariyaz();
   void basliklariYenile() override;
@@ -313,6 +337,10 @@ class FrmMain : public shell::RecordScreen,
   // from it under another one.
   bool gizliYuklu_ = false;
   bool ayarlarOkunuyor_ = true;
+  bool acildi_ = false;
+  bool hataliCikis_ = false;    // the last run ended without netkapanis
+  bool sayildi_ = false;        // this run stands in the setting NS
+  platform::Status yalnizlik_;  // why this station has no slot
   NameSearch isimler_;
   // Tasks that were put off look whether the card is still there.
   std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);

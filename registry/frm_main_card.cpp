@@ -7,6 +7,7 @@
 #include "shell/age.h"
 #include "shell/blood_groups.h"
 #include "shell/list_completion.h"
+#include "shell/patient_lock.h"
 #include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/speciality.h"
@@ -63,13 +64,21 @@ void FrmMain::Listeleriyaz() {
 }
 
 bool FrmMain::hastaoku() {
-  dao::Recordset& cards = tablo();
-  const bool found =
-      !istasyon.SeciliHasta.empty() && cards.Seek("=", istasyon.SeciliHasta) && !cards.NoMatch();
-  if (!found) {
+  const Taken taken = hastayiTut();
+  if (taken == Taken::Elsewhere) {
+    istasyon.bilgi(istasyon.SeciliHasta + metinbul(istasyon, "msgagdaislem"));
+    Txtİsim.setText(TxtEskiİsim.text());
+  }
+  if (taken != Taken::Ours) {
     istasyon.SeciliHasta = TxtEskiİsim.text();
     return false;
   }
+  hastayiYukle();
+  return true;
+}
+
+void FrmMain::hastayiYukle() {
+  dao::Recordset& cards = tablo();
   const bool hidden = gizliMi(cards.Fields("Key").text());
   alanlariYukle();
   if (hidden) Txtİsim.setText("");
@@ -86,7 +95,6 @@ bool FrmMain::hastaoku() {
   etkinlestir(mnusil, "Delete", !hidden);
   ButtonsForPatient();
   durumYaz({});
-  return true;
 }
 
 // The card and, under another name, all that carried the old one: everything or nothing.
@@ -131,7 +139,7 @@ void FrmMain::listelereEkle() {
 void FrmMain::kayityap() {
   Txtİsim.setText(text::trim(Txtİsim.text()));
   isimDegistiSor(Txtİsim, TxtEskiİsim.text());
-  const dao::Status written = kartiYaz();
+  const dao::Status written = tutarakYaz();
   if (!written) return kaydedilemedi(written);
   TxtEskiİsim.setText(Txtİsim.text());
   hastayiGoster(Txtİsim.text());
@@ -175,6 +183,7 @@ void FrmMain::alanlaribosalt() {
   Txtyaş.setVisible(false);
   txtyaşı.setCaption("");
   istasyon.SeciliHasta.clear();
+  shell::hastaBirak(istasyon);
   listeyiKapat();
   ButtonsForPatient();
   durumYaz({});

@@ -99,6 +99,9 @@ void FrmMain::menuleriBagla() {
   mnuileri.Click.connect([this] { adim(Direction::Forward); });
   mnugeriyukle.Click.connect([this] { mnugeriyukle_Click(); });
   mnuyedekdene.Click.connect([this] { shell::yedegiDene(istasyon); });
+  mnudosyabakimi.Click.connect([this] {
+    if (kayitkontrol()) dosyabakimi();
+  });
   mnutamir.Click.connect([this] { Tamir2(); });
   mnugebekart.Click.connect([this] { Command1(); });
   mnugeri.setShortcut("Ctrl+PgUp");
@@ -148,7 +151,7 @@ void FrmMain::yeniMesaj(long count) {
   const std::string caption = shell::metinbul(istasyon, count > 0 ? "yenimesajlar" : "Mesaj");
   tbToolBar.setButtonToolTip("mesaj",
                              count > 0 ? caption + " (" + std::to_string(count) + ")" : caption);
-  sbDurum.setPanel(4, count > 0 ? tbToolBar.button("mesaj")->toolTip : std::string());
+  sbDurum.setPanel(7, count > 0 ? tbToolBar.button("mesaj")->toolTip : std::string());
 }
 
 void FrmMain::muayenetus() {
@@ -199,12 +202,24 @@ void FrmMain::adim(Direction direction) {
   } else {
     found = cards.Seek(back ? "<" : ">", Txtİsim.text()) && !cards.NoMatch();
   }
-  while (found && gizliMi(cards.Fields("Key").text())) {
-    found = (back ? cards.MovePrevious() : cards.MoveNext()) && !cards.Eof() && !cards.Bof();
-  }
-  if (!found) return yonEtkin(direction, false);
-  hastayiGoster(cards.Fields("Name").text());
+  if (!ilkAcilan(direction, found)) return yonEtkin(direction, false);
   yonEtkin(back ? Direction::Forward : Direction::Back, true);
+}
+
+// From the current record on, the first card that may be shown. One that another station has open
+// says so and is passed over.
+bool FrmMain::ilkAcilan(Direction direction, bool found) {
+  dao::Recordset& cards = tablo();
+  const bool back = direction == Direction::Back;
+  for (;;) {
+    while (found && gizliMi(cards.Fields("Key").text())) {
+      found = (back ? cards.MovePrevious() : cards.MoveNext()) && !cards.Eof() && !cards.Bof();
+    }
+    if (!found) return false;
+    const std::string name = cards.Fields("Name").text();
+    if (hastayiGoster(name)) return true;
+    found = cards.Seek(back ? "<" : ">", name) && !cards.NoMatch();
+  }
 }
 
 }  // namespace registry

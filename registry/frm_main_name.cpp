@@ -126,9 +126,11 @@ void FrmMain::hastaSec(const std::string& name) {
   listeyiKapat();
 }
 
-void FrmMain::hastayiGoster(const std::string& name) {
+bool FrmMain::hastayiGoster(const std::string& name) {
   istasyon.SeciliHasta = name;
-  if (hastaoku()) Eskialanmain();
+  if (!hastaoku()) return false;
+  Eskialanmain();
+  return true;
 }
 
 bool FrmMain::secimdenOnce() {

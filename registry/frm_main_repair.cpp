@@ -152,12 +152,15 @@ void FrmMain::Command1() {
 }
 
 // Loads the card and stores it, hidden or not: it never shows, since the screen is cleared before
-// the window draws. Refused where the save would lose something: a name that stands under another
-// key when its blanks are cut off, a birth field that is neither date nor year, a date beside a
-// year, a sex beyond the list.
+// the window draws. Whoever has the patient open loses nothing by it: what is written was read in
+// the same transaction. Refused where the save would lose something: a name that stands under
+// another key when its blanks are cut off, a birth field that is neither date nor year, a date
+// beside a year, a sex beyond the list.
 dao::Status FrmMain::kartiYenile(const std::string& name) {
-  istasyon.SeciliHasta = name;
-  if (!hastaoku()) return {};  // deleted meanwhile
+  const dao::Status found = tablo().Seek("=", name);
+  if (!found) return found;
+  if (tablo().NoMatch()) return {};  // deleted meanwhile
+  hastayiYukle();
   Txtİsim.setText(name);
   TxtEskiİsim.setText(name);
   const dao::Status sought = tablo().Seek("=", text::trim(name));

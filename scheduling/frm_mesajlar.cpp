@@ -83,6 +83,7 @@ void FrmMesajlar::Load() {
                    metinbul(istasyon_, "Kimden"));
   }
   msgrid1.setToolTip(phrase(istasyon_, Phrase::NoMessages));
+  tbToolBar.setButtonToolTip("yanit", phrase(istasyon_, Phrase::Reply));
   adresGoster();
   gorunumSec(secilenGorunum(istasyon_).view);
   Timer1.setInterval(tickMilliseconds);

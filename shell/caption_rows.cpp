@@ -69,6 +69,7 @@ constexpr std::array menuRows{
     CaptionRow{"mnusecenekler", "secenek", Menu},
     CaptionRow{"mnuyedekle", "Yedekle", Menu},
     CaptionRow{"mnugeriyukle", "geriyukle", Menu},
+    CaptionRow{"mnudosyabakimi", "dosyabakimi", Menu},
     CaptionRow{"MnuYardim", "yardim", Menu},
     CaptionRow{"mnuhakkinda", "hakkinda", Menu},
 };

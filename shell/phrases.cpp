@@ -38,6 +38,27 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::CardsFromPregnancies, "Add Cards from Pregnancies", "Gebeliklerden Kart Ekle"},
     {Phrase::CardsAdded, "Cards added: ", "Eklenen kart: "},
     {Phrase::CardsPassedOver, "Cards that could not be saved: ", "Kaydedilemeyen kart: "},
+    {Phrase::StationNumber, "station ", "istasyon "},
+    {Phrase::WithoutRegister,
+     "alone, without a station register: ", "tek başına, istasyon kaydı yok: "},
+    {Phrase::CareElsewhere,
+     "Another station is maintaining the files.\nOK tries again, Cancel leaves the program closed.",
+     "Başka bir istasyonda dosya bakımı yapılıyor.\nTamam yeniden dener, İptal programı kapalı "
+     "bırakır."},
+    {Phrase::CareNeedsAlone,
+     "Nothing was done to the files: other stations are running.\nClose the program there and "
+     "start "
+     "the maintenance again.",
+     "Dosyalara dokunulmadı: başka istasyonlar açık.\nOralarda programı kapatıp bakımı yeniden "
+     "başlatınız."},
+    {Phrase::CareUnsure,
+     "Nothing was done to the files: it cannot be told whether other stations are running.\n",
+     "Dosyalara dokunulmadı: başka istasyonların açık olup olmadığı bilinemiyor.\n"},
+    {Phrase::CareChecking, ": checking", ": denetleniyor"},
+    {Phrase::CareCompacting, ": compacting", ": sıkıştırılıyor"},
+    {Phrase::CareSound, ": sound, compacted, ", ": sağlam, sıkıştırıldı, "},
+    {Phrase::CareMended, ": damage found and mended, ", ": hasar bulundu ve giderildi, "},
+    {Phrase::CareLeft, ": left as it was: ", ": olduğu gibi bırakıldı: "},
     {Phrase::NobodyFound, "Nobody fits all filters. Go back and clear some of them.",
      "Tüm filtrelere uyan hasta yok. Geri dönüp bazı filtreleri boşaltınız."},
     {Phrase::SearchStopped, "stopped", "durduruldu"},

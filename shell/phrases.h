@@ -31,6 +31,16 @@ enum class Phrase {
   CardsFromPregnancies,
   CardsAdded,       // a number follows
   CardsPassedOver,  // a number follows
+  StationNumber,    // a number follows
+  WithoutRegister,  // a reason follows
+  CareElsewhere,
+  CareNeedsAlone,
+  CareUnsure,    // a reason follows
+  CareChecking,  // a file's name stands in front of this and the rest
+  CareCompacting,
+  CareSound,  // sizes follow
+  CareMended,
+  CareLeft,  // a reason follows
   NobodyFound,
   SearchStopped,
   ClearFilters,

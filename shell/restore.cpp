@@ -6,6 +6,7 @@
 #include "shell/background_work.h"
 #include "shell/backup.h"
 #include "shell/file_words.h"
+#include "shell/station_register.h"
 #include "shell/text_lookup.h"
 #include "stores/restore.h"
 #include "stores/restore_drill.h"
@@ -103,12 +104,32 @@ void eksikleriSoyle(Station& istasyon, const fs::path& backup) {
   }
 }
 
-// A station that has a store open goes on with the file that was replaced, and loses what it saves.
-bool yalnizMi(Station& istasyon) {
-  if (stores::unusedNow(istasyon.UygYolu)) return true;
+// A station that has a store open goes on with the file that was replaced, and loses what it saves:
+// as long as this lives, no other one is here or comes in. Where there is no register, stations
+// that are reading or writing are seen at least.
+class Alone {
+ public:
+  explicit Alone(Station& istasyon)
+      : register_(istasyon.sicil),
+        held_(register_.isOpen() && register_.tryAlone() == true),
+        granted_((held_ || !register_.isOpen()) && stores::unusedNow(istasyon.UygYolu)) {}
+  Alone(const Alone&) = delete;
+  Alone& operator=(const Alone&) = delete;
+  ~Alone() {
+    if (held_) register_.letIn();
+  }
+
+  [[nodiscard]] bool granted() const { return granted_; }
+
+ private:
+  StationRegister& register_;
+  bool held_;
+  bool granted_;
+};
+
+void yalnizDegil(Station& istasyon) {
   istasyon.mesaj(phrase(istasyon, Phrase::RestoreWantsAlone), host::Buttons::Ok,
                  host::Icon::Critical);
-  return false;
 }
 
 std::string denemeSonucu(Station& istasyon, const stores::DrillReport& report,
@@ -123,7 +144,8 @@ std::string denemeSonucu(Station& istasyon, const stores::DrillReport& report,
 
 bool mnugeriyukle_Click(Station& istasyon) {
   const fs::path backup = yedekKlasoru(istasyon);
-  if (!yalnizMi(istasyon)) return false;
+  const Alone alone(istasyon);
+  if (!alone.granted()) return yalnizDegil(istasyon), false;
   const Kinds wanted = istenenler(istasyon, backup);
   if (!wanted.empty()) {
     stores::CloseStores(istasyon.stores);

@@ -14,6 +14,7 @@
 #include "shell/patient_card.h"
 #include "shell/picture_exchange.h"
 #include "shell/screen_directory.h"
+#include "shell/station_register.h"
 #include "stores/stores.h"
 
 namespace page {
@@ -63,6 +64,9 @@ struct Station {
   PictureExchange Resimler;    // the six shared slots of the picture archive
 
   stores::Stores stores;
+  StationRegister sicil;        // Data/net.dat,
+  files::NetRecord AgKaydi;     // this station's record in it,
+  bool RandevuDegisti = false;  // and a change of the appointment book that nobody looked at yet
   // Where pages are printed; not owned. Null where nobody can print.
   page::Printer* yazici = nullptr;
 

@@ -132,6 +132,25 @@ std::unique_ptr<QWidget> progressView(forms::Form& form) {
   return std::move(dialog.window);
 }
 
+std::unique_ptr<QWidget> careView(forms::Form& form) {
+  Dialog dialog;
+  dialog.window->setMinimumWidth(characters(*dialog.window, progressCharacters));
+  auto* const text = new QLabel(dialog.window.get());
+  bind(*text, control<forms::Label>(form, "Lmetin"));
+  auto* const bar = new QProgressBar(dialog.window.get());
+  bind(*bar, control<forms::ProgressBar>(form, "PBdurum"));
+  auto* const state = new QLabel(dialog.window.get());
+  state->setForegroundRole(QPalette::PlaceholderText);
+  auto* const below = new QHBoxLayout;
+  below->addWidget(state, 1);
+  below->addWidget(dialog.button(form, "butdurdur"));
+  dialog.column->addWidget(text);
+  dialog.column->addWidget(bar);
+  dialog.column->addLayout(below);
+  bindStatus(*dialog.window, control<forms::StatusBar>(form, "sbDurum"), {state});
+  return std::move(dialog.window);
+}
+
 std::unique_ptr<QWidget> aboutView(forms::Form& form) {
   Dialog dialog;
   for (forms::Control* shown : form.controls()) {

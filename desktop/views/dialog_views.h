@@ -12,6 +12,7 @@ namespace desktop {
 [[nodiscard]] std::unique_ptr<QWidget> passwordView(forms::Form& form);
 [[nodiscard]] std::unique_ptr<QWidget> hiddenNamesView(forms::Form& form);
 [[nodiscard]] std::unique_ptr<QWidget> progressView(forms::Form& form);
+[[nodiscard]] std::unique_ptr<QWidget> careView(forms::Form& form);
 [[nodiscard]] std::unique_ptr<QWidget> aboutView(forms::Form& form);
 
 }  // namespace desktop

@@ -57,7 +57,7 @@ class Host {
 
   // Runs the task when the present event was handled, so that long work can be done in slices.
   virtual void later(std::function<void()> task) = 0;
-  // Lets the windows draw for that long.
+  // Lets the windows draw for that long; a modal one answers its user meanwhile.
   virtual void pause(int milliseconds) = 0;
   virtual void shellOpen(std::string_view target) = 0;
   virtual void beep() = 0;

@@ -89,6 +89,8 @@ struct WindowDesk {
         station({host, clock, settings, screens}, folder.path(), program) {
     station.yazici = &printer;
     station.ayarYaz("Language", language);
+    // Without it the message screen asks for it.
+    station.ayarYaz("msg address", "Dr. Işık Çağlayan");
     host.setWords([this](std::string_view key) { return shell::metinbul(station, key); });
   }
 

@@ -191,4 +191,14 @@ TEST_F(Restore, AnotherStationThatSavesKeepsEverythingAsItIs) {
   EXPECT_EQ(cards(), 2);
 }
 
+TEST_F(Restore, AnotherStationThatIsOnlyOpenKeepsEverythingAsItIs) {
+  support::Desk second(folder.path());
+  registry::FrmMain idle(second.station);
+  idle.Load();
+  desk.host.expect("başka bir istasyon", host::Answer::Ok);
+  main.mnugeriyukle.press();
+  EXPECT_EQ(cards(), 2);
+  idle.Unload();
+}
+
 }  // namespace

@@ -93,9 +93,11 @@ TEST_F(NamedRows, StayWithACardThatCannotBeDeleted) {
   EXPECT_EQ(main.Txtİsim.text(), "Ali Can");
 }
 
-// Two desks have the patient on the card; one renames, the other does not know.
+// Two desks have the patient on the card, one of them without a place in the register; one renames,
+// the other does not know.
 TEST_F(NamedRows, OfAPatientRenamedElsewhereAreNotDeletedUnderTheOldName) {
   CardDesk other(folder.path());
+  other.station.sicil.close();
   other.load("Ali Can");
   typeOver("Ayşe Su");
   answer(host::Answer::Yes);

@@ -23,8 +23,8 @@ MessageRecord note(const std::string& subject) {
 
 std::vector<std::string> subjectsIn(const std::filesystem::path& path) {
   std::vector<std::string> subjects;
-  for (const Message& message : *files::readMessages(path))
-    subjects.push_back(message.record.subject);
+  const auto messages = files::readMessages(path).value();
+  for (const Message& message : messages) subjects.push_back(message.record.subject);
   return subjects;
 }
 

@@ -1,0 +1,130 @@
+// This station among others: its place in the register, the patient that it holds, and the run of
+// maintenance, for which it must be alone.
+#include "platform/text/number.h"
+#include "registry/frm_main.h"
+#include "shell/file_care.h"
+#include "shell/patient_lock.h"
+#include "shell/phrases.h"
+#include "shell/text_lookup.h"
+
+namespace registry {
+
+namespace {
+
+using platform::Fault;
+using platform::Status;
+using shell::PatientLock;
+using shell::Phrase;
+using Company = shell::StationRegister::Company;
+
+constexpr auto runningStations = "NS";
+
+}  // namespace
+
+// Comes before the stores: nobody may open them while another station exchanges their files.
+bool FrmMain::netAc() {
+  for (;;) {
+    const auto company = shell::OpenStationRegister(istasyon);
+    if (!company && company.error().fault() == Fault::Busy) {
+      const auto answer = istasyon.mesaj(phrase(istasyon, Phrase::CareElsewhere),
+                                         host::Buttons::OkCancel, host::Icon::Information);
+      if (answer == host::Answer::Ok) continue;
+      return false;
+    }
+    yalnizlik_ = company ? Status() : company.error();
+    yalnizAcildi(company && *company == Company::Alone);
+    return true;
+  }
+}
+
+// The others wait only for a run of maintenance.
+void FrmMain::yalnizAcildi(bool alone) {
+  if (alone) shell::removeLeftovers(istasyon);
+  hataliCikis_ = alone && text::Val(istasyon.ayar(runningStations, "0")) != 0;
+  if (!hataliCikis_) istasyon.sicil.letIn();
+}
+
+void FrmMain::netacilis() {
+  if (hataliCikis_) {
+    istasyon.bilgi(metinbul(istasyon, "msghatalicikis"));
+    dosyabakimi();
+    istasyon.ayarYaz(runningStations, "0");
+  }
+  if (istasyon.sicil.isOpen()) yerAl();
+  netDurumu();
+}
+
+void FrmMain::yerAl() {
+  const auto slot = istasyon.sicil.takeSlot();
+  istasyon.sicil.letIn();
+  yalnizlik_ = slot ? Status() : slot.error();
+  if (!slot) return;
+  istasyon.AgKaydi.used = 1;
+  Netsıra.setCaption(std::to_string(*slot));
+  sayildi_ = netSay(1);
+}
+
+// As one step: other stations of the user count, too.
+bool FrmMain::netSay(int stations) {
+  return istasyon.settings
+      .add(shell::applicationName, shell::mainSection, runningStations, stations)
+      .has_value();
+}
+
+void FrmMain::netkapanis() {
+  istasyon.sicil.close();
+  istasyon.AgKaydi = {};
+  if (sayildi_ && text::Val(istasyon.ayar(runningStations, "0")) > 0) netSay(-1);
+  sayildi_ = false;
+}
+
+void FrmMain::netDurumu() {
+  const std::string& slot = Netsıra.caption();
+  sbDurum.setPanel(4, slot.empty() ? phrase(istasyon, Phrase::WithoutRegister) + yalnizlik_.text()
+                                   : phrase(istasyon, Phrase::StationNumber) + slot);
+}
+
+// Looked up and taken in one step: no rename or delete of another station comes in between. The
+// name is compared as it is stored, however it was typed.
+FrmMain::Taken FrmMain::hastayiTut() {
+  dao::Recordset& cards = tablo();
+  if (istasyon.SeciliHasta.empty()) return Taken::Missing;
+  auto lock = PatientLock::take(istasyon);
+  if (!lock) return Taken::Elsewhere;
+  if (!cards.Seek("=", istasyon.SeciliHasta) || cards.NoMatch()) return Taken::Missing;
+  const std::string name = cards.Fields("Name").text();
+  if (lock->isElsewhere(name)) return Taken::Elsewhere;
+  lock->publish(name);
+  return Taken::Ours;
+}
+
+// A name that is new to this station is written and taken in one step: nobody can load the card in
+// between.
+dao::Status FrmMain::tutarakYaz() {
+  const std::string name = Txtİsim.text();
+  if (shell::slotName(name) == istasyon.AgKaydi.name) return kartiYaz();
+  auto lock = PatientLock::take(istasyon);
+  if (!lock) return lock.error();
+  if (lock->isElsewhere(name))
+    return {Fault::Exists, name + ": " + phrase(istasyon, Phrase::NameTaken)};
+  const dao::Status written = kartiYaz();
+  if (written) lock->publish(name);
+  return written;
+}
+
+// The recordsets are new ones. A card on the screen is read again; what failed to open before the
+// run may be there now.
+void FrmMain::dosyabakimi() {
+  const bool wasOpen = istasyon.stores.personal.database.isOpen();
+  listeyiKapat();
+  shell::dosyabakimi(istasyon);
+  if (!wasOpen) {
+    alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+    Listeleriyaz();
+    Yeni();
+  }
+  gunlukListele();
+  if (!TxtEskiİsim.text().empty()) hastayiGoster(TxtEskiİsim.text());
+}
+
+}  // namespace registry

@@ -1,0 +1,166 @@
+#include "shell/station_register.h"
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+
+#include "platform/text/codepage.h"
+#include "platform/text/utf8.h"
+
+namespace shell {
+
+namespace {
+
+using files::NetRecord;
+using files::ProcessLock;
+using files::RecordFile;
+using platform::Fault;
+using platform::Result;
+using platform::Status;
+using std::chrono::milliseconds;
+
+constexpr auto registerFile = "Data/net.dat";
+// Behind all slots: the lock on it stands for the register as a whole.
+constexpr long wholeRegister = StationRegister::mostStations + 1;
+constexpr std::ptrdiff_t nameWidth = 40;
+
+// The same in every station, whatever machine it runs on.
+std::uint64_t fingerprint(std::string_view text) {
+  std::uint64_t hash = 14695981039346656037U;
+  for (const char byte : text) hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211U;
+  return hash;
+}
+
+void empty(const std::string& path) {
+  std::error_code passedOver;  // what a crashed station left is overwritten slot by slot
+  std::filesystem::resize_file(path, 0, passedOver);
+}
+
+}  // namespace
+
+std::string slotName(std::string_view name) {
+  const std::string trimmed = text::trim(name);
+  std::string held = text::fromTurkishCodePage(text::toTurkishCodePage(trimmed));
+  if (held == trimmed && static_cast<std::ptrdiff_t>(text::length(held)) <= nameWidth) return held;
+  std::array<char, 18> number{};
+  std::snprintf(number.data(), number.size(), "#%016llx",
+                static_cast<unsigned long long>(fingerprint(trimmed)));
+  return text::left(held, nameWidth - 17) + number.data();
+}
+
+Result<StationRegister::Company> StationRegister::open(const std::string& folder,
+                                                       milliseconds patience) {
+  close();
+  path_ = folder + registerFile;
+  auto company = ProcessLock::open(path_);
+  if (!company) return std::unexpected(company.error());
+  const auto alone = company->tryAlone();
+  if (!alone) return std::unexpected(alone.error());
+  if (*alone) {
+    empty(path_);
+  } else if (const Status shared = company->share(patience); !shared) {
+    return std::unexpected(shared);
+  }
+  auto file = RecordFile::open(path_, NetRecord::length);
+  if (!file) return std::unexpected(file.error());
+  company_.emplace(std::move(*company));
+  file_.emplace(std::move(*file));
+  return *alone ? Company::Alone : Company::Others;
+}
+
+Result<bool> StationRegister::tryAlone() {
+  if (!company_) return std::unexpected(Status(Fault::NoCurrent, path_));
+  return company_->tryAlone();
+}
+
+// Whoever holds the file already is not kept waiting for it.
+void StationRegister::letIn() {
+  if (company_) company_->share(milliseconds{0}).ignore();
+}
+
+void StationRegister::close() {
+  if (slot_ > 0) {
+    const auto guard = lock();
+    writeOwn(NetRecord()).ignore();
+  }
+  slot_ = 0;
+  hold_.reset();
+  file_.reset();
+  if (company_ && company_->tryAlone() == true) {
+    std::error_code passedOver;  // the next station that is alone empties it
+    std::filesystem::remove(path_, passedOver);
+  }
+  company_.reset();
+}
+
+Result<files::ScopedRangeLock> StationRegister::lock() const {
+  if (!file_) return std::unexpected(Status(Fault::NoCurrent, path_));
+  return file_->lock(wholeRegister);
+}
+
+Result<long> StationRegister::takeSlot() {
+  const auto guard = lock();
+  if (!guard) return std::unexpected(guard.error());
+  for (long slot = 1; slot <= mostStations; ++slot) {
+    auto mine = file_->lock(slot, milliseconds{0});
+    if (!mine && mine.error().fault() == Fault::Busy) continue;
+    if (!mine) return std::unexpected(mine.error());
+    NetRecord record;
+    record.used = 1;
+    if (const Status written = file_->put(slot, record.encode()); !written)
+      return std::unexpected(written);
+    hold_.emplace(std::move(*mine));
+    return slot_ = slot;
+  }
+  return std::unexpected(Status(Fault::Other, path_));
+}
+
+Result<bool> StationRegister::isElsewhere(std::string_view name) const {
+  const std::string wanted = slotName(name);
+  const auto count = file_ ? file_->count() : Result<long>(0);
+  if (!count) return std::unexpected(count.error());
+  for (long slot = 1; slot <= *count && !wanted.empty(); ++slot) {
+    if (slot == slot_) continue;
+    const auto other = read(slot);
+    if (!other) return std::unexpected(other.error());
+    if (other->used != 0 && other->name == wanted && isRunning(slot)) return true;
+  }
+  return false;
+}
+
+Result<NetRecord> StationRegister::own() const {
+  return read(slot_);
+}
+
+Status StationRegister::writeOwn(const NetRecord& record) {
+  if (!file_ || slot_ == 0) return {Fault::NoCurrent, path_};
+  return file_->put(slot_, record.encode());
+}
+
+Status StationRegister::flagOthers() {
+  const auto count = file_ ? file_->count() : Result<long>(0);
+  if (!count) return count.error();
+  for (long slot = 1; slot <= *count; ++slot) {
+    auto other = read(slot);
+    if (!other) return other.error();
+    if (slot == slot_ || other->used == 0) continue;
+    other->appointmentFlag = 1;
+    if (const Status written = file_->put(slot, other->encode()); !written) return written;
+  }
+  return {};
+}
+
+Result<NetRecord> StationRegister::read(long slot) const {
+  if (!file_) return std::unexpected(Status(Fault::NoCurrent, path_));
+  const auto record = file_->get(slot);
+  if (!record) return std::unexpected(record.error());
+  return NetRecord::decode(record->buffer);
+}
+
+// Nobody else asks at the same moment, so that a slot that can be locked has lost its station.
+bool StationRegister::isRunning(long slot) const {
+  return !file_->lock(slot, milliseconds{0});
+}
+
+}  // namespace shell
