@@ -1,9 +1,9 @@
 // What is left of a practice whose stations are killed in the middle of their work.
 // Usage: kill_bench [kills [patients [seed]]]
 //
-// A station saves, renames or maintains without a pause and tells what has succeeded; it is killed
-// at a random moment. Then every store is checked, what was told is looked for, and its place in
-// the register must be free.
+// A station saves, renames, maintains or backs up without a pause and tells what has succeeded; it
+// is killed at a random moment. Then every store and every copy in the backup is checked, what was
+// told is looked for, and its place in the register must be free.
 #include <array>
 #include <atomic>
 #include <random>
@@ -11,6 +11,7 @@
 #include "bench/bench_desk.h"
 #include "bench/child.h"
 #include "platform/text/number.h"
+#include "stores/backup.h"
 #include "stores/smoking_store.h"
 #include "stores/store_care.h"
 
@@ -18,7 +19,7 @@ namespace {
 
 using namespace bench;
 
-constexpr std::array works{"save", "rename", "maintenance"};
+constexpr std::array works{"save", "rename", "maintenance", "backup"};
 constexpr std::array storeFiles{"Personal.mdb", "Sanavel.mdb", "Smoke.mdb"};
 constexpr auto patient = "Ölçüm Hastası";
 constexpr long mostDoneBefore = 3;
@@ -73,6 +74,18 @@ void maintainForEver(Desk& desk, Told& told) {
   }
 }
 
+std::string backupOf(const std::string& folder) {
+  return folder + "/Backup";
+}
+
+void backUpForEver(const std::string& folder, Told& told) {
+  told.started = true;
+  for (;;) {
+    need(stores::backUp(folder, backupOf(folder), stores::storeKinds));
+    ++told.done;
+  }
+}
+
 struct Losses {
   int unsound = 0;
   int lost = 0;
@@ -96,6 +109,9 @@ std::int64_t count(dao::Database& store, const std::string& table, const std::st
 void checkSound(const std::string& folder, Losses& losses) {
   for (const char* file : storeFiles)
     losses.unsound += opened(folder, file).integrityCheck() ? 0 : 1;
+  for (const stores::StoreKind& kind : stores::storeKinds)
+    losses.unsound +=
+        stores::checkStore(backupOf(folder) + "/" + std::string(kind.file), kind) ? 0 : 1;
 }
 
 // The save under way when the kill came may be there or not. Both answer with what is there.
@@ -156,11 +172,14 @@ void prepare(const std::string& folder, std::size_t patients) {
     if (!added) fail(added.error().text());
   }
   desk.main.Unload();
+  std::filesystem::create_directory(backupOf(folder));
+  need(stores::backUp(folder, backupOf(folder), stores::storeKinds));
 }
 
 constexpr std::size_t saving = 0;
 constexpr std::size_t renaming = 1;
 constexpr std::size_t maintaining = 2;  // wants to be alone
+constexpr std::size_t backingUp = 3;
 
 class Trial {
  public:
@@ -179,7 +198,7 @@ class Trial {
   std::array<long, works.size()> told_{};
   std::array<long, works.size()> succeeded_{};
   std::array<int, works.size()> killed_{};
-  std::array<double, works.size()> usual_{20, 20, 20};  // milliseconds for one
+  std::array<double, works.size()> usual_{20, 20, 20, 20};  // milliseconds for one
   Losses losses_;
 };
 
@@ -187,6 +206,7 @@ void Trial::station(std::size_t work, Told& told) const {
   Desk desk(folder_);
   if (work == saving) saveForEver(desk, told);
   if (work == renaming) renameForEver(desk, told);
+  if (work == backingUp) backUpForEver(folder_, told);
   maintainForEver(desk, told);
 }
 
