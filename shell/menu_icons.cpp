@@ -10,7 +10,7 @@ namespace shell {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 25> icons{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 28> icons{{
     {"mnuyeni", "New"},
     {"mnukaydet", "Save"},
     {"mnusil", "Delete"},
@@ -28,6 +28,9 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 25> icons{{
     {"mnutestfiltrele", "filtre"},
     {"mnugrafik", "grafik"},
     {"mnutestdüzenle", "testler"},
+    {"mnuyedekle", "beckup"},
+    {"mnugeriyukle", "restore"},
+    {"mnudosyabakimi", "care"},
     {"mnumesajlar", "mesaj"},
     {"mnuhesaplar", "invoice"},
     {"mnumesajyaz", "yaz"},
