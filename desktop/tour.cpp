@@ -1,15 +1,13 @@
 #include "desktop/tour.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QPixmap>
-#include <QTextStream>
 #include <QTimer>
 #include <QWindow>
 
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
 #include "desktop/text.h"
+#include "desktop/tour_album.h"
 #include "desktop/tour_exam.h"
 #include "desktop/tour_pictures.h"
 #include "desktop/tour_prescription.h"
@@ -31,75 +29,6 @@ constexpr QSize usualSize{1240, 780};
 constexpr QSize smallestSize{1024, 700};
 constexpr QSize findSize{1100, 720};
 constexpr double enlarged = 1.5;
-
-void complain(const QString& why) {
-  QTextStream(stderr) << why << Qt::endl;
-}
-
-// Windows and their events come to rest: a layout may ask for another pass.
-void settle() {
-  for (int pass = 0; pass < 5; ++pass) {
-    QApplication::sendPostedEvents();
-    QApplication::processEvents();
-  }
-}
-
-class Album {
- public:
-  explicit Album(const TourPlan& plan) : folder_(qs(plan.folder)), only_(qs(plan.only)) {
-    good_ = QDir().mkpath(folder_.path());
-  }
-
-  // Whether pictures of that screen are asked for.
-  [[nodiscard]] bool wants(const QString& screen) const {
-    return only_.isEmpty() || screen == only_;
-  }
-
-  void take(QWidget& window, const QString& name) {
-    if (!wants(name.section(QLatin1Char('-'), 0, 0))) return;
-    settle();
-    const QString file = folder_.filePath(name + QStringLiteral(".png"));
-    if (window.grab().save(file)) return;
-    complain(QStringLiteral("Cannot write ") + file);
-    good_ = false;
-  }
-  [[nodiscard]] std::string file(const QString& name) const { return utf8(folder_.filePath(name)); }
-  void keep(const SamplePreview& preview, const QString& name) {
-    const platform::Status kept =
-        preview.save(utf8(folder_.filePath(name + QStringLiteral(".pdf"))));
-    if (kept) return;
-    complain(qs(kept.text()));
-    good_ = false;
-  }
-  [[nodiscard]] bool good() const { return good_; }
-
- private:
-  QDir folder_;
-  QString only_;
-  bool good_ = false;
-};
-
-forms::TabStrip* tabsOf(const forms::Form& form) {
-  for (forms::Control* control : form.controls()) {
-    auto* const strip = dynamic_cast<forms::TabStrip*>(control);
-    if (strip != nullptr && strip->visible()) return strip;
-  }
-  return nullptr;
-}
-
-// One picture per tab; a form without tabs has one.
-void takeTabs(Album& album, QtHost& host, forms::Form& form, const QString& suffix) {
-  QWidget* const window = host.windowOf(form);
-  if (window == nullptr) return complain(qs(form.name()) + QStringLiteral(" has no window"));
-  forms::TabStrip* const strip = tabsOf(form);
-  if (strip == nullptr) return album.take(*window, qs(form.name()) + suffix);
-  const std::string first = strip->selected();
-  for (const forms::Tab& tab : strip->tabs()) {
-    strip->select(tab.key);
-    album.take(*window, qs(form.name()) + QLatin1Char('-') + qs(tab.key) + suffix);
-  }
-  strip->select(first);
-}
 
 class Tour {
  public:
