@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <functional>
 #include <map>
 
@@ -15,6 +16,9 @@ namespace {
 namespace fs = std::filesystem;
 
 using RowCounts = std::map<std::string, std::int64_t>;  // by table
+
+// A copy is worth waiting for: stations that save without a pause on a slow disk leave few gaps.
+constexpr std::chrono::seconds sourcePatience{30};
 
 std::string nameOf(const fs::path& path) {
   return path.filename().string();
@@ -113,7 +117,7 @@ Status Compaction::sourceDamaged(const std::string& table) const {
 }
 
 Status Compaction::run() {
-  auto source = Engine::open(from_, {});
+  auto source = Engine::open(from_, {.busyTimeout = sourcePatience});
   if (!source) return source.error();
   if (Status ready = prepare(**source); !ready) return ready;
   const auto counts = write(**source);
