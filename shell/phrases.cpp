@@ -115,10 +115,9 @@ constexpr auto phraseRows = std::to_array<Row>({
      "Program yedek almadan kapatılsın mı?"},
     {Phrase::BackupHint,
      "Open the folder that is to hold the backup, best on another disk. The copies are checked "
-     "before they replace older ones, and work can go on meanwhile.",
+     "before they replace older ones. Meanwhile other stations can read; their saves wait.",
      "Yedeğin duracağı klasörü açın; en iyisi başka bir disktir. Kopyalar denetlenmeden "
-     "eskilerinin "
-     "yerine geçmez; bu sırada çalışmaya devam edilebilir."},
+     "eskilerinin yerine geçmez. Bu sırada öbür istasyonlar okuyabilir; kayıtları bekler."},
     {Phrase::BackupNotIntoData, "This folder holds the records themselves. Open another one.",
      "Bu klasörde kayıtların kendisi duruyor. Başka bir klasör açın."},
     {Phrase::Place, "Place", "Yer"},
