@@ -96,11 +96,12 @@ ItemHandle::ItemHandle(SheetView& sheet, documents::SheetItem& item)
     : QWidget(&sheet), sheet_(sheet), item_(item) {
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::SizeAllCursor);
-  attach(*this, item, Follow::All, [this](forms::Aspect aspect) {
+  Binding& binding = attach(*this, item, Follow::All, [this](forms::Aspect aspect) {
     if (aspect == forms::Aspect::Range) place();
     if (aspect == forms::Aspect::Image || aspect == forms::Aspect::Caption) redraw();
   });
-  connect(&sheet, &SheetView::scaled, this, [this] {
+  // The window outlives its form for a moment; the binding does not.
+  connect(&sheet, &SheetView::scaled, &binding, [this] {
     place();
     redraw();
   });
