@@ -110,7 +110,7 @@ void TrendChart::paintEvent(QPaintEvent*) {
   painter.setPen(hasFocus() ? palette().color(QPalette::Highlight)
                             : palette().color(QPalette::Mid));
   painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-  if (plot_ == nullptr || trend().points.empty()) {
+  if (!isBound() || trend().points.empty()) {
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, toolTip());
     return;
@@ -189,7 +189,7 @@ void TrendChart::paintPoints(QPainter& painter) const {
 }
 
 void TrendChart::mouseMoveEvent(QMouseEvent* event) {
-  if (plot_ == nullptr) return;
+  if (!isBound()) return;
   int nearest = -1;
   double distance = 0;
   for (int point = 0; std::cmp_less(point, trend().points.size()); ++point) {
@@ -204,7 +204,7 @@ void TrendChart::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TrendChart::keyPressEvent(QKeyEvent* event) {
-  if (plot_ == nullptr) return;
+  if (!isBound()) return;
   switch (event->key()) {
     case Qt::Key_Left:
       return plot_->choose(plot_->chosen() - 1);
@@ -219,14 +219,16 @@ void TrendChart::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+bool TrendChart::isBound() const {
+  return bindingOf(*this) != nullptr;
+}
+
 void bind(TrendChart& chart, exam::TrendPlot& plot) {
   chart.plot_ = &plot;
-  Binding& binding = attach(chart, plot, Follow::All, [&chart, &plot](forms::Aspect) {
+  attach(chart, plot, Follow::All, [&chart, &plot](forms::Aspect) {
     chart.scale_ = TrendChart::scaleOf(plot.trend());
     chart.update();
   });
-  // The plot may be gone before the chart.
-  QObject::connect(&binding, &QObject::destroyed, &chart, [&chart] { chart.plot_ = nullptr; });
 }
 
 }  // namespace desktop

@@ -42,6 +42,8 @@ class TrendChart : public QWidget {
   void paintValueAxis(QPainter& painter) const;
   void paintDateAxis(QPainter& painter) const;
   void paintPoints(QPainter& painter) const;
+  // The plot may be gone before the chart.
+  [[nodiscard]] bool isBound() const;
   [[nodiscard]] const exam::Trend& trend() const { return plot_->trend(); }
 
   exam::TrendPlot* plot_ = nullptr;  // while it is bound
