@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <thread>
 #include <utility>
@@ -29,13 +30,17 @@ int requestLock(int file, short kind, ByteRange range) {
 }
 
 int awaitLock(int file, short kind, ByteRange range, std::chrono::milliseconds patience) {
-  // Asking again, rather than waiting in the kernel, is what can be given up in time.
+  // Asking again, rather than waiting in the kernel, is what can be given up in time. Most locks
+  // are held for microseconds, so the first looks follow each other quickly.
+  constexpr std::chrono::microseconds longestPause{2000};
+  std::chrono::microseconds pause{30};
   const auto end = std::chrono::steady_clock::now() + patience;
   for (;;) {
     const int error = requestLock(file, kind, range);
     if (!isHeld(error)) return error;
     if (std::chrono::steady_clock::now() >= end) return EAGAIN;
-    std::this_thread::sleep_for(std::chrono::milliseconds{2});
+    std::this_thread::sleep_for(pause);
+    pause = std::min(2 * pause, longestPause);
   }
 }
 
