@@ -102,12 +102,12 @@ void FrmMesajlar::Unload() {
 }
 
 void FrmMesajlar::gorunumSec(MessageView view) {
+  const auto row = static_cast<std::size_t>(
+      std::ranges::find(messageViews, view, &MessageViewRow::view) - messageViews.begin());
+  // Turning it on comes back here.
+  if (!secenekler_[row]->value()) return secenekler_[row]->setValue(true);
   gorunum_ = view;
-  for (std::size_t row = 0; row < messageViews.size(); ++row) {
-    const bool chosen = messageViews[row].view == view;
-    if (secenekler_[row]->value() != chosen) return secenekler_[row]->setValue(chosen);
-    if (chosen) setCaption(metinbul(istasyon_, messageViews[row].title));
-  }
+  setCaption(metinbul(istasyon_, messageViews[row].title));
   Gridyaz();
 }
 

@@ -81,6 +81,14 @@ TEST_F(Messages, ArriveAtTheirAddresseeInAnyCaseAndInEveryView) {
   }
   EXPECT_TRUE(isBold(board, 1));
   EXPECT_FALSE(isBold(board, 2));
+  desk.host.modal["frmayar"] = [](forms::Form& form) {
+    auto& settings = dynamic_cast<FrmAyar&>(form);
+    settings.optyeni.setValue(true);
+    settings.buttamam.press();
+  };
+  board.mnuayar.press();
+  EXPECT_EQ(subjects(board), Subjects{"dün"});
+  EXPECT_EQ(board.caption(), "Yeni Mesajlar");
 }
 
 TEST_F(Messages, AreReadByAClickAndSeenOnceTheScreenCloses) {
