@@ -37,23 +37,13 @@ Result<Draft> createDraft(const path& target) {
   }
 }
 
-Status writeAll(const Draft& draft, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(draft.file.number(), bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return systemFault(draft.name, errno);
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return {};
-}
-
 Status fillDraft(const Draft& draft, const path& target, std::string_view content) {
   struct stat old = {};
   if (::stat(target.c_str(), &old) == 0 &&
       ::fchmod(draft.file.number(), old.st_mode & 07777) != 0) {
     return systemFault(draft.name, errno);
   }
-  if (Status written = writeAll(draft, content); !written) return written;
+  if (Status written = writeAll(draft.file, draft.name, content); !written) return written;
   if (::fsync(draft.file.number()) != 0) return systemFault(draft.name, errno);
   return {};
 }

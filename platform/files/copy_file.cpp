@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <span>
+#include <string_view>
 #include <vector>
 
 #include "platform/files/descriptor.h"
@@ -25,16 +25,6 @@ struct End {
   const path& name;
 };
 
-Status write(const End& to, std::span<const char> bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(to.file.number(), bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return systemFault(to.name, errno);
-    bytes = bytes.subspan(static_cast<std::size_t>(written));
-  }
-  return {};
-}
-
 Status transfer(const End& from, const End& to, const CopyProgress& progress) {
   struct stat source = {};
   if (::fstat(from.file.number(), &source) != 0) return systemFault(from.name, errno);
@@ -45,8 +35,8 @@ Status transfer(const End& from, const End& to, const CopyProgress& progress) {
     if (read < 0 && errno == EINTR) continue;
     if (read < 0) return systemFault(from.name, errno);
     if (read == 0) break;
-    if (Status status = write(to, {block.data(), static_cast<std::size_t>(read)}); !status)
-      return status;
+    const std::string_view bytes(block.data(), static_cast<std::size_t>(read));
+    if (Status status = writeAll(to.file, to.name, bytes); !status) return status;
     done += read;
     if (progress && !progress(done, std::max<std::int64_t>(done, source.st_size)))
       return {Fault::Other, from.name.filename().string() + ": the work was stopped."};

@@ -40,6 +40,16 @@ void Descriptor::close() {
   if (number_ >= 0) ::close(std::exchange(number_, -1));
 }
 
+Status writeAll(const Descriptor& file, const std::filesystem::path& path, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(file.number(), bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return systemFault(path, errno);
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return {};
+}
+
 bool isNamed(const Descriptor& file, const std::filesystem::path& path) {
   struct stat held = {};
   struct stat named = {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 #include "platform/status/status.h"
 
@@ -25,6 +26,10 @@ class Descriptor {
  private:
   int number_ = -1;
 };
+
+// All bytes, from where the file stands; `path` is for the text of a fault.
+[[nodiscard]] platform::Status writeAll(const Descriptor& file, const std::filesystem::path& path,
+                                        std::string_view bytes);
 
 // Whether the open file is the one that the path names now; nobody may have deleted or replaced it.
 [[nodiscard]] bool isNamed(const Descriptor& file, const std::filesystem::path& path);

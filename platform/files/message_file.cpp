@@ -1,7 +1,6 @@
 #include "platform/files/message_file.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -47,13 +46,12 @@ Result<Locked> lockFile(const path& name) {
   }
 }
 
-// The record's own number, unless a deletion has moved it.
-std::optional<long> placeOf(const std::vector<Message>& messages, const Message& wanted) {
+// Under its own number, unless a deletion has moved it; the end when it is gone.
+auto placeOf(std::vector<Message>& messages, const Message& wanted) {
   const auto isWanted = [&](const Message& each) { return each.record.isSameNote(wanted.record); };
   const auto there = std::ranges::find(messages, wanted.number, &Message::number);
-  if (there != messages.end() && isWanted(*there)) return wanted.number;
-  const auto moved = std::ranges::find_if(messages, isWanted);
-  return moved == messages.end() ? std::nullopt : std::optional(moved->number);
+  if (there != messages.end() && isWanted(*there)) return there;
+  return std::ranges::find_if(messages, isWanted);
 }
 
 Status gone(const path& name) {
@@ -84,23 +82,21 @@ Status changeMessage(const path& name, const Message& message,
   auto messages = readAll(locked->file);
   if (!messages) return messages.error();
   const auto place = placeOf(*messages, message);
-  if (!place) return gone(name);
-  MessageRecord& record = std::ranges::find(*messages, *place, &Message::number)->record;
-  change(record);
-  return locked->file.put(*place, record.encode());
+  if (place == messages->end()) return gone(name);
+  change(place->record);
+  return locked->file.put(place->number, place->record.encode());
 }
 
 Status deleteMessage(const path& name, const Message& message) {
   const auto locked = lockFile(name);
   if (!locked) return locked.error();
-  const auto messages = readAll(locked->file);
+  auto messages = readAll(locked->file);
   if (!messages) return messages.error();
   const auto place = placeOf(*messages, message);
-  if (!place) return gone(name);
+  if (place == messages->end()) return gone(name);
+  messages->erase(place);
   std::string rest;
-  for (const Message& each : *messages) {
-    if (each.number != *place) rest += each.record.encode().bytes();
-  }
+  for (const Message& each : *messages) rest += each.record.encode().bytes();
   return writeAtomically(name, rest);
 }
 
