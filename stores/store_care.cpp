@@ -4,6 +4,7 @@
 
 #include "platform/files/replace.h"
 #include "stores/store_copy.h"
+#include "stores/store_kinds.h"
 
 namespace stores {
 
@@ -14,12 +15,6 @@ using dao::Fault;
 using dao::Status;
 
 constexpr auto freshCopy = "NewFile.mdb";
-
-std::uintmax_t sizeOf(const fs::path& path) {
-  std::error_code missing;
-  const auto size = fs::file_size(path, missing);
-  return missing ? 0 : size;
-}
 
 Status keepDamaged(const fs::path& store, StoreCare& care) {
   fs::path kept = store;

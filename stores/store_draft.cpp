@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/files/replace.h"
+#include "stores/store_kinds.h"
 
 namespace stores {
 
@@ -18,12 +19,6 @@ fs::path beside(const fs::path& target, const char* ending) {
 void removeQuietly(const fs::path& path) {
   std::error_code ignored;
   fs::remove(path, ignored);
-}
-
-std::uintmax_t sizeOf(const fs::path& path) {
-  std::error_code missing;
-  const auto size = fs::file_size(path, missing);
-  return missing ? 0 : size;
 }
 
 // A journal of the old file, left by a crash, would be played into the new one. Opening the old

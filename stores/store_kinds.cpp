@@ -38,4 +38,9 @@ std::optional<FileState> stateOf(const std::filesystem::path& file) {
   return error ? std::nullopt : std::optional(state);
 }
 
+std::uintmax_t sizeOf(const std::filesystem::path& file) {
+  const auto state = stateOf(file);
+  return state ? state->bytes : 0;
+}
+
 }  // namespace stores

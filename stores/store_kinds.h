@@ -36,5 +36,7 @@ struct FileState {
 };
 // None when there is no such file.
 [[nodiscard]] std::optional<FileState> stateOf(const std::filesystem::path& file);
+// In bytes; 0 when there is no such file.
+[[nodiscard]] std::uintmax_t sizeOf(const std::filesystem::path& file);
 
 }  // namespace stores
