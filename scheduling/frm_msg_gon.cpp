@@ -19,10 +19,6 @@ namespace {
 
 constexpr std::string_view namesFile = "Data/List.dat";
 
-std::string timeOf(const text::DateTime& now) {
-  return text::shortDate(now) + ' ' + text::shortTime(now);
-}
-
 }  // namespace
 
 FrmMsgGon::FrmMsgGon(shell::Station& station) : Form("Frmmsggon"), istasyon_(station) {
@@ -71,7 +67,7 @@ void FrmMsgGon::gonder() {
   record.addressee = text::trim(ComKime.text());
   record.subject = text::trim(txtkonu.text());
   record.text = txtmesaj.text();
-  record.sent = timeOf(istasyon_.clock.now());
+  record.sent = text::shortDateTime(istasyon_.clock.now());
   record.isNew = 1;
   if (platform::Status sent = files::sendMessage(mesajDosyasi(istasyon_), record); !sent)
     return istasyon_.bilgi(phrase(istasyon_, Phrase::StoreFailed) + sent.text());

@@ -7,6 +7,7 @@
 #include "shell/frm_care.h"
 #include "shell/phrases.h"
 #include "stores/store_care.h"
+#include "stores/store_kinds.h"
 
 namespace shell {
 
@@ -14,8 +15,7 @@ namespace {
 
 using stores::StoreCare;
 
-constexpr int storeCount = 3;
-constexpr std::int64_t perStore = 1000 / storeCount;
+constexpr std::int64_t perStore = 1000 / static_cast<std::int64_t>(stores::storeKinds.size());
 
 std::string kilobytes(std::uintmax_t bytes) {
   return std::to_string((bytes + 1023) / 1024) + " KB";
@@ -38,7 +38,7 @@ class Run {
   [[nodiscard]] const std::string& report() const { return report_; }
 
  private:
-  void care(FrmCare& window, const char* file);
+  void care(FrmCare& window, const stores::StoreKind& kind);
 
   Station& istasyon_;
   std::int64_t done_ = 0;
@@ -46,14 +46,15 @@ class Run {
 };
 
 void Run::work(FrmCare& window) {
-  care(window, "Personal.mdb");
-  care(window, "Sanavel.mdb");
+  care(window, stores::personalKind);
+  care(window, stores::clinicalKind);
   stores::OpenStores(istasyon_.stores).ignore();
-  care(window, "Smoke.mdb");
+  care(window, stores::smokingKind);
 }
 
-void Run::care(FrmCare& window, const char* file) {
-  const std::string path = istasyon_.dosya("Data/") + file;
+void Run::care(FrmCare& window, const stores::StoreKind& kind) {
+  const std::string file(kind.file);
+  const std::string path = stores::dataFile(istasyon_.UygYolu, kind).string();
   std::error_code unreachable;
   if (window.stopped() || !std::filesystem::exists(path, unreachable)) return;
   window.tell(file + phrase(istasyon_, Phrase::CareChecking));

@@ -39,8 +39,7 @@ std::string boyut(std::uintmax_t bytes) {
 }
 
 std::string tarihSaat(const stores::FileState& state) {
-  const text::DateTime written = host::localTime(state.written);
-  return text::shortDate(written) + " " + text::shortTime(written);
+  return text::shortDateTime(host::localTime(state.written));
 }
 
 std::string doldurulmus(Station& istasyon, Phrase which,

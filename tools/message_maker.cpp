@@ -37,7 +37,7 @@ constexpr Note notes[] = {
 std::string timeOf(const text::DateTime& day, const Note& note) {
   text::DateTime sent = text::addDays(day, -note.daysAgo);
   sent.seconds = note.minuteOfDay * 60;
-  return text::shortDate(sent) + ' ' + text::shortTime(sent);
+  return text::shortDateTime(sent);
 }
 
 files::MessageRecord recordOf(const text::DateTime& day, const Note& note) {

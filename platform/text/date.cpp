@@ -189,6 +189,10 @@ std::string shortDate(const DateTime& date) {
          padded(static_cast<unsigned>(date.year()), 4);
 }
 
+std::string shortDateTime(const DateTime& date) {
+  return shortDate(date) + ' ' + shortTime(date);
+}
+
 std::string shortTime(const DateTime& date) {
   return clockText(date);
 }

@@ -44,6 +44,8 @@ struct DateTime {
 // "22.11.2026" and "14:05".
 [[nodiscard]] std::string shortDate(const DateTime& date);
 [[nodiscard]] std::string shortTime(const DateTime& date);
+// "22.11.2026 14:05".
+[[nodiscard]] std::string shortDateTime(const DateTime& date);
 
 // The same day `months` later (or earlier), clamped to the end of the month.
 [[nodiscard]] DateTime addMonths(const DateTime& date, int months);
