@@ -303,6 +303,7 @@ class FrmMain : public shell::RecordScreen,
   void netDurumu();
   // Looks Station::SeciliHasta up and takes the patient for this station.
   [[nodiscard]] Taken hastayiTut();
+  [[nodiscard]] bool kartiBul();
   // Shows the card that was looked up.
   void hastayiYukle();
   [[nodiscard]] dao::Status tutarakYaz();

@@ -84,18 +84,29 @@ void FrmMain::netDurumu() {
                                    : phrase(istasyon, Phrase::StationNumber) + slot);
 }
 
-// Looked up and taken in one step: no rename or delete of another station comes in between. The
-// name is compared as it is stored, however it was typed.
+bool FrmMain::kartiBul() {
+  return tablo().Seek("=", istasyon.SeciliHasta) && !tablo().NoMatch();
+}
+
+// Looked up and taken as in one step: no rename or delete of another station comes in between. The
+// store may keep a look waiting, and who waits with the register locked keeps all stations waiting;
+// so the card is looked up before, and again when the store has changed by the time it is taken.
+// The name is compared as it is stored, however it was typed.
 FrmMain::Taken FrmMain::hastayiTut() {
-  dao::Recordset& cards = tablo();
+  constexpr int freeLooks = 3;
   if (istasyon.SeciliHasta.empty()) return Taken::Missing;
-  auto lock = PatientLock::take(istasyon);
-  if (!lock) return Taken::Elsewhere;
-  if (!cards.Seek("=", istasyon.SeciliHasta) || cards.NoMatch()) return Taken::Missing;
-  const std::string name = cards.Fields("Name").text();
-  if (lock->isElsewhere(name)) return Taken::Elsewhere;
-  lock->publish(name);
-  return Taken::Ours;
+  for (int look = 1;; ++look) {
+    if (!kartiBul()) return Taken::Missing;
+    auto lock = PatientLock::take(istasyon);
+    if (!lock) return Taken::Elsewhere;
+    const bool fresh = tablo().isFresh();
+    if (!fresh && look < freeLooks) continue;
+    if (!fresh && !kartiBul()) return Taken::Missing;
+    const std::string name = tablo().Fields("Name").text();
+    if (lock->isElsewhere(name)) return Taken::Elsewhere;
+    lock->publish(name);
+    return Taken::Ours;
+  }
 }
 
 // A name that is new to this station is written and taken in one step: nobody can load the card in

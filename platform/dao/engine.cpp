@@ -14,9 +14,6 @@ constexpr std::int64_t kApplicationId = 0x534E564C;
 constexpr std::int64_t kGeneralMark = 1;
 constexpr std::int64_t kTurkishMark = 2;
 
-// How long another station's commit may go unnoticed while rows of one page are walked.
-constexpr std::chrono::microseconds kNoticeWithin{100};
-
 // Some milliseconds of work.
 constexpr int kStepsBetweenQuestions = 10'000;
 
@@ -243,10 +240,10 @@ void Engine::whileRunning(const std::function<bool()>& goOn) {
                            const_cast<std::function<bool()>*>(&goOn));
 }
 
-ChangeStamp Engine::changeStamp() {
+ChangeStamp Engine::changeStamp(std::chrono::microseconds within) {
   if (!handle_) return {};
   const auto now = std::chrono::steady_clock::now();
-  if (now - counterRead_ > kNoticeWithin) {
+  if (now - counterRead_ >= within) {
     counter_ = fileCounter();
     counterRead_ = now;
   }

@@ -61,6 +61,9 @@ struct ChangeStamp {
   bool operator==(const ChangeStamp&) const = default;
 };
 
+// How long another station's commit may go unnoticed while rows of one page are walked.
+inline constexpr std::chrono::microseconds kNoticeWithin{100};
+
 class Engine {
  public:
   static Result<std::shared_ptr<Engine>> open(const std::filesystem::path& path,
@@ -100,7 +103,8 @@ class Engine {
   // a fault. The function outlives the connection.
   void whileRunning(const std::function<bool()>& goOn);
 
-  [[nodiscard]] ChangeStamp changeStamp();
+  // Another station's commit may go unnoticed for as long as it is told.
+  [[nodiscard]] ChangeStamp changeStamp(std::chrono::microseconds within = kNoticeWithin);
   [[nodiscard]] std::int64_t lastNumber() const;
 
   // What the last call of the engine failed with.

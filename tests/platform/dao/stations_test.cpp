@@ -41,6 +41,22 @@ TEST_F(StationsTest, SeeEachOthersRowsAtTheNextRead) {
   EXPECT_EQ(there.Fields("Notes").text(), "new");
 }
 
+TEST_F(StationsTest, TellWhetherTheFileIsAsItWasWhenTheRowWasRead) {
+  addNumbered(2, 1);
+  Recordset here = table("IDCard");
+  Recordset there = other_.OpenRecordset("IDCard").value();
+  for (const char* const name : {"b", "c"}) {
+    ASSERT_TRUE(here.Seek("=", numbered(1)));
+    EXPECT_TRUE(here.isFresh());
+    ASSERT_TRUE(addTo(there, "Name", name));
+    EXPECT_FALSE(here.isFresh());
+  }
+  ASSERT_TRUE(here.Seek("=", numbered(1)));
+  ASSERT_TRUE(addTo(here, "Name", "d"));
+  EXPECT_FALSE(here.isFresh());
+  EXPECT_FALSE(store_.OpenRecordset("SELECT [Name] FROM [IDCard]")->isFresh());
+}
+
 TEST_F(StationsTest, ADeletedRowIsStaleForTheOthers) {
   addNumbered(2, 1);
   for (const bool editBefore : {false, true}) {
