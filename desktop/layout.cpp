@@ -104,6 +104,32 @@ QWidget* makeWidget(forms::Control& control, QWidget& parent) {
   return nullptr;
 }
 
+QWidget* makeWidget(const forms::Form& form, std::string_view name, QWidget& parent) {
+  return makeWidget(*form.find(name), parent);
+}
+
+QLabel* makeLabel(forms::Label& control, QWidget& parent) {
+  auto* const label = new QLabel(&parent);
+  bind(*label, control);
+  return label;
+}
+
+QScrollBar* makeScrollBar(Qt::Orientation orientation, forms::ScrollBar& control, QWidget& parent) {
+  auto* const bar = new QScrollBar(orientation, &parent);
+  QSizePolicy policy = bar->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  bar->setSizePolicy(policy);
+  bind(*bar, control);
+  return bar;
+}
+
+QVBoxLayout* columnIn(QWidget& widget) {
+  auto* const column = new QVBoxLayout(&widget);
+  column->setContentsMargins(gap::large, gap::normal, gap::large, gap::normal);
+  column->setSpacing(gap::normal);
+  return column;
+}
+
 FieldColumns::FieldColumns(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(gap::normal);

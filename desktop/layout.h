@@ -5,11 +5,14 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <string_view>
 #include <vector>
 
 #include "platform/forms/form.h"
+#include "platform/forms/label.h"
 
 namespace desktop {
 
@@ -37,6 +40,15 @@ Control& control(const forms::Form& form, std::string_view name) {
 // A widget for any control, bound to it; null for one that is never shown (menus and timers have no
 // place in a form).
 [[nodiscard]] QWidget* makeWidget(forms::Control& control, QWidget& parent);
+[[nodiscard]] QWidget* makeWidget(const forms::Form& form, std::string_view name, QWidget& parent);
+[[nodiscard]] QLabel* makeLabel(forms::Label& control, QWidget& parent);
+// Its room stays when it goes: a bar that comes and goes must not change the size that asked for
+// it.
+[[nodiscard]] QScrollBar* makeScrollBar(Qt::Orientation orientation, forms::ScrollBar& control,
+                                        QWidget& parent);
+
+// What the widget shows, below each other, with the margins of a window.
+[[nodiscard]] QVBoxLayout* columnIn(QWidget& widget);
 
 // Fields below each other, in two columns as soon as the room allows.
 class FieldColumns : public QWidget {

@@ -32,7 +32,7 @@ std::string cikisKlasoru(Station& istasyon) {
   const std::string folder = istasyon.ayar(backupFolderSetting);
   std::error_code unreachable;
   if (!folder.empty() && std::filesystem::is_directory(folder, unreachable)) return ayracla(folder);
-  const std::string own = istasyon.dosya("Backup/");
+  const std::string own = kendiYedekKlasoru(istasyon);
   // A folder that cannot be made is met again, with its reason, by the copying.
   files::createFolders(own).ignore();
   istasyon.ayarYaz(backupFolderSetting, own);
@@ -46,9 +46,13 @@ std::string ayracla(std::string folder) {
   return folder;
 }
 
+std::string kendiYedekKlasoru(const Station& istasyon) {
+  return istasyon.dosya("Backup/");
+}
+
 std::string yedekKlasoru(const Station& istasyon) {
   const std::string folder = istasyon.ayar(backupFolderSetting);
-  return folder.empty() ? istasyon.dosya("Backup/") : ayracla(folder);
+  return folder.empty() ? kendiYedekKlasoru(istasyon) : ayracla(folder);
 }
 
 bool yedekle(Station& istasyon, const std::string& folder) {

@@ -9,8 +9,10 @@ namespace shell {
 
 inline constexpr auto backupFolderSetting = "BackUp";
 
-// The setting, with a trailing separator; the folder `Backup` of the program's folder when it is
-// empty. Whether the folder exists is not asked.
+// `Backup` below the program's folder, with a trailing separator.
+[[nodiscard]] std::string kendiYedekKlasoru(const Station& istasyon);
+// The setting, with a trailing separator; the folder above when it is empty. Whether the folder
+// exists is not asked.
 [[nodiscard]] std::string yedekKlasoru(const Station& istasyon);
 [[nodiscard]] std::string ayracla(std::string folder);
 

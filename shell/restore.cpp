@@ -158,7 +158,7 @@ bool mnugeriyukle_Click(Station& istasyon) {
 }
 
 void yedegiDene(Station& istasyon) {
-  const std::vector<fs::path> folders{yedekKlasoru(istasyon), istasyon.dosya("Backup/")};
+  const std::vector<fs::path> folders{yedekKlasoru(istasyon), kendiYedekKlasoru(istasyon)};
   const auto backup = stores::newestBackup(folders);
   if (!backup) return eksikleriSoyle(istasyon, folders.front());
   const std::string date = tarihSaat(*stores::stateOf(*backup / stores::personalKind.file));

@@ -135,8 +135,7 @@ std::unique_ptr<QWidget> progressView(forms::Form& form) {
 std::unique_ptr<QWidget> careView(forms::Form& form) {
   Dialog dialog;
   dialog.window->setMinimumWidth(characters(*dialog.window, progressCharacters));
-  auto* const text = new QLabel(dialog.window.get());
-  bind(*text, control<forms::Label>(form, "Lmetin"));
+  QLabel* const text = makeLabel(control<forms::Label>(form, "Lmetin"), *dialog.window);
   auto* const bar = new QProgressBar(dialog.window.get());
   bind(*bar, control<forms::ProgressBar>(form, "PBdurum"));
   auto* const state = new QLabel(dialog.window.get());

@@ -63,16 +63,13 @@ QWidget* drug(exam::FrmDrug& form, QWidget& parent) {
 QWidget* prescription(exam::FrmDrug& form, QWidget& parent) {
   auto* const side = new QWidget(&parent);
   QVBoxLayout* const column = columnOf(*side);
-  auto* const patient = new QLabel(side);
-  bind(*patient, form.lblisim);
+  QLabel* const patient = makeLabel(form.lblisim, *side);
   QFont bold = patient->font();
   bold.setBold(true);
   patient->setFont(bold);
   column->addWidget(patient);
   QWidget* const text = makeWidget(form.txtrecete, *side);
-  auto* const heading = new QLabel(side);
-  bind(*heading, form.lblRp);
-  column->addWidget(heading);
+  column->addWidget(makeLabel(form.lblRp, *side));
   column->addWidget(text, 1);
   auto* const ends = new QHBoxLayout;
   ends->addStretch(1);

@@ -132,12 +132,6 @@ QPushButton* button(forms::CommandButton& control, QWidget& parent) {
   return made;
 }
 
-QLabel* label(forms::Label& control, QWidget& parent) {
-  auto* const made = new QLabel(&parent);
-  bind(*made, control);
-  return made;
-}
-
 QHBoxLayout* countLine(FrmFind& form, QWidget& page) {
   auto* const bar = new QProgressBar(&page);
   bind(*bar, form.PBar);
@@ -145,10 +139,10 @@ QHBoxLayout* countLine(FrmFind& form, QWidget& page) {
   bar->setFixedWidth(characters(*bar, progressCharacters));
   auto* const line = new QHBoxLayout;
   line->setSpacing(gap::small);
-  line->addWidget(label(form.Lbulunan, page));
-  line->addWidget(label(form.LSayı, page));
+  line->addWidget(makeLabel(form.Lbulunan, page));
+  line->addWidget(makeLabel(form.LSayı, page));
   line->addSpacing(gap::large);
-  line->addWidget(label(form.LDurum, page));
+  line->addWidget(makeLabel(form.LDurum, page));
   line->addStretch(1);
   line->addWidget(bar);
   line->addWidget(button(form.ButDur, page));

@@ -3,7 +3,6 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QMainWindow>
-#include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -23,10 +22,6 @@ constexpr QSize filterSize{460, 540};
 constexpr int listCharacters = 26;
 constexpr int requestLines = 5;
 
-QWidget* made(const forms::Form& form, const char* name, QWidget& parent) {
-  return makeWidget(*form.find(name), parent);
-}
-
 std::unique_ptr<QMainWindow> recordWindow(const forms::Form& form, QSize size) {
   auto window = std::make_unique<QMainWindow>();
   window->setContextMenuPolicy(Qt::NoContextMenu);
@@ -34,13 +29,6 @@ std::unique_ptr<QMainWindow> recordWindow(const forms::Form& form, QSize size) {
   window->setCentralWidget(new QWidget(window.get()));
   addRecordBars(*window, form);
   return window;
-}
-
-QVBoxLayout* columnIn(QWidget& parent) {
-  auto* const column = new QVBoxLayout(&parent);
-  column->setContentsMargins(gap::large, gap::normal, gap::large, gap::normal);
-  column->setSpacing(gap::normal);
-  return column;
 }
 
 // The banner begins where the fields below it begin.
@@ -53,7 +41,7 @@ QWidget* catalogueList(const forms::Form& form, QWidget& parent) {
   auto* const side = new QWidget(&parent);
   auto* const column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  QWidget* const list = made(form, "Lsttest", *side);
+  QWidget* const list = makeWidget(form, "Lsttest", *side);
   list->setMinimumWidth(characters(*list, listCharacters));
   QLabel* const caption = captionFor(*list);
   column->addWidget(caption, 0, Qt::AlignLeft);
@@ -64,9 +52,9 @@ QWidget* catalogueList(const forms::Form& form, QWidget& parent) {
 FieldColumns* catalogueFields(const forms::Form& form, QWidget& parent) {
   auto* const fields = new FieldColumns(&parent);
   for (const char* name : {"txttest", "txtbirim", "txtmin", "txtmax"})
-    fields->add(made(form, name, *fields));
+    fields->add(makeWidget(form, name, *fields));
   fields->setMostColumns(1);
-  fields->addGrowing(made(form, "txtbilgi", *fields));
+  fields->addGrowing(makeWidget(form, "txtbilgi", *fields));
   return fields;
 }
 
@@ -86,13 +74,6 @@ QVBoxLayout* besideTheList(const forms::Form& form, QWidget& body, QVBoxLayout& 
   return rows;
 }
 
-QHBoxLayout* accepting(const forms::Form& form, QWidget& parent) {
-  auto* const row = new QHBoxLayout;
-  row->addStretch(1);
-  for (const char* name : {"buttamam", "Butİptal"}) row->addWidget(made(form, name, parent));
-  return row;
-}
-
 // The fields of a value in one line, in the order of the grid's columns, each below its caption.
 QGridLayout* valueFields(const forms::Form& form, QWidget& parent) {
   struct Field {
@@ -106,7 +87,7 @@ QGridLayout* valueFields(const forms::Form& form, QWidget& parent) {
   for (const Field& field :
        {Field{"txttarih", 3, 15}, Field{"comtest", 6, 18}, Field{"txtsonuç", 4, 8},
         Field{"txtbirim", 3, 7}, Field{"txtmin", 2, 5}, Field{"txtmax", 2, 5}}) {
-    QWidget* const widget = made(form, field.name, parent);
+    QWidget* const widget = makeWidget(form, field.name, parent);
     grid->addWidget(captionFor(*widget), 0, column, Qt::AlignLeft);
     grid->addWidget(widget, 1, column);
     grid->setColumnStretch(column++, field.share);
@@ -130,12 +111,12 @@ std::unique_ptr<QWidget> testRequestView(forms::Form& form) {
   QVBoxLayout* const column = columnIn(body);
   column->addWidget(flush(recordBanner(form, body)));
   QVBoxLayout* const right = besideTheList(form, body, *column);
-  right->addWidget(made(form, "buttasi", body), 0, Qt::AlignRight);
-  QWidget* const request = made(form, "txtistem", body);
+  right->addWidget(makeWidget(form, "buttasi", body), 0, Qt::AlignRight);
+  QWidget* const request = makeWidget(form, "txtistem", body);
   request->setMinimumHeight(request->fontMetrics().lineSpacing() * requestLines);
   right->addWidget(captionFor(*request), 0, Qt::AlignLeft);
   right->addWidget(request, 1);
-  right->addLayout(accepting(form, body));
+  right->addLayout(acceptingRow(form, body, "buttamam"));
   return window;
 }
 
@@ -161,15 +142,15 @@ std::unique_ptr<QWidget> testFilterView(forms::Form& form) {
   QVBoxLayout* const column = columnIn(*window);
   auto* const fields = new FieldColumns(window.get());
   fields->setMostColumns(1);
-  for (const char* name : {"dpt1", "dpt2"}) fields->add(made(form, name, *fields));
+  for (const char* name : {"dpt1", "dpt2"}) fields->add(makeWidget(form, name, *fields));
   column->addWidget(fields);
   auto* const marks = new QHBoxLayout;
   for (const char* name : {"ChkYüksek", "ChkDüşük", "ChkNormal"})
-    marks->addWidget(made(form, name, *window));
+    marks->addWidget(makeWidget(form, name, *window));
   marks->addStretch(1);
   column->addLayout(marks);
   column->addWidget(catalogueList(form, *window), 1);
-  column->addLayout(accepting(form, *window));
+  column->addLayout(acceptingRow(form, *window, "buttamam"));
   return window;
 }
 

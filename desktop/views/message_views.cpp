@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QMainWindow>
-#include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -22,19 +21,8 @@ constexpr int nameFontPercent = 125;
 constexpr int textLines = 7;
 constexpr int listShare = 3;  // of the height, against one of the text
 
-QVBoxLayout* columnIn(QWidget& parent) {
-  auto* const column = new QVBoxLayout(&parent);
-  column->setContentsMargins(gap::large, gap::normal, gap::large, gap::normal);
-  column->setSpacing(gap::normal);
-  return column;
-}
-
-QWidget* made(const forms::Form& form, const char* name, QWidget& parent) {
-  return makeWidget(*form.find(name), parent);
-}
-
 QWidget* ownName(const forms::Form& form, QWidget& parent) {
-  QWidget* const name = made(form, "Lmsgadres", parent);
+  QWidget* const name = makeWidget(form, "Lmsgadres", parent);
   QFont font = name->font();
   font.setPointSizeF(font.pointSizeF() * nameFontPercent / 100);
   font.setBold(true);
@@ -48,18 +36,8 @@ QHBoxLayout* head(const forms::Form& form, QWidget& parent) {
   row->addWidget(ownName(form, parent));
   row->addStretch(1);
   for (const char* name : {"opttümü", "optgünlük", "optokunmamış", "optyeni"})
-    row->addWidget(made(form, name, parent));
-  row->addWidget(made(form, "saat", parent));
-  return row;
-}
-
-QHBoxLayout* buttons(const forms::Form& form, QWidget& parent, const char* accepting) {
-  auto* const row = new QHBoxLayout;
-  row->addStretch(1);
-  QWidget* const accept = made(form, accepting, parent);
-  static_cast<QPushButton*>(accept)->setDefault(true);
-  row->addWidget(accept);
-  row->addWidget(made(form, "Butİptal", parent));
+    row->addWidget(makeWidget(form, name, parent));
+  row->addWidget(makeWidget(form, "saat", parent));
   return row;
 }
 
@@ -76,10 +54,10 @@ std::unique_ptr<QWidget> messagesView(forms::Form& form) {
   column->addLayout(head(form, body));
   auto* const splitter = new QSplitter(Qt::Vertical, &body);
   splitter->setChildrenCollapsible(false);
-  auto* const table = static_cast<GridTable*>(made(form, "msgrid1", *splitter));
+  auto* const table = static_cast<GridTable*>(makeWidget(form, "msgrid1", *splitter));
   table->horizontalHeader()->setStretchLastSection(true);
   splitter->addWidget(table);
-  QWidget* const text = made(form, "txtmesaj", *splitter);
+  QWidget* const text = makeWidget(form, "txtmesaj", *splitter);
   text->setMinimumHeight(textLines * text->fontMetrics().lineSpacing());
   splitter->addWidget(text);
   splitter->setStretchFactor(0, listShare);
@@ -95,11 +73,11 @@ std::unique_ptr<QWidget> messageView(forms::Form& form) {
   auto* const fields = new FieldColumns(window.get());
   fields->setMostColumns(1);
   for (const char* name : {"ComKimden", "ComKime", "txtkonu"})
-    fields->add(made(form, name, *fields));
-  fields->addGrowing(made(form, "txtmesaj", *fields));
+    fields->add(makeWidget(form, name, *fields));
+  fields->addGrowing(makeWidget(form, "txtmesaj", *fields));
   column->addWidget(fields, 1);
-  QHBoxLayout* const row = buttons(form, *window, "Butgönder");
-  row->insertWidget(0, made(form, "ButLKimden", *window));
+  QHBoxLayout* const row = acceptingRow(form, *window, "Butgönder");
+  row->insertWidget(0, makeWidget(form, "ButLKimden", *window));
   column->addLayout(row);
   return window;
 }
@@ -108,9 +86,9 @@ std::unique_ptr<QWidget> messageSettingsView(forms::Form& form) {
   auto window = std::make_unique<QDialog>();
   QVBoxLayout* const column = columnIn(*window);
   for (const char* name : {"opttumu", "optgunluk", "optokunmamis", "optyeni"})
-    column->addWidget(made(form, name, *window));
+    column->addWidget(makeWidget(form, name, *window));
   column->addStretch(1);
-  column->addLayout(buttons(form, *window, "buttamam"));
+  column->addLayout(acceptingRow(form, *window, "buttamam"));
   return window;
 }
 

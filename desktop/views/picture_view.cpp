@@ -57,17 +57,6 @@ QWidget* thumbColumn(FrmPicture& form, QMainWindow& window) {
   return column;
 }
 
-// Its room stays when the bar goes: otherwise the picture would be laid out anew, and the bar be
-// needed again.
-QScrollBar* barFor(forms::ScrollBar& control, Qt::Orientation orientation, QWidget& parent) {
-  auto* const bar = new QScrollBar(orientation, &parent);
-  QSizePolicy policy = bar->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  bar->setSizePolicy(policy);
-  bind(*bar, control);
-  return bar;
-}
-
 // What to do first, where the picture will be.
 QLabel* hintFor(FrmPicture& form, QFrame& frame) {
   auto* const hint = new QLabel(&frame);
@@ -106,8 +95,8 @@ QWidget* largePicture(FrmPicture& form, QMainWindow& window) {
   auto* const grid = new QGridLayout(frame);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setSpacing(0);
-  QScrollBar* const sideways = barFor(form.HSlFoto, Qt::Horizontal, *frame);
-  QScrollBar* const upDown = barFor(form.VSlfoto, Qt::Vertical, *frame);
+  QScrollBar* const sideways = makeScrollBar(Qt::Horizontal, form.HSlFoto, *frame);
+  QScrollBar* const upDown = makeScrollBar(Qt::Vertical, form.VSlfoto, *frame);
   grid->addWidget(hintFor(form, *frame), 0, 0);
   grid->addWidget(canvasFor(form, *sideways, *upDown, *frame), 0, 0);
   grid->addWidget(upDown, 0, 1);

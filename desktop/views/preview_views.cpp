@@ -22,16 +22,6 @@ namespace {
 constexpr QSize usualSize{820, 900};
 constexpr int numberCharacters = 6;
 
-QScrollBar* scrollBar(Qt::Orientation orientation, forms::ScrollBar& control, QWidget& parent) {
-  auto* const bar = new QScrollBar(orientation, &parent);
-  // A bar that comes and goes must not change the size that asked for it.
-  QSizePolicy policy = bar->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  bar->setSizePolicy(policy);
-  bind(*bar, control);
-  return bar;
-}
-
 // The page takes the room; the keys that move it go to the bar beside it.
 QGridLayout* desk(documents::PageView& page, forms::ScrollBar& across, forms::ScrollBar& down,
                   QWidget& parent) {
@@ -40,12 +30,12 @@ QGridLayout* desk(documents::PageView& page, forms::ScrollBar& across, forms::Sc
   grid->setSpacing(0);
   auto* const sheet = new PageWidget(&parent);
   bind(*sheet, page);
-  QScrollBar* const beside = scrollBar(Qt::Vertical, down, parent);
+  QScrollBar* const beside = makeScrollBar(Qt::Vertical, down, parent);
   beside->setFocusPolicy(Qt::StrongFocus);
   sheet->setFocusProxy(beside);
   grid->addWidget(sheet, 0, 0);
   grid->addWidget(beside, 0, 1);
-  grid->addWidget(scrollBar(Qt::Horizontal, across, parent), 1, 0);
+  grid->addWidget(makeScrollBar(Qt::Horizontal, across, parent), 1, 0);
   grid->setColumnStretch(0, 1);
   grid->setRowStretch(0, 1);
   sheet->setFocus();
@@ -85,8 +75,7 @@ std::unique_ptr<QWidget> preview1View(forms::Form& form) {
   auto* const numbers = window->addToolBar(QString());
   numbers->setMovable(false);
   keys->setMovable(false);
-  auto* const of = new QLabel(numbers);
-  bind(*of, preview.lblsayfa);
+  QLabel* const of = makeLabel(preview.lblsayfa, *numbers);
   QLineEdit* const page = number(preview.pageno, *numbers);
   QLineEdit* const size = number(preview.txtsize, *numbers);
   QLabel* const pageCaption = captionFor(*page);

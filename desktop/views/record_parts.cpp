@@ -1,8 +1,8 @@
 #include "desktop/views/record_parts.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -75,6 +75,16 @@ void addRecordBars(QMainWindow& window, const forms::Form& form) {
   bind(*bar, control<forms::Toolbar>(form, "tbToolBar"));
   placeStatus(form, window);
   bindTimers(window, form);
+}
+
+QHBoxLayout* acceptingRow(const forms::Form& form, QWidget& parent, std::string_view accepting) {
+  auto* const row = new QHBoxLayout;
+  row->addStretch(1);
+  QWidget* const accept = makeWidget(form, accepting, parent);
+  static_cast<QPushButton*>(accept)->setDefault(true);
+  row->addWidget(accept);
+  row->addWidget(makeWidget(form, "Butİptal", parent));
+  return row;
 }
 
 }  // namespace desktop

@@ -2,6 +2,7 @@
 // record.
 #pragma once
 
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QWidget>
 
@@ -14,5 +15,9 @@ namespace desktop {
 
 // Menus, toolbar, status line (`tbToolBar`, `sbDurum`) and timers of the form.
 void addRecordBars(QMainWindow& window, const forms::Form& form);
+
+// The button of that name, which Enter presses, and the form's `Butİptal`, at the right.
+[[nodiscard]] QHBoxLayout* acceptingRow(const forms::Form& form, QWidget& parent,
+                                        std::string_view accepting);
 
 }  // namespace desktop

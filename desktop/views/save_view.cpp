@@ -22,14 +22,8 @@ namespace {
 constexpr QSize saveSize{760, 560};
 constexpr int filesCharacters = 40;
 
-QLabel* label(forms::Label& control, QWidget& parent) {
-  auto* const shown = new QLabel(&parent);
-  bind(*shown, control);
-  return shown;
-}
-
 QLabel* heading(forms::Label& control, QWidget& parent) {
-  QLabel* const shown = label(control, parent);
+  QLabel* const shown = makeLabel(control, parent);
   QFont font = shown->font();
   font.setBold(true);
   shown->setFont(font);
@@ -62,10 +56,10 @@ QVBoxLayout* files(shell::FrmSave& form, QWidget& window) {
   auto* const column = new QVBoxLayout;
   column->setSpacing(gap::small);
   column->addWidget(heading(form.Ldosyabaslik, window));
-  column->addWidget(label(form.LDosyalar, window));
+  column->addWidget(makeLabel(form.LDosyalar, window));
   column->addSpacing(gap::large);
   column->addWidget(heading(form.Lsonbaslik, window));
-  QLabel* const last = label(form.Lsonyedek, window);
+  QLabel* const last = makeLabel(form.Lsonyedek, window);
   last->setMinimumWidth(characters(window, filesCharacters));
   column->addWidget(last);
   column->addStretch(1);
@@ -81,7 +75,7 @@ std::unique_ptr<QWidget> saveView(forms::Form& form) {
   auto* const column = new QVBoxLayout(window.get());
   column->setContentsMargins(gap::large, gap::large, gap::large, gap::large);
   column->setSpacing(gap::large);
-  QLabel* const hint = label(save.Lbilgi, *window);
+  QLabel* const hint = makeLabel(save.Lbilgi, *window);
   hint->setWordWrap(true);
   column->addWidget(hint);
   auto* const parts = new QHBoxLayout;

@@ -19,11 +19,11 @@ constexpr int testCharacters = 34;
 QHBoxLayout* headLine(const forms::Form& form, QWidget& parent) {
   auto* const row = new QHBoxLayout;
   row->setSpacing(gap::large);
-  QWidget* const test = makeWidget(*form.find("comtest"), parent);
+  QWidget* const test = makeWidget(form, "comtest", parent);
   test->setMinimumWidth(characters(*test, testCharacters));
   row->addWidget(captionFor(*test));
   row->addWidget(test);
-  QWidget* const value = makeWidget(*form.find("lbldeger"), parent);
+  QWidget* const value = makeWidget(form, "lbldeger", parent);
   QFont bold = value->font();
   bold.setBold(true);
   value->setFont(bold);
@@ -47,8 +47,8 @@ std::unique_ptr<QWidget> testTrendView(forms::Form& form) {
   bind(*chart, control<exam::TrendPlot>(form, "plot"));
   column->addWidget(chart, 1);
   auto* const foot = new QHBoxLayout;
-  foot->addWidget(makeWidget(*form.find("lblatlanan"), *window), 1);
-  foot->addWidget(makeWidget(*form.find("butkapat"), *window));
+  foot->addWidget(makeWidget(form, "lblatlanan", *window), 1);
+  foot->addWidget(makeWidget(form, "butkapat", *window));
   column->addLayout(foot);
   return window;
 }

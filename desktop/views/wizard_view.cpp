@@ -107,12 +107,6 @@ QWidget* printedItems(FrmWizardDrug& form, QWidget& parent) {
   return side;
 }
 
-QLabel* label(forms::Label& control, QWidget& parent) {
-  auto* const made = new QLabel(&parent);
-  bind(*made, control);
-  return made;
-}
-
 HintTable* patientTable(FrmWizardDrug& form, QWidget& parent) {
   auto* const table = new HintTable(&parent);
   bind(*table, form.LstTüm);
@@ -132,8 +126,8 @@ QWidget* patients(FrmWizardDrug& form, QWidget& parent) {
   auto* const heading = new QHBoxLayout;
   heading->addWidget(captionFor(*table));
   heading->addStretch(1);
-  heading->addWidget(label(form.Lbulunan, *side));
-  heading->addWidget(label(form.LSayı, *side));
+  heading->addWidget(makeLabel(form.Lbulunan, *side));
+  heading->addWidget(makeLabel(form.LSayı, *side));
   column->addWidget(name);
   column->addLayout(heading);
   column->addWidget(table, 1);
