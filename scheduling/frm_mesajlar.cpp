@@ -1,6 +1,7 @@
 #include "scheduling/frm_mesajlar.h"
 
 #include <algorithm>
+#include <map>
 
 #include "platform/text/number.h"
 #include "scheduling/frm_msg_gon.h"
@@ -28,6 +29,15 @@ std::string onOneLine(std::string text) {
   std::ranges::replace_if(
       text, [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
   return text;
+}
+
+// What tells notes apart, whatever their flags say.
+std::string noteOf(const MessageRecord& record) {
+  std::string note;
+  for (const std::string& part :
+       {record.sender, record.addressee, record.subject, record.sent, record.text})
+    note.append(part).push_back('\0');
+  return note;
 }
 
 }  // namespace
@@ -112,6 +122,7 @@ void FrmMesajlar::gorunumSec(MessageView view) {
 }
 
 void FrmMesajlar::Gridyaz() {
+  bakilan_ = mesajDurumu(istasyon_);
   auto messages = mesajlar(istasyon_, gorunum_);
   if (!messages) return sbDurum.setPanel(1, messages.error().text());
   const forms::Grid::Bulk bulk(msgrid1);
@@ -179,17 +190,16 @@ void FrmMesajlar::okundu(Message& message) {
 }
 
 void FrmMesajlar::Mesajyenile() {
+  bakilan_ = mesajDurumu(istasyon_);
   const auto messages = mesajlar(istasyon_, gorunum_);
   if (!messages) return sbDurum.setPanel(1, messages.error().text());
-  bool any = false;
+  std::map<std::string, int> listed;  // the same note may have been sent twice
+  for (const Message& each : listelenen_) ++listed[noteOf(each.record)];
+  const std::size_t before = listelenen_.size();
   for (const Message& message : *messages) {
-    const bool listed = std::ranges::any_of(
-        listelenen_, [&](const Message& each) { return each.record.isSameNote(message.record); });
-    if (listed) continue;
-    satirEkle(message);
-    any = true;
+    if (listed[noteOf(message.record)]-- <= 0) satirEkle(message);
   }
-  if (!any) return;
+  if (listelenen_.size() == before) return;
   istasyon_.host.beep();
   sayiGoster();
   Sonsırayıseç();
@@ -205,7 +215,7 @@ void FrmMesajlar::tik() {
   const long passed = text::wholeNumber(süre.caption()).value_or(0) + 1;
   const bool due = passed >= text::wholeNumber(süreyenile.caption()).value_or(1);
   süre.setCaption(std::to_string(due ? 0 : passed));
-  if (due) Mesajyenile();
+  if (due && mesajDurumu(istasyon_) != bakilan_) Mesajyenile();
 }
 
 void FrmMesajlar::yaz(const std::string& kime, const std::string& konu) {

@@ -79,6 +79,7 @@ class FrmMesajlar : public forms::Form {
                                                                           &optokunmamış, &optyeni};
   MessageView gorunum_ = MessageView::All;
   std::vector<files::Message> listelenen_;  // in the order of the grid
+  MessageStamp bakilan_;                    // the file when it was last read
   shell::Station& istasyon_;
 };
 

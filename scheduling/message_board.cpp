@@ -77,6 +77,15 @@ bool gorunur(const MessageRecord& record, std::string_view address, MessageView 
   return false;
 }
 
+MessageStamp mesajDurumu(const Station& istasyon) {
+  const std::filesystem::path path = mesajDosyasi(istasyon);
+  std::error_code missing;
+  MessageStamp stamp{std::filesystem::last_write_time(path, missing), 0, mesajAdresi(istasyon)};
+  const std::uintmax_t size = std::filesystem::file_size(path, missing);
+  if (!missing) stamp.size = size;
+  return stamp;
+}
+
 platform::Result<std::vector<Message>> mesajlar(const Station& istasyon, MessageView view) {
   auto all = files::readMessages(mesajDosyasi(istasyon));
   if (!all) return all;

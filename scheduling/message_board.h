@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,6 +43,15 @@ bool mesajAdresiSor(shell::Station& istasyon, std::string_view prompt, std::stri
 // `address` empty is nobody.
 [[nodiscard]] bool gorunur(const files::MessageRecord& record, std::string_view address,
                            MessageView view, const text::DateTime& today);
+
+// When two are equal, there is nothing to read that was not there before.
+struct MessageStamp {
+  std::filesystem::file_time_type changed;
+  std::uintmax_t size = 0;  // 0 without a file
+  std::string address;
+  bool operator==(const MessageStamp&) const = default;
+};
+[[nodiscard]] MessageStamp mesajDurumu(const shell::Station& istasyon);
 
 // What the user of this desk sees in that view, in the order of the file.
 [[nodiscard]] platform::Result<std::vector<files::Message>> mesajlar(const shell::Station& istasyon,

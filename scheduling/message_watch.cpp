@@ -1,7 +1,5 @@
 #include "scheduling/message_watch.h"
 
-#include "scheduling/message_board.h"
-
 namespace scheduling {
 
 namespace {
@@ -12,7 +10,7 @@ constexpr int secondsBetween = 10;
 
 std::optional<long> MessageWatch::look() {
   if (!isDue()) return std::nullopt;
-  Seen now = present();
+  MessageStamp now = mesajDurumu(istasyon_);
   if (now == seen_) return std::nullopt;
   // A practice that has never written a message gets no file for it.
   const auto messages =
@@ -30,15 +28,6 @@ bool MessageWatch::isDue() {
   if (sameDay && passed >= 0 && passed < secondsBetween) return false;
   lookedAt_ = now;
   return true;
-}
-
-MessageWatch::Seen MessageWatch::present() const {
-  const std::filesystem::path path = mesajDosyasi(istasyon_);
-  std::error_code missing;
-  Seen seen{std::filesystem::last_write_time(path, missing), 0, mesajAdresi(istasyon_)};
-  const std::uintmax_t size = std::filesystem::file_size(path, missing);
-  if (!missing) seen.size = size;
-  return seen;
 }
 
 }  // namespace scheduling

@@ -1,10 +1,9 @@
 // Looks every now and then whether somebody has written to the user of this desk.
 #pragma once
 
-#include <filesystem>
 #include <optional>
-#include <string>
 
+#include "scheduling/message_board.h"
 #include "shell/station.h"
 
 namespace scheduling {
@@ -18,18 +17,11 @@ class MessageWatch {
   [[nodiscard]] std::optional<long> look();
 
  private:
-  struct Seen {
-    std::filesystem::file_time_type changed;
-    std::uintmax_t size = 0;
-    std::string address;
-    bool operator==(const Seen&) const = default;
-  };
   [[nodiscard]] bool isDue();
-  [[nodiscard]] Seen present() const;
 
   const shell::Station& istasyon_;
   text::DateTime lookedAt_;
-  Seen seen_;
+  MessageStamp seen_;
 };
 
 }  // namespace scheduling

@@ -122,6 +122,9 @@ TEST_F(Messages, ComeInWhileTheScreenIsOpen) {
   EXPECT_EQ(subjects(board), (Subjects{"ilk", "ikinci"}));
   EXPECT_EQ(board.msgrid1.Row(), 2);
   EXPECT_EQ(board.süre.caption(), "0");
+  receive("İbrahim", "ikinci");
+  board.mnumesajal.press();
+  EXPECT_EQ(subjects(board), (Subjects{"ilk", "ikinci", "ikinci"})) << "sent twice, word for word";
 }
 
 TEST_F(Messages, AreDeletedOneByOneOrAllAfterAQuestion) {
