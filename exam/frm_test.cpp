@@ -128,24 +128,14 @@ void FrmTest::tuskontrol() {
 }
 
 dao::Status FrmTest::Forumalanlaritasi() {
-  dao::Recordset& table = tablo();
-  const auto date = txttarih.date(istasyon.clock.today());
-  const dao::Status results[] = {table.Fields("Name").Set(text::trim(lblisim.caption())),
-                                 table.Fields("Date").Set(date ? dao::Value(*date) : dao::Value()),
-                                 table.Fields("Speciality").Set(istasyon.BransNo),
-                                 RecordScreen::Forumalanlaritasi()};
-  for (const dao::Status& result : results) {
-    if (!result) return result;
-  }
-  return {};
+  const dao::Status begun = shell::sahibiniYaz(istasyon, tablo(), lblisim.caption(), txttarih);
+  return begun ? RecordScreen::Forumalanlaritasi() : begun;
 }
 
 // --- The record
 
 void FrmTest::Kaydet() {
-  // Saved by a key while the date is typed, or with a date that is none.
-  const bool unchecked = activeControl() == &txttarih || !txttarih.date(istasyon.clock.today());
-  if (unchecked && !shell::hatalitarih(istasyon, txttarih)) return;
+  if (!shell::kayitTarihi(istasyon, txttarih, activeControl())) return;
   testBitti();
   for (forms::TextBox* const number : {&txtsonuç, &txtmin, &txtmax})
     number->setText(noktali(number->text()));

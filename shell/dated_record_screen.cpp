@@ -111,24 +111,14 @@ bool DatedRecordScreen::temizlenebilir() {
 }
 
 dao::Status DatedRecordScreen::Forumalanlaritasi() {
-  dao::Recordset& table = tablo();
-  const auto date = txttarih.date(bugun());
-  const dao::Status results[] = {table.Fields("Name").Set(text::trim(lblisim.caption())),
-                                 table.Fields("Date").Set(date ? dao::Value(*date) : dao::Value()),
-                                 table.Fields("Speciality").Set(istasyon.BransNo),
-                                 RecordScreen::Forumalanlaritasi()};
-  for (const dao::Status& result : results) {
-    if (!result) return result;
-  }
-  return {};
+  const dao::Status begun = sahibiniYaz(istasyon, tablo(), lblisim.caption(), txttarih);
+  return begun ? RecordScreen::Forumalanlaritasi() : begun;
 }
 
 // --- The record
 
 void DatedRecordScreen::Kaydet() {
-  // Saved by a key while the date is typed, or with a date that is none.
-  const bool unchecked = activeControl() == &txttarih || !txttarih.date(bugun());
-  if (unchecked && !hatalitarih()) return;
+  if (!kayitTarihi(istasyon, txttarih, activeControl())) return;
   const dao::Status written = kayitYaz();
   if (!written) return kaydedilemedi(written);
   Eskialan();

@@ -49,6 +49,23 @@ bool hatalitarih(Station& istasyon, forms::DateBox& box) {
   return false;
 }
 
+bool kayitTarihi(Station& istasyon, forms::DateBox& box, const forms::Control* active) {
+  const bool checked = active != &box && box.date(istasyon.clock.today()).has_value();
+  return checked || hatalitarih(istasyon, box);
+}
+
+dao::Status sahibiniYaz(const Station& istasyon, dao::Recordset& table, std::string_view patient,
+                        const forms::DateBox& box) {
+  const auto date = box.date(istasyon.clock.today());
+  const dao::Status results[] = {table.Fields("Name").Set(text::trim(patient)),
+                                 table.Fields("Date").Set(date ? dao::Value(*date) : dao::Value()),
+                                 table.Fields("Speciality").Set(istasyon.BransNo)};
+  for (const dao::Status& result : results) {
+    if (!result) return result;
+  }
+  return {};
+}
+
 std::string tarihteYas(Station& istasyon, const forms::DateBox& box) {
   const auto date = box.date(istasyon.clock.today());
   if (!date || istasyon.kart == nullptr) return {};
