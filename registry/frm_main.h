@@ -3,6 +3,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -303,7 +304,8 @@ class FrmMain : public shell::RecordScreen,
   void netDurumu();
   // Looks Station::SeciliHasta up and takes the patient for this station.
   [[nodiscard]] Taken hastayiTut();
-  [[nodiscard]] bool kartiBul();
+  [[nodiscard]] std::optional<Taken> hemenTut();
+  dao::Status kartiBul();
   // Shows the card that was looked up.
   void hastayiYukle();
   [[nodiscard]] dao::Status tutarakYaz();

@@ -84,29 +84,34 @@ void FrmMain::netDurumu() {
                                    : phrase(istasyon, Phrase::StationNumber) + slot);
 }
 
-bool FrmMain::kartiBul() {
-  return tablo().Seek("=", istasyon.SeciliHasta) && !tablo().NoMatch();
+dao::Status FrmMain::kartiBul() {
+  return tablo().Seek("=", istasyon.SeciliHasta);
 }
 
-// Looked up and taken as in one step: no rename or delete of another station comes in between. The
-// store may keep a look waiting, and who waits with the register locked keeps all stations waiting;
-// so the card is looked up before, and again when the store has changed by the time it is taken.
-// The name is compared as it is stored, however it was typed.
+// Another station's commit is waited for without the register locked: else all of them would wait.
 FrmMain::Taken FrmMain::hastayiTut() {
-  constexpr int freeLooks = 3;
+  constexpr int mostLooks = 20;
   if (istasyon.SeciliHasta.empty()) return Taken::Missing;
-  for (int look = 1;; ++look) {
-    if (!kartiBul()) return Taken::Missing;
-    auto lock = PatientLock::take(istasyon);
-    if (!lock) return Taken::Elsewhere;
-    const bool fresh = tablo().isFresh();
-    if (!fresh && look < freeLooks) continue;
-    if (!fresh && !kartiBul()) return Taken::Missing;
-    const std::string name = tablo().Fields("Name").text();
-    if (lock->isElsewhere(name)) return Taken::Elsewhere;
-    lock->publish(name);
-    return Taken::Ours;
+  for (int look = 0; look < mostLooks; ++look) {
+    if (const auto taken = hemenTut()) return *taken;
+    if (kartiBul().fault() == dao::Fault::Busy) break;
   }
+  return Taken::Elsewhere;
+}
+
+// Looked up and taken in one step: no rename or delete of another station comes in between. The
+// name is compared as it is stored, however it was typed. None while the store is busy.
+std::optional<FrmMain::Taken> FrmMain::hemenTut() {
+  auto lock = PatientLock::take(istasyon);
+  if (!lock) return Taken::Elsewhere;
+  const dao::Impatience hurry(istasyon.stores.personal.database);
+  const dao::Status found = kartiBul();
+  if (found.fault() == dao::Fault::Busy) return std::nullopt;
+  if (!found || tablo().NoMatch()) return Taken::Missing;
+  const std::string name = tablo().Fields("Name").text();
+  if (lock->isElsewhere(name)) return Taken::Elsewhere;
+  lock->publish(name);
+  return Taken::Ours;
 }
 
 // A name that is new to this station is written and taken in one step: nobody can load the card in

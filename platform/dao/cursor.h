@@ -42,7 +42,6 @@ class Cursor {
   virtual Status Index(std::string_view) { return unsupported("Index"); }
   virtual Status Seek(std::string_view, const Value&) { return unsupported("Seek"); }
   [[nodiscard]] virtual bool NoMatch() const { return false; }
-  [[nodiscard]] virtual bool isFresh() const { return false; }
   virtual Status MoveFirst() = 0;
   virtual Status MoveNext() = 0;
   virtual Status MovePrevious() = 0;

@@ -24,6 +24,14 @@ Status Transaction::commit() {
   return engine->commit();
 }
 
+Impatience::Impatience(const Database& database) : engine_(database.engine()) {
+  if (engine_) engine_->setPatience(std::chrono::milliseconds{0});
+}
+
+Impatience::~Impatience() {
+  if (engine_) engine_->setPatience(engine_->usualPatience());
+}
+
 Database::Database(std::shared_ptr<Engine> engine) : engine_(std::move(engine)) {}
 
 void Database::Close() {

@@ -22,6 +22,7 @@ using platform::Result;
 using platform::Status;
 
 class Engine;
+class Database;
 
 // The write transaction of a database. Destroyed without commit() it is rolled back. One begun
 // inside another joins it: only the outermost commits, and not when an inner one was given up.
@@ -36,6 +37,18 @@ class Transaction {
  private:
   friend class Database;
   explicit Transaction(std::shared_ptr<Engine> engine) : engine_(std::move(engine)) {}
+  std::shared_ptr<Engine> engine_;
+};
+
+// While it lives, what would wait for another station's lock on the store is Busy at once.
+class Impatience {
+ public:
+  explicit Impatience(const Database& database);
+  Impatience(const Impatience&) = delete;
+  Impatience& operator=(const Impatience&) = delete;
+  ~Impatience();
+
+ private:
   std::shared_ptr<Engine> engine_;
 };
 

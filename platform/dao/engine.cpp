@@ -14,6 +14,9 @@ constexpr std::int64_t kApplicationId = 0x534E564C;
 constexpr std::int64_t kGeneralMark = 1;
 constexpr std::int64_t kTurkishMark = 2;
 
+// How long another station's commit may go unnoticed while rows of one page are walked.
+constexpr std::chrono::microseconds kNoticeWithin{100};
+
 // Some milliseconds of work.
 constexpr int kStepsBetweenQuestions = 10'000;
 
@@ -78,7 +81,8 @@ Status Engine::connect(const OpenOptions& options) {
   // A quoted name that is no field is a fault, never a text.
   sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
-  sqlite3_busy_timeout(handle_, static_cast<int>(options.busyTimeout.count()));
+  usualPatience_ = options.busyTimeout;
+  setPatience(usualPatience_);
   return {};
 }
 
@@ -231,6 +235,10 @@ void Engine::rollback() {
   ++rollbacks_;
 }
 
+void Engine::setPatience(std::chrono::milliseconds patience) {
+  if (handle_) sqlite3_busy_timeout(handle_, static_cast<int>(patience.count()));
+}
+
 void Engine::whileRunning(const std::function<bool()>& goOn) {
   const auto refused = [](void* asked) {
     return (*static_cast<const std::function<bool()>*>(asked))() ? 0 : 1;
@@ -240,10 +248,10 @@ void Engine::whileRunning(const std::function<bool()>& goOn) {
                            const_cast<std::function<bool()>*>(&goOn));
 }
 
-ChangeStamp Engine::changeStamp(std::chrono::microseconds within) {
+ChangeStamp Engine::changeStamp() {
   if (!handle_) return {};
   const auto now = std::chrono::steady_clock::now();
-  if (now - counterRead_ >= within) {
+  if (now - counterRead_ > kNoticeWithin) {
     counter_ = fileCounter();
     counterRead_ = now;
   }

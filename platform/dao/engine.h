@@ -61,9 +61,6 @@ struct ChangeStamp {
   bool operator==(const ChangeStamp&) const = default;
 };
 
-// How long another station's commit may go unnoticed while rows of one page are walked.
-inline constexpr std::chrono::microseconds kNoticeWithin{100};
-
 class Engine {
  public:
   static Result<std::shared_ptr<Engine>> open(const std::filesystem::path& path,
@@ -99,12 +96,15 @@ class Engine {
   // Writes the marks of a store into a file that has none.
   Status mark();
 
+  // For how long a call waits for another connection's lock before it is Busy.
+  void setPatience(std::chrono::milliseconds patience);
+  [[nodiscard]] std::chrono::milliseconds usualPatience() const { return usualPatience_; }
+
   // Asks now and then, while a statement runs, whether to go on; a refusal ends the statement with
   // a fault. The function outlives the connection.
   void whileRunning(const std::function<bool()>& goOn);
 
-  // Another station's commit may go unnoticed for as long as it is told.
-  [[nodiscard]] ChangeStamp changeStamp(std::chrono::microseconds within = kNoticeWithin);
+  [[nodiscard]] ChangeStamp changeStamp();
   [[nodiscard]] std::int64_t lastNumber() const;
 
   // What the last call of the engine failed with.
@@ -126,6 +126,7 @@ class Engine {
   Order order_;
   std::unique_ptr<Collator> collator_;
   std::unique_ptr<Collator> otherCollator_;  // of the order that is not the store's own
+  std::chrono::milliseconds usualPatience_{};
   bool marked_ = false;
   int depth_ = 0;
   bool doomed_ = false;

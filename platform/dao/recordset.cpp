@@ -76,10 +76,6 @@ Status Recordset::Seek(std::string_view comparison, const Value& key) {
   return cursor_ ? cursor_->Seek(comparison, key) : closed();
 }
 
-bool Recordset::isFresh() const {
-  return cursor_ && cursor_->isFresh();
-}
-
 bool Recordset::NoMatch() const {
   return !cursor_ || cursor_->NoMatch();
 }

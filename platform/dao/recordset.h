@@ -60,9 +60,6 @@ class Recordset {
   // Finding nothing is no fault: NoMatch() is true then and there is no current record.
   platform::Status Seek(std::string_view comparison, const Value& key);
   [[nodiscard]] bool NoMatch() const;
-  // Whether the file is as it was when the rows at hand were read. Costs no lock, so a commit that
-  // is just being written may show or not. Read-only sets are never fresh.
-  [[nodiscard]] bool isFresh() const;
 
   // Moving off an end sets Eof or Bof; moving on from there, or without a record, is NoCurrent.
   platform::Status MoveFirst();

@@ -32,9 +32,6 @@ class TableCursor : public Cursor {
   Status Index(std::string_view name) override;
   Status Seek(std::string_view comparison, const Value& key) override;
   bool NoMatch() const override { return noMatch_; }
-  bool isFresh() const override {
-    return engine().changeStamp(std::chrono::microseconds{0}) == loaded_;
-  }
   Status MoveFirst() override { return moveToEnd(&KeyPager::first); }
   Status MoveLast() override { return moveToEnd(&KeyPager::last); }
   Status MoveNext() override;

@@ -2,7 +2,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <optional>
 #include <set>
+#include <thread>
 
 #include "tests/platform/dao/store_fixture.h"
 
@@ -39,22 +42,6 @@ TEST_F(StationsTest, SeeEachOthersRowsAtTheNextRead) {
   ASSERT_TRUE(here.Update());
   ASSERT_TRUE(there.Seek("=", "a"));
   EXPECT_EQ(there.Fields("Notes").text(), "new");
-}
-
-TEST_F(StationsTest, TellWhetherTheFileIsAsItWasWhenTheRowWasRead) {
-  addNumbered(2, 1);
-  Recordset here = table("IDCard");
-  Recordset there = other_.OpenRecordset("IDCard").value();
-  for (const char* const name : {"b", "c"}) {
-    ASSERT_TRUE(here.Seek("=", numbered(1)));
-    EXPECT_TRUE(here.isFresh());
-    ASSERT_TRUE(addTo(there, "Name", name));
-    EXPECT_FALSE(here.isFresh());
-  }
-  ASSERT_TRUE(here.Seek("=", numbered(1)));
-  ASSERT_TRUE(addTo(here, "Name", "d"));
-  EXPECT_FALSE(here.isFresh());
-  EXPECT_FALSE(store_.OpenRecordset("SELECT [Name] FROM [IDCard]")->isFresh());
 }
 
 TEST_F(StationsTest, ADeletedRowIsStaleForTheOthers) {
@@ -178,6 +165,21 @@ TEST_F(StationsTest, NumbersAreTakenInsideATransactionOnly) {
   const auto transaction = store_.beginTransaction().value();
   EXPECT_EQ(store_.nextNumber("Physical Exam", "Count").value(), 1);
   EXPECT_EQ(store_.nextNumber("Physical Exam", "Number").error().fault(), Fault::Missing);
+}
+
+TEST_F(StationsTest, WaitForEachOtherUnlessInAHurry) {
+  constexpr std::chrono::seconds patience{60};
+  Database patient = OpenDatabase(path_, {.busyTimeout = patience}).value();
+  std::optional theirs = other_.beginTransaction().value();
+  const auto before = std::chrono::steady_clock::now();
+  {
+    const Impatience hurry(patient);
+    EXPECT_EQ(patient.beginTransaction().error().fault(), Fault::Busy);
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - before, patience / 2);
+  std::thread end([&] { theirs.reset(); });
+  EXPECT_TRUE(patient.beginTransaction());
+  end.join();
 }
 
 void saveExams(const std::filesystem::path& path, const char* station, int count) {
