@@ -1,13 +1,16 @@
 // What a checked backup costs over the engine's own compact copy and its check, on one store in one
-// run. Usage: backup_bench [megabytes [folder]]
+// run, and for how long a save of another station waits beside it.
+// Usage: backup_bench [megabytes [folder]]
 #include <sqlite3.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
+#include "bench/child.h"
 #include "bench/lines.h"
 #include "platform/dao/collation.h"
 #include "platform/dao/engine_functions.h"
@@ -75,6 +78,30 @@ void bareCopy(const fs::path& from, const fs::path& to) {
   BareEngine(to).run("PRAGMA integrity_check");
 }
 
+// A station that saves three times a second.
+void saveForEver(const fs::path& store, std::atomic<double>& longest) {
+  constexpr ::useconds_t between = 300'000;
+  auto database = dao::OpenDatabase(store, {.busyTimeout = std::chrono::minutes{5}});
+  if (!database) fail(database.error().text());
+  for (std::int64_t number = 0;; ++number) {
+    const double waited = milliseconds([&] {
+      if (!database->Execute("UPDATE [Physical Exam] SET [Therapy] = 'x' WHERE [Count] = ?",
+                             {number % 1000}))
+        fail("The other station cannot save.");
+    });
+    longest = std::max(longest.load(), waited);
+    ::usleep(between);
+  }
+}
+
+// Milliseconds.
+double longestSaveBeside(const fs::path& store, const fs::path& copy, dao::Others others) {
+  const bench::Shared<std::atomic<double>> longest;
+  const bench::Child station([&] { saveForEver(store, *longest); });
+  if (const auto copied = stores::copyStore(store, copy, {}, others); !copied) fail(copied.text());
+  return *longest;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -101,6 +128,9 @@ int main(int argc, char** argv) {
   bench::printHeadings();
   const bench::Line line = bench::atMost("checked backup", ours, bare, allowedRatio);
   bench::print(line);
+  const double beside = longestSaveBeside(store, folder / "copy.mdb", dao::Others::Wait);
+  const double going = longestSaveBeside(store, folder / "copy.mdb", dao::Others::GoOn);
+  bench::print(bench::atMost("longest save beside one that lets others work", going, beside, 1));
   stores::CloseStores(stores);
   fs::remove_all(folder);
   return line.reached ? 0 : 1;

@@ -81,7 +81,8 @@ std::string backupOf(const std::string& folder) {
 void backUpForEver(const std::string& folder, Told& told) {
   told.started = true;
   for (;;) {
-    need(stores::backUp(folder, backupOf(folder), stores::storeKinds));
+    const auto others = told.done % 2 == 0 ? dao::Others::Wait : dao::Others::GoOn;
+    need(stores::backUp(folder, backupOf(folder), stores::storeKinds, {}, others));
     ++told.done;
   }
 }

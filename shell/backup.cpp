@@ -16,9 +16,10 @@ namespace {
 using Kinds = std::span<const stores::StoreKind>;
 
 BackgroundResult yedekAl(Station& istasyon, const std::string& folder, Kinds kinds) {
+  const auto others = istasyon.sicil.hasCompany() ? dao::Others::GoOn : dao::Others::Wait;
   return arkadaYap(istasyon, metinbul(istasyon, "Yedekle"),
                    [&, program = istasyon.UygYolu](const stores::Progress& progress) {
-                     return stores::backUp(program, folder, kinds, progress);
+                     return stores::backUp(program, folder, kinds, progress, others);
                    });
 }
 

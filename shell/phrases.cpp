@@ -115,9 +115,9 @@ constexpr auto phraseRows = std::to_array<Row>({
      "Program yedek almadan kapatılsın mı?"},
     {Phrase::BackupHint,
      "Open the folder that is to hold the backup, best on another disk. The copies are checked "
-     "before they replace older ones. Meanwhile other stations can read; their saves wait.",
+     "before they replace older ones. Other stations go on working meanwhile.",
      "Yedeğin duracağı klasörü açın; en iyisi başka bir disktir. Kopyalar denetlenmeden "
-     "eskilerinin yerine geçmez. Bu sırada öbür istasyonlar okuyabilir; kayıtları bekler."},
+     "eskilerinin yerine geçmez. Bu sırada öbür istasyonlar çalışmayı sürdürür."},
     {Phrase::BackupNotIntoData, "This folder holds the records themselves. Open another one.",
      "Bu klasörde kayıtların kendisi duruyor. Başka bir klasör açın."},
     {Phrase::Place, "Place", "Yer"},

@@ -79,6 +79,12 @@ void StationRegister::letIn() {
   if (company_) company_->share(milliseconds{0}).ignore();
 }
 
+bool StationRegister::hasCompany() {
+  const bool alone = tryAlone() == true;
+  if (alone) letIn();
+  return !alone;
+}
+
 void StationRegister::close() {
   if (slot_ > 0) {
     const auto guard = lock();

@@ -29,6 +29,8 @@ class StationRegister {
   // From being one of several: whether this station is the only one, and stays so until letIn().
   [[nodiscard]] platform::Result<bool> tryAlone();
   void letIn();
+  // Whether another station runs, or may run as far as can be told.
+  [[nodiscard]] bool hasCompany();
 
   // Gives the slot back, and deletes the file when no other station is left.
   void close();

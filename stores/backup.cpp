@@ -39,14 +39,14 @@ Progress shareOf(const Progress& whole, std::int64_t before, const Part& part, s
 
 dao::Result<std::vector<StoreDraft>> draftAll(const fs::path& programFolder, const fs::path& into,
                                               const std::vector<Part>& parts,
-                                              const Progress& progress) {
+                                              const Progress& progress, dao::Others others) {
   std::int64_t all = 0;
   for (const Part& part : parts) all += part.bytes;
   std::vector<StoreDraft> drafts;
   std::int64_t before = 0;
   for (const Part& part : parts) {
     auto draft = draftCopy(dataFile(programFolder, part.kind), into / part.kind.file,
-                           shareOf(progress, before, part, all));
+                           shareOf(progress, before, part, all), others);
     if (!draft) return std::unexpected(draft.error());
     drafts.push_back(std::move(*draft));
     before += part.bytes;
@@ -64,10 +64,10 @@ bool isDataFolder(const fs::path& programFolder, const fs::path& folder) {
 }
 
 dao::Status backUp(const fs::path& programFolder, const fs::path& into,
-                   std::span<const StoreKind> kinds, const Progress& progress) {
+                   std::span<const StoreKind> kinds, const Progress& progress, dao::Others others) {
   if (isDataFolder(programFolder, into))
     return {dao::Fault::Unsupported, into.string() + ": these are the stores themselves."};
-  auto drafts = draftAll(programFolder, into, partsOf(programFolder, kinds), progress);
+  auto drafts = draftAll(programFolder, into, partsOf(programFolder, kinds), progress, others);
   if (!drafts) return drafts.error();
   for (StoreDraft& draft : *drafts) {
     if (dao::Status installed = draft.install(); !installed) return installed;

@@ -16,12 +16,13 @@ namespace stores {
 
 // Copies those stores of the program's folder that are there; the first two are expected to be. All
 // copies are written and checked before the first of them takes the place of an old one, so that a
-// folder holds the old backup or the new one. Stations may go on working.
+// folder holds the old backup or the new one.
 //
 // Progress counts bytes over all stores. The faults are those of copyStore; Unsupported for the
 // `Data` folder itself.
 [[nodiscard]] dao::Status backUp(const std::filesystem::path& programFolder,
                                  const std::filesystem::path& into,
-                                 std::span<const StoreKind> kinds, const Progress& progress = {});
+                                 std::span<const StoreKind> kinds, const Progress& progress = {},
+                                 dao::Others others = dao::Others::Wait);
 
 }  // namespace stores

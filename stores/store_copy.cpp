@@ -15,18 +15,19 @@ void keepPermissions(const std::filesystem::path& from, const std::filesystem::p
 }  // namespace
 
 dao::Result<StoreDraft> draftCopy(const std::filesystem::path& from,
-                                  const std::filesystem::path& to, const Progress& progress) {
+                                  const std::filesystem::path& to, const Progress& progress,
+                                  dao::Others others) {
   auto draft = StoreDraft::take(to);
   if (!draft) return draft;
-  const dao::Status written = dao::CompactDatabase(from, draft->path(), progress);
+  const dao::Status written = dao::CompactDatabase(from, draft->path(), progress, others);
   if (!written) return std::unexpected(written);
   keepPermissions(from, draft->path());
   return draft;
 }
 
 dao::Status copyStore(const std::filesystem::path& from, const std::filesystem::path& to,
-                      const Progress& progress) {
-  auto draft = draftCopy(from, to, progress);
+                      const Progress& progress, dao::Others others) {
+  auto draft = draftCopy(from, to, progress, others);
   return draft ? draft->install() : draft.error();
 }
 

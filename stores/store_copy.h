@@ -11,7 +11,7 @@
 namespace stores {
 
 // Copies the store `from` to `to`, over an older copy. Other stations may have `from` open: the
-// copy holds the rows of one moment, and what they save waits until those are written.
+// copy holds the rows of one moment.
 //
 // It is written beside `to`, checked (every table and index sound, and as many rows in each table
 // as in the source), brought to the disk, and only then takes the name; after a fault, a stop or a
@@ -25,11 +25,13 @@ namespace stores {
 // ReadOnly, DiskFull, Damaged (the store), Unsupported (a file of another program), Other when it
 // was stopped.
 [[nodiscard]] dao::Status copyStore(const std::filesystem::path& from,
-                                    const std::filesystem::path& to, const Progress& progress = {});
+                                    const std::filesystem::path& to, const Progress& progress = {},
+                                    dao::Others others = dao::Others::Wait);
 
 // The same up to the moment when it takes the name: for stores that are replaced together.
 [[nodiscard]] dao::Result<StoreDraft> draftCopy(const std::filesystem::path& from,
                                                 const std::filesystem::path& to,
-                                                const Progress& progress = {});
+                                                const Progress& progress = {},
+                                                dao::Others others = dao::Others::Wait);
 
 }  // namespace stores

@@ -9,6 +9,7 @@
 
 #include "platform/dao/database.h"
 #include "platform/dao/engine.h"
+#include "platform/dao/snapshot.h"
 
 namespace dao {
 namespace {
@@ -72,10 +73,12 @@ class Compaction {
   Compaction(const fs::path& from, const fs::path& to, const Progress& progress)
       : from_(from), to_(to), progress_(progress) {}
 
-  Status run();
+  Status run(Others others);
 
  private:
-  Status prepare(Engine& source);
+  Status measure(Engine& source);
+  Result<std::shared_ptr<Engine>> still(const std::shared_ptr<Engine>& source);
+  Status keepLocked(Engine& source);
   Result<RowCounts> write(Engine& source);
   Status check(const RowCounts& expected);
   Status checkTable(Engine& copy, const std::string& table, std::int64_t rows);
@@ -91,21 +94,22 @@ class Compaction {
   // Asked by the engine in the middle of its statements.
   const std::function<bool()> written_ = [this] { return tellWritten(); };
   const std::function<bool()> checked_ = [this] { return tell(done_); };
-  std::int64_t size_ = 1;  // expected bytes; the checking counts as much as the writing
+  std::int64_t size_ = 1;    // expected bytes; writing and checking count alike
+  std::int64_t taking_ = 0;  // as much, when a snapshot is taken before
   std::int64_t done_ = 0;
   bool stopped_ = false;
 };
 
 bool Compaction::tell(std::int64_t done) {
   done_ = done;
-  stopped_ = stopped_ || (progress_ && !progress_(done, 2 * size_));
+  stopped_ = stopped_ || (progress_ && !progress_(done, taking_ + 2 * size_));
   return !stopped_;
 }
 
 bool Compaction::tellWritten() {
   std::error_code notYetThere;
   const auto bytes = fs::file_size(to_, notYetThere);
-  return tell(notYetThere ? 0 : std::min(static_cast<std::int64_t>(bytes), size_));
+  return tell(taking_ + (notYetThere ? 0 : std::min(static_cast<std::int64_t>(bytes), size_)));
 }
 
 Status Compaction::orStopped(const Status& fault) const {
@@ -116,22 +120,22 @@ Status Compaction::sourceDamaged(const std::string& table) const {
   return {Fault::Damaged, nameOf(from_) + ", table " + table + ": the file is damaged."};
 }
 
-Status Compaction::run() {
+Status Compaction::run(Others others) {
   auto source = Engine::open(from_, {.busyTimeout = sourcePatience});
   if (!source) return source.error();
-  if (Status ready = prepare(**source); !ready) return ready;
-  const auto counts = write(**source);
+  if (Status measured = measure(**source); !measured) return measured;
+  taking_ = others == Others::GoOn ? size_ : 0;
+  auto from = still(*source);
+  if (!from) return orStopped(from.error());
+  const auto counts = write(**from);
+  (*from)->close();
   (*source)->close();
   if (!counts) return orStopped(counts.error());
   if (Status safe = flushed(to_); !safe) return safe;
   return orStopped(check(*counts));
 }
 
-// The connection keeps its lock between its statements until it is closed: nobody can commit
-// between the copying, which refuses to be a part of a transaction, and the counting.
-Status Compaction::prepare(Engine& source) {
-  const auto kept = source.run("PRAGMA main.locking_mode=EXCLUSIVE", nameOf(from_));
-  if (!kept) return kept.error();
+Status Compaction::measure(Engine& source) {
   const auto pages = number(source, "PRAGMA page_count");
   const auto spare = number(source, "PRAGMA freelist_count");
   const auto width = number(source, "PRAGMA page_size");
@@ -140,6 +144,25 @@ Status Compaction::prepare(Engine& source) {
   }
   size_ = std::max<std::int64_t>(1, (*pages - *spare) * *width);
   return {};
+}
+
+// What nobody changes while it is copied and counted: a snapshot, or the store itself.
+Result<std::shared_ptr<Engine>> Compaction::still(const std::shared_ptr<Engine>& source) {
+  if (taking_ > 0) {
+    auto snapshot = takeSnapshot(*source, [this](std::int64_t done, std::int64_t total) {
+      return tell(taking_ * done / std::max<std::int64_t>(1, total));
+    });
+    if (snapshot || stopped_ || snapshot.error().fault() == Fault::Busy) return snapshot;
+  }
+  if (Status kept = keepLocked(*source); !kept) return std::unexpected(std::move(kept));
+  return source;
+}
+
+// The connection keeps its lock between its statements until it is closed: nobody can commit
+// between the copying, which refuses to be a part of a transaction, and the counting.
+Status Compaction::keepLocked(Engine& source) {
+  const auto kept = source.run("PRAGMA main.locking_mode=EXCLUSIVE", nameOf(from_));
+  return kept ? Status() : kept.error();
 }
 
 Result<RowCounts> Compaction::write(Engine& source) {
@@ -157,11 +180,11 @@ Status Compaction::check(const RowCounts& expected) {
   for (const auto& [table, rows] : expected) all += rows;
   std::int64_t rowsDone = 0;
   for (const auto& [table, rows] : expected) {
-    if (!tell(size_ + size_ * rowsDone / all)) return orStopped({});
+    if (!tell(taking_ + size_ + size_ * rowsDone / all)) return orStopped({});
     if (Status sound = checkTable(**copy, table, rows); !sound) return sound;
     rowsDone += rows;
   }
-  return tell(2 * size_) ? Status() : orStopped({});
+  return tell(taking_ + 2 * size_) ? Status() : orStopped({});
 }
 
 Status Compaction::checkTable(Engine& copy, const std::string& table, std::int64_t rows) {
@@ -188,9 +211,10 @@ Status refusal(const fs::path& to) {
 
 }  // namespace
 
-Status CompactDatabase(const fs::path& from, const fs::path& to, const Progress& progress) {
+Status CompactDatabase(const fs::path& from, const fs::path& to, const Progress& progress,
+                       Others others) {
   if (Status refused = refusal(to); !refused) return refused;
-  Status status = Compaction(from, to, progress).run();
+  Status status = Compaction(from, to, progress).run(others);
   std::error_code ignored;
   if (!status) fs::remove(to, ignored);
   return status;

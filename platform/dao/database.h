@@ -155,15 +155,19 @@ class Database {
 // Bytes done and bytes in all, as far as they can be told. False stops the work.
 using Progress = std::function<bool(std::int64_t done, std::int64_t total)>;
 
-// Writes a compact copy of the rows as they stand at one moment, whoever else has the store open;
-// what others save waits until the rows are written and counted. The copy is brought to the disk
-// and checked: its tables and indexes are sound, and each table has as many rows as in the source.
-// `to` must not exist, and nothing of it is left after a fault. Missing (no source, or no folder to
-// write to), Exists, Busy, ReadOnly, DiskFull, Damaged, Unsupported (the source is a file of
-// another program), Other when it was stopped.
+// What other stations meet while a store is copied. GoOn: they wait for moments only; it takes
+// about half as long again, and as much room among the temporary files. Without that room they
+// wait.
+enum class Others { Wait, GoOn };
+
+// Writes a compact copy of the rows as they stand at one moment, whoever else has the store open.
+// The copy is brought to the disk and checked: its tables and indexes are sound, and each table has
+// as many rows as in the source. `to` must not exist, and nothing of it is left after a fault.
+// Missing (no source, or no folder to write to), Exists, Busy, ReadOnly, DiskFull, Damaged,
+// Unsupported (the source is a file of another program), Other when it was stopped.
 [[nodiscard]] Status CompactDatabase(const std::filesystem::path& from,
-                                     const std::filesystem::path& to,
-                                     const Progress& progress = {});
+                                     const std::filesystem::path& to, const Progress& progress = {},
+                                     Others others = Others::Wait);
 
 // Busy when somebody reads or writes the store at this moment. Stations that have it open and do
 // nothing are not seen.

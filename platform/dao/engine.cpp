@@ -26,6 +26,10 @@ std::int64_t markOf(Order order) {
 
 constexpr std::uintmax_t kSmallestPage = 512;
 
+// Nothing of it is left after a crash.
+constexpr std::string_view kScratchSettings =
+    "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-2000;";
+
 bool isMarkedReadOnly(const std::filesystem::path& path) {
   using std::filesystem::perms;
   constexpr perms kWrite = perms::owner_write | perms::group_write | perms::others_write;
@@ -72,6 +76,16 @@ Result<std::shared_ptr<Engine>> Engine::open(const std::filesystem::path& path,
   return engine;
 }
 
+Result<std::shared_ptr<Engine>> Engine::scratch(const Engine& like) {
+  auto engine = std::make_shared<Engine>(like.path_, like.order_);
+  constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+  if (sqlite3_open_v2("", &engine->handle_, flags, nullptr) != SQLITE_OK)
+    return std::unexpected(engine->fault(like.path_.filename().string()));
+  sqlite3_exec(engine->handle_, kScratchSettings.data(), nullptr, nullptr, nullptr);
+  if (Status ready = engine->prepareOrder(); !ready) return std::unexpected(std::move(ready));
+  return engine;
+}
+
 Status Engine::connect(const OpenOptions& options) {
   const bool readOnly = options.access == Access::ReadOnly || isMarkedReadOnly(path_);
   const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX;
@@ -109,6 +123,10 @@ Status Engine::readMarks(const OpenOptions& options) {
   order_ = !marked_                ? options.emptyFileOrder
            : *mark == kTurkishMark ? Order::Turkish
                                    : Order::General;
+  return prepareOrder();
+}
+
+Status Engine::prepareOrder() {
   collator_ = std::make_unique<Collator>(order_);
   if (!collator_->usable()) return {Fault::Other, "The collation rules of the system are missing."};
   if (addFunctions(handle_, order_, *collator_) != SQLITE_OK)

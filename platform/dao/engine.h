@@ -65,6 +65,9 @@ class Engine {
  public:
   static Result<std::shared_ptr<Engine>> open(const std::filesystem::path& path,
                                               const OpenOptions& options);
+  // An empty store of the same name and order among the temporary files, which goes when it is
+  // closed.
+  static Result<std::shared_ptr<Engine>> scratch(const Engine& like);
   Engine(const std::filesystem::path& path, Order order);
   Engine(const Engine&) = delete;
   Engine& operator=(const Engine&) = delete;
@@ -117,6 +120,7 @@ class Engine {
  private:
   Status connect(const OpenOptions& options);
   Status configure(const OpenOptions& options);
+  Status prepareOrder();
   Status readMarks(const OpenOptions& options);
   Result<std::int64_t> number(std::string_view sql);
   [[nodiscard]] std::uint32_t fileCounter();

@@ -51,10 +51,14 @@ TEST_F(Register, GivesEachStationASlotAndTheLastOneDeletesIt) {
   StationRegister three;
   ASSERT_EQ(one.open(path), Company::Alone);
   one.letIn();
-  ASSERT_EQ(two.open(path), Company::Others);
+  EXPECT_FALSE(one.hasCompany());
+  ASSERT_EQ(two.open(path), Company::Others) << "being asked keeps nobody out";
+  EXPECT_TRUE(one.hasCompany());
   EXPECT_EQ(one.takeSlot(), 1);
   EXPECT_EQ(two.takeSlot(), 2);
   one.close();
+  EXPECT_FALSE(two.hasCompany());
+  EXPECT_TRUE(one.hasCompany()) << "without the register nobody can tell";
   EXPECT_TRUE(std::filesystem::exists(file));
   ASSERT_TRUE(start(three, path));
   EXPECT_EQ(three.slot(), 1);

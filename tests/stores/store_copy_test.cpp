@@ -116,14 +116,16 @@ TEST_F(StoreCopyTest, AFailureLeavesTheOldCopyAlone) {
   CloseStores(stores_);
   const std::string sound = bytesOf(store_);
   for (const FailingCase& each : cases) {
-    SCOPED_TRACE(each.what);
-    writeBytes(store_, sound);
-    each.spoil(store_, copy_);
-    const dao::Status copied = copyStore(store_, copy_, each.progress);
-    EXPECT_EQ(copied.fault(), each.fault) << copied.text();
-    EXPECT_FALSE(copied.text().empty());
-    EXPECT_EQ(bytesOf(copy_), oldCopy);
-    expectNothingBeside();
+    for (const dao::Others others : {dao::Others::Wait, dao::Others::GoOn}) {
+      SCOPED_TRACE(each.what);
+      writeBytes(store_, sound);
+      each.spoil(store_, copy_);
+      const dao::Status copied = copyStore(store_, copy_, each.progress, others);
+      EXPECT_EQ(copied.fault(), each.fault) << copied.text();
+      EXPECT_FALSE(copied.text().empty());
+      EXPECT_EQ(bytesOf(copy_), oldCopy);
+      expectNothingBeside();
+    }
   }
 }
 
@@ -149,6 +151,18 @@ TEST_F(StoreCopyTest, AFullDiskLeavesTheOldCopyAlone) {
   EXPECT_TRUE(station.succeeded());
   EXPECT_EQ(bytesOf(copy_), oldCopy);
   expectNothingBeside();
+}
+
+// The compact copy has its room, the copy of all pages among the temporary files has not.
+TEST_F(StoreCopyTest, TheStationsWaitWhereThereIsNoRoomForASecondCopy) {
+  fill(8000);
+  ASSERT_TRUE(stores_.personal.database.Execute("DELETE FROM IDCard"));
+  ChildProcess station([&] {
+    limitFileSize(std::filesystem::file_size(store_) / 2);
+    return copyStore(store_, copy_, {}, dao::Others::GoOn).ok();
+  });
+  EXPECT_TRUE(station.succeeded());
+  EXPECT_EQ(cardsIn(copy_), 0);
 }
 
 TEST_F(StoreCopyTest, TwoCopiesIntoOneFileDoNotMix) {
@@ -186,15 +200,17 @@ bool saveForEver(const std::string& folder, Counter& saved) {
 }
 
 TEST_F(StoreCopyTest, IsOfOneMomentWhileAnotherStationSaves) {
+  fill(4000);  // a snapshot of some steps
   Counter saved;
   ChildProcess station([&] { return saveForEver(folder_.path() + "/", saved); });
   ASSERT_EQ(saved.receive(), 3);
   std::int64_t last = 0;
   for (int round = 0; round < 20; ++round) {
-    const dao::Status copied = copyStore(store_, copy_);
+    const auto others = round % 2 == 0 ? dao::Others::Wait : dao::Others::GoOn;
+    const dao::Status copied = copyStore(store_, copy_, {}, others);
     ASSERT_TRUE(copied) << copied.text();
     auto copy = dao::OpenDatabase(copy_).value();
-    const std::int64_t count = copy.OpenRecordset("IDCard")->RecordCount() - 400;
+    const std::int64_t count = copy.OpenRecordset("IDCard")->RecordCount() - 4400;
     EXPECT_EQ(copy.OpenRecordset("Profession")->RecordCount(), count);
     EXPECT_GE(count, last) << "the other station got no turn";
     last = count;
