@@ -1,7 +1,6 @@
 // The name field: search as you type, the list under it, and the rule that tells namesakes apart.
 #include <algorithm>
 
-#include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "registry/frm_main.h"
 #include "shell/frm_pass.h"
@@ -49,7 +48,7 @@ void FrmMain::isimSifresi() {
 }
 
 void FrmMain::hesaplariAc() {
-  const bool asked = text::Val(istasyon.ayar("accpas", "0")) != 0;
+  const bool asked = istasyon.ayar("accpas", "0") != "0";
   if (asked && !shell::sifreSor(istasyon, shell::password::accounts)) return;
   istasyon.SifreSonucu = 0;
   ekranAc(mnuhesaplar, "frmaccount");

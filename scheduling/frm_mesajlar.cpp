@@ -101,8 +101,7 @@ void FrmMesajlar::Load() {
 
 void FrmMesajlar::Unload() {
   Timer1.setInterval(0);
-  for (const Message& message : listelenen_) {
-    if (message.record.isNew == 0) continue;
+  for (const Message& message : yeniGosterilen_) {
     // One that was deleted meanwhile has no flag to lose.
     files::changeMessage(mesajDosyasi(istasyon_), message, [](MessageRecord& record) {
       record.isNew = 0;
@@ -138,14 +137,22 @@ void FrmMesajlar::Gridyaz() {
 
 void FrmMesajlar::satirEkle(const Message& message) {
   const MessageRecord& record = message.record;
-  std::string row = record.sender;
+  std::string row = onOneLine(record.sender);
   for (const std::string& text : {record.subject, record.sent, record.text})
     row += '\t' + onOneLine(text);
   msgrid1.AddItem(row);
   const int added = msgrid1.rows() - 1;
   msgrid1.setRowData(added, message.number);
-  if (record.isNew == 1) vurgula(added, forms::Emphasis::Strong);
+  if (record.isNew == 1) yeniEkle(added, message);
   listelenen_.push_back(message);
+}
+
+void FrmMesajlar::yeniEkle(int row, const Message& message) {
+  vurgula(row, forms::Emphasis::Strong);
+  const bool shownBefore = std::ranges::any_of(yeniGosterilen_, [&](const Message& each) {
+    return each.number == message.number && each.record.isSameNote(message.record);
+  });
+  if (!shownBefore) yeniGosterilen_.push_back(message);
 }
 
 void FrmMesajlar::vurgula(int row, forms::Emphasis emphasis) {
@@ -165,7 +172,7 @@ void FrmMesajlar::satirSecildi() {
   for (forms::MenuItem* entry : {&mnusil, &mnuyanıtla}) entry->setEnabled(true);
   for (const char* key : {"sil", "yanit"}) tbToolBar.setButtonEnabled(key, true);
   txtmesaj.setText(message->record.text);
-  okundu(*message);
+  if (!kendiliginden_) okundu(*message);
 }
 
 void FrmMesajlar::secimYok() {
@@ -190,6 +197,7 @@ void FrmMesajlar::okundu(Message& message) {
 }
 
 void FrmMesajlar::Mesajyenile() {
+  if (Lmsgadres.caption() != mesajAdresi(istasyon_)) return adresDegisti();
   bakilan_ = mesajDurumu(istasyon_);
   const auto messages = mesajlar(istasyon_, gorunum_);
   if (!messages) return sbDurum.setPanel(1, messages.error().text());
@@ -207,7 +215,9 @@ void FrmMesajlar::Mesajyenile() {
 
 // The newest one is in sight; it is read when the user goes to it.
 void FrmMesajlar::Sonsırayıseç() {
+  kendiliginden_ = true;
   msgrid1.setRow(msgrid1.rows() - 1);
+  kendiliginden_ = false;
 }
 
 void FrmMesajlar::tik() {
@@ -259,6 +269,10 @@ void FrmMesajlar::ayarla() {
 
 void FrmMesajlar::adresDegistir() {
   mesajAdresiSor(istasyon_, "Gönderen ismini yazınız", "mesajı gönderen");
+  adresDegisti();
+}
+
+void FrmMesajlar::adresDegisti() {
   adresGoster();
   Gridyaz();
 }

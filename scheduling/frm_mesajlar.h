@@ -59,6 +59,7 @@ class FrmMesajlar : public forms::Form {
   void menuleriBagla();
   void gorunumSec(MessageView view);
   void satirEkle(const files::Message& message);
+  void yeniEkle(int row, const files::Message& message);
   void vurgula(int row, forms::Emphasis emphasis);
   void satirSecildi();
   void Sonsırayıseç();
@@ -72,14 +73,17 @@ class FrmMesajlar : public forms::Form {
   void tumunuSil();
   void ayarla();
   void adresDegistir();
+  void adresDegisti();
   void adresGoster();
   void sayiGoster();
 
   const std::array<forms::OptionButton*, messageViews.size()> secenekler_{&opttümü, &optgünlük,
                                                                           &optokunmamış, &optyeni};
   MessageView gorunum_ = MessageView::All;
-  std::vector<files::Message> listelenen_;  // in the order of the grid
-  MessageStamp bakilan_;                    // the file when it was last read
+  std::vector<files::Message> listelenen_;      // in the order of the grid
+  std::vector<files::Message> yeniGosterilen_;  // new ones that any view has shown
+  bool kendiliginden_ = false;                  // the row is chosen by the screen, not by its user
+  MessageStamp bakilan_;                        // the file when it was last read
   shell::Station& istasyon_;
 };
 

@@ -28,6 +28,15 @@ Result<std::vector<Message>> readAll(const RecordFile& file) {
   return messages;
 }
 
+// One that was cut off is written over by the next note.
+Result<long> wholeRecords(const RecordFile& file) {
+  const auto count = file.count();
+  if (!count || *count == 0) return count;
+  const auto last = file.get(*count);
+  if (!last) return std::unexpected(last.error());
+  return last->extent == Extent::Whole ? *count : *count - 1;
+}
+
 // The file, and the lock that goes before it.
 struct Locked {
   RecordFile file;
@@ -69,9 +78,9 @@ Result<std::vector<Message>> readMessages(const path& name) {
 Status sendMessage(const path& name, const MessageRecord& record) {
   auto locked = lockFile(name);
   if (!locked) return locked.error();
-  const auto count = locked->file.count();
-  if (!count) return count.error();
-  if (Status put = locked->file.put(*count + 1, record.encode()); !put) return put;
+  const auto whole = wholeRecords(locked->file);
+  if (!whole) return whole.error();
+  if (Status put = locked->file.put(*whole + 1, record.encode()); !put) return put;
   return locked->file.flush();
 }
 

@@ -121,10 +121,41 @@ TEST_F(Messages, ComeInWhileTheScreenIsOpen) {
   board.Timer1.Tick();
   EXPECT_EQ(subjects(board), (Subjects{"ilk", "ikinci"}));
   EXPECT_EQ(board.msgrid1.Row(), 2);
+  EXPECT_EQ(board.txtmesaj.text(), kept(1).text);
+  EXPECT_TRUE(isBold(board, 2));
+  EXPECT_EQ(kept(1).isRead, 0) << "nobody has gone to it";
+  EXPECT_EQ(kept(1).isNew, 1);
   EXPECT_EQ(board.süre.caption(), "0");
+  board.msgrid1.Click();
+  EXPECT_EQ(kept(1).isRead, 1);
   receive("İbrahim", "ikinci");
   board.mnumesajal.press();
   EXPECT_EQ(subjects(board), (Subjects{"ilk", "ikinci", "ikinci"})) << "sent twice, word for word";
+}
+
+TEST_F(Messages, AreSeenOnceAnyViewHasShownThem) {
+  receive("İbrahim", "dün", "21.11.2026 17:00");
+  receive("Zeynep", "başkası");
+  FrmMesajlar board(desk.station);
+  board.Load();
+  board.optgünlük.setValue(true);
+  EXPECT_TRUE(subjects(board).empty());
+  board.Unload();
+  EXPECT_EQ(kept(0).isNew, 0);
+  EXPECT_EQ(kept(1).isNew, 1);
+}
+
+TEST_F(Messages, AreThoseOfTheNameThatIsShown) {
+  receive("İbrahim", "bir");
+  receive("Zeynep", "iki");
+  FrmMesajlar board(desk.station);
+  board.Load();
+  desk.host.modal["Frmmsggon"] = [&](forms::Form&) {
+    desk.station.ayarYaz("msg address", "Zeynep");
+  };
+  board.mnumesajyaz.press();
+  EXPECT_EQ(board.Lmsgadres.caption(), "Zeynep");
+  EXPECT_EQ(subjects(board), Subjects{"iki"});
 }
 
 TEST_F(Messages, AreDeletedOneByOneOrAllAfterAQuestion) {
