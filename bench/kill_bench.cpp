@@ -112,7 +112,7 @@ void checkSound(const std::string& folder, Losses& losses) {
     losses.unsound += opened(folder, file).integrityCheck() ? 0 : 1;
   for (const stores::StoreKind& kind : stores::storeKinds)
     losses.unsound +=
-        stores::checkStore(backupOf(folder) + "/" + std::string(kind.file), kind) ? 0 : 1;
+        stores::checkCopy(backupOf(folder) + "/" + std::string(kind.file), kind) ? 0 : 1;
 }
 
 // The save under way when the kill came may be there or not. Both answer with what is there.

@@ -40,6 +40,8 @@ bool FrmMain::netAc() {
 // The others wait only for a run of maintenance.
 void FrmMain::yalnizAcildi(bool alone) {
   if (alone) shell::removeLeftovers(istasyon);
+  // A station that has ended since the settings were read has lowered the number.
+  istasyon.settings.refresh().ignore();
   hataliCikis_ = alone && text::Val(istasyon.ayar(runningStations, "0")) != 0;
   if (!hataliCikis_) istasyon.sicil.letIn();
 }

@@ -8,6 +8,7 @@
 #include "shell/file_words.h"
 #include "shell/station_register.h"
 #include "shell/text_lookup.h"
+#include "stores/backup.h"
 #include "stores/restore.h"
 #include "stores/restore_drill.h"
 
@@ -158,7 +159,9 @@ bool mnugeriyukle_Click(Station& istasyon) {
 }
 
 void yedegiDene(Station& istasyon) {
-  const std::vector<fs::path> folders{yedekKlasoru(istasyon), kendiYedekKlasoru(istasyon)};
+  std::vector<fs::path> folders{yedekKlasoru(istasyon), kendiYedekKlasoru(istasyon)};
+  // The stores themselves are no backup.
+  if (stores::isDataFolder(istasyon.UygYolu, folders.front())) folders.erase(folders.begin());
   const auto backup = stores::newestBackup(folders);
   if (!backup) return eksikleriSoyle(istasyon, folders.front());
   const std::string date = tarihSaat(*stores::stateOf(*backup / stores::personalKind.file));

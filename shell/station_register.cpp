@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "platform/files/replace.h"
 #include "platform/text/codepage.h"
 #include "platform/text/utf8.h"
 
@@ -21,6 +22,7 @@ using platform::Status;
 using std::chrono::milliseconds;
 
 constexpr auto registerFile = "Data/net.dat";
+constexpr auto storeFile = "Data/Personal.mdb";
 // Behind all slots: the lock on it stands for the register as a whole.
 constexpr long wholeRegister = StationRegister::mostStations + 1;
 constexpr std::ptrdiff_t nameWidth = 40;
@@ -64,6 +66,8 @@ Result<StationRegister::Company> StationRegister::open(const std::string& folder
   }
   auto file = RecordFile::open(path_, NetRecord::length);
   if (!file) return std::unexpected(file.error());
+  // Whoever may open the stores may open the register.
+  files::shareLike(path_, folder + storeFile);
   company_.emplace(std::move(*company));
   file_.emplace(std::move(*file));
   return *alone ? Company::Alone : Company::Others;

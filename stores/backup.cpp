@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "stores/store_copy.h"
+#include "stores/store_file.h"
 
 namespace stores {
 
@@ -45,8 +46,11 @@ dao::Result<std::vector<StoreDraft>> draftAll(const fs::path& programFolder, con
   std::vector<StoreDraft> drafts;
   std::int64_t before = 0;
   for (const Part& part : parts) {
-    auto draft = draftCopy(dataFile(programFolder, part.kind), into / part.kind.file,
-                           shareOf(progress, before, part, all), others);
+    const fs::path store = dataFile(programFolder, part.kind);
+    // No start opens this one, and keys in the order of older rules would count as damage.
+    if (part.kind.file == smokingKind.file) (void)openStoreFile(store.string());
+    auto draft =
+        draftCopy(store, into / part.kind.file, shareOf(progress, before, part, all), others);
     if (!draft) return std::unexpected(draft.error());
     drafts.push_back(std::move(*draft));
     before += part.bytes;

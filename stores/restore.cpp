@@ -20,6 +20,15 @@ dao::Status keepBeside(const fs::path& store, const fs::path& kept) {
   return refused ? files::copyFile(store, kept) : dao::Status();
 }
 
+// A store that is missing is shared as its neighbours are.
+void shareLikeOthers(const fs::path& draft, const fs::path& programFolder,
+                     const fs::path& backupFolder) {
+  for (const fs::path& folder : {backupFolder, programFolder / "Data"}) {
+    for (const StoreKind& kind : {clinicalKind, personalKind})
+      files::shareLike(draft, folder / kind.file);
+  }
+}
+
 dao::Result<ReplacedStore> replace(StoreDraft& draft, std::string_view stamp) {
   ReplacedStore replaced{draft.target(), {}};
   if (stateOf(replaced.store)) {
@@ -49,8 +58,9 @@ dao::Result<ReplacedStore> restoreStore(const StoreKind& kind, const fs::path& p
   auto draft = StoreDraft::take(dataFile(programFolder, kind));
   if (!draft) return std::unexpected(draft.error());
   dao::Status status = files::copyFile(backup, draft->path(), progress);
-  if (status) status = checkStore(draft->path(), kind);
+  if (status) status = checkCopy(draft->path(), kind);
   if (!status) return std::unexpected(std::move(status));
+  shareLikeOthers(draft->path(), programFolder, backupFolder);
   return replace(*draft, stamp);
 }
 

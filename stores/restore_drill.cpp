@@ -40,7 +40,7 @@ dao::Status copyChecked(const fs::path& backup, const fs::path& scratch, const S
       !opened)
     return opened.error();
   const dao::Status copied = files::copyFile(backup / kind.file, scratch / kind.file, progress);
-  return copied ? checkStore(scratch / kind.file, kind) : copied;
+  return copied ? checkCopy(scratch / kind.file, kind) : copied;
 }
 
 // The first value of a select; an older store may lack the table.

@@ -21,7 +21,7 @@ struct DrillReport {
 
 // Copies the backup into a new folder below `scratch`, checks every store of it and counts; the
 // folder is gone afterwards, whatever happened. The backup itself is only read. The Smoking store
-// may be missing. Faults are those of checkStore and of copying.
+// may be missing. Faults are those of checkCopy and of copying.
 [[nodiscard]] dao::Result<DrillReport> restoreDrill(const std::filesystem::path& backup,
                                                     const std::filesystem::path& scratch,
                                                     const Progress& progress = {});

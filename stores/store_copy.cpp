@@ -1,18 +1,8 @@
 #include "stores/store_copy.h"
 
+#include "platform/files/replace.h"
+
 namespace stores {
-
-namespace {
-
-// The copy of a store is for the eyes of those who may read the store.
-void keepPermissions(const std::filesystem::path& from, const std::filesystem::path& copy) {
-  std::error_code ignored;
-  const auto status = std::filesystem::status(from, ignored);
-  if (!std::filesystem::exists(status)) return;
-  std::filesystem::permissions(copy, status.permissions(), ignored);
-}
-
-}  // namespace
 
 dao::Result<StoreDraft> draftCopy(const std::filesystem::path& from,
                                   const std::filesystem::path& to, const Progress& progress,
@@ -21,7 +11,8 @@ dao::Result<StoreDraft> draftCopy(const std::filesystem::path& from,
   if (!draft) return draft;
   const dao::Status written = dao::CompactDatabase(from, draft->path(), progress, others);
   if (!written) return std::unexpected(written);
-  keepPermissions(from, draft->path());
+  // For the eyes of those who may read the store.
+  files::shareLike(draft->path(), from);
   return draft;
 }
 

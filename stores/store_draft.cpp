@@ -44,14 +44,19 @@ dao::Result<StoreDraft> StoreDraft::take(const fs::path& path) {
     return std::unexpected(dao::Status(
         dao::Fault::Busy, target.filename().string() + ": another copy is being written."));
   StoreDraft draft(std::move(*turn), target);
-  removeQuietly(draft.path());
+  draft.remove();
   return draft;
 }
 
 StoreDraft::~StoreDraft() {
   if (!turn_) return;  // moved from
-  removeQuietly(path());
+  remove();
   removeQuietly(beside(target_, ".lock"));
+}
+
+void StoreDraft::remove() {
+  removeQuietly(path());
+  removeQuietly(beside(path(), "-journal"));
 }
 
 fs::path StoreDraft::path() const {

@@ -32,6 +32,8 @@ class StoreDraft {
   StoreDraft(files::ProcessLock turn, std::filesystem::path target)
       : turn_(std::move(turn)), target_(std::move(target)) {}
 
+  void remove();
+
   std::optional<files::ProcessLock> turn_;  // vanishes with a crashed process
   std::filesystem::path target_;
 };

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/text/fold.h"
+#include "stores/store_file.h"
 
 namespace stores {
 
@@ -19,8 +20,8 @@ std::filesystem::path dataFile(const std::filesystem::path& programFolder, const
   return programFolder / "Data" / kind.file;
 }
 
-dao::Status checkStore(const std::filesystem::path& file, const StoreKind& kind) {
-  auto store = dao::OpenDatabase(file, {.access = dao::Access::ReadOnly});
+dao::Status checkCopy(const std::filesystem::path& file, const StoreKind& kind) {
+  auto store = openStoreFile(file.string());
   if (!store) return store.error();
   if (dao::Status sound = store->integrityCheck(); !sound) return sound;
   const auto tables = store->tables();

@@ -26,9 +26,10 @@ inline constexpr std::array storeKinds{personalKind, clinicalKind, smokingKind};
 [[nodiscard]] std::filesystem::path dataFile(const std::filesystem::path& programFolder,
                                              const StoreKind& kind);
 
-// Reads the whole file: Missing, Damaged, or Unsupported when it is sound but another store or no
-// store at all.
-[[nodiscard]] dao::Status checkStore(const std::filesystem::path& file, const StoreKind& kind);
+// Makes the keys of a copy anew when it was made under other collation rules than are installed
+// here, and reads the whole file: Missing, Damaged, or Unsupported when it is sound but another
+// store or no store at all.
+[[nodiscard]] dao::Status checkCopy(const std::filesystem::path& file, const StoreKind& kind);
 
 struct FileState {
   std::filesystem::file_time_type written;

@@ -30,6 +30,14 @@ Status replaceFile(const path& draft, const path& target) {
   return {};
 }
 
+// The group goes first: changing it may take away permissions.
+void shareLike(const path& file, const path& model) {
+  struct stat shared = {};
+  if (::stat(model.c_str(), &shared) != 0) return;
+  (void)!::chown(file.c_str(), static_cast<uid_t>(-1), shared.st_gid);
+  (void)::chmod(file.c_str(), shared.st_mode & 0666);
+}
+
 // Without this the new name may be lost with a power cut.
 void flushFolder(const path& folder) {
   const auto handle = Descriptor::open(folder.empty() ? path{"."} : folder, O_RDONLY | O_DIRECTORY);

@@ -16,6 +16,10 @@ namespace files {
 [[nodiscard]] platform::Status replaceFile(const std::filesystem::path& draft,
                                            const std::filesystem::path& target);
 
+// Gives the file the permissions and the group of another, as far as this user may; a file that is
+// not there has nothing to give.
+void shareLike(const std::filesystem::path& file, const std::filesystem::path& model);
+
 // Brings names that were given, changed or removed in the folder to the disk. Some file systems
 // cannot, and need not.
 void flushFolder(const std::filesystem::path& folder);

@@ -129,7 +129,7 @@ struct Restore : Backup {
     desk.host.expect("'Sanavel.mdb' ", clinical);
   }
   [[nodiscard]] bool smokingIsBack() {
-    return stores::checkStore(folder / "Data/Smoke.mdb", stores::smokingKind).ok();
+    return stores::checkCopy(folder / "Data/Smoke.mdb", stores::smokingKind).ok();
   }
 };
 
@@ -175,6 +175,13 @@ TEST_F(Restore, FilesThatAreMissingAreNamedWithoutAQuestion) {
     entry->press();
   }
   EXPECT_EQ(cards(), 2);
+}
+
+TEST_F(Restore, TheDrillTakesTheStoresThemselvesForNoBackup) {
+  desk.station.ayarYaz("BackUp", folder / "Data");
+  desk.host.expect("Personal.mdb\n dosyası bulunamadı.", host::Answer::Ok);
+  desk.host.expect("Sanavel.mdb\n dosyası bulunamadı.", host::Answer::Ok);
+  main.mnuyedekdene.press();
 }
 
 TEST_F(Restore, TheDrillTellsWhatWouldComeBack) {

@@ -140,6 +140,16 @@ TEST_F(OneFolder, TellsOfACrashOnceAndMaintainsTheStores) {
   EXPECT_FALSE(std::filesystem::exists(folder / "Data/net.dat"));
 }
 
+TEST_F(OneFolder, TakesAnOrderlyEndDuringItsStartForNoCrash) {
+  const auto first = seat();
+  first->load();
+  const auto second = seat();  // has read that one station runs
+  first->main->Unload();
+  second->load();
+  EXPECT_TRUE(second->host.asked.empty());
+  second->main->Unload();
+}
+
 TEST_F(OneFolder, GoesOnWithTheStoresThatMaintenanceMended) {
   support::CardDesk desk(folder.path());
   desk.newPatient("Ayşe Yıldız", "1991");

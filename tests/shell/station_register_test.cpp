@@ -45,6 +45,15 @@ struct Register : testing::Test {
   std::string file = folder / "Data/net.dat";
 };
 
+TEST_F(Register, IsSharedAsTheStoresAre) {
+  std::ofstream(folder / "Data/Personal.mdb") << "";
+  constexpr auto shared = std::filesystem::perms(0660);
+  std::filesystem::permissions(folder / "Data/Personal.mdb", shared);
+  StationRegister one;
+  ASSERT_TRUE(start(one, path));
+  EXPECT_EQ(std::filesystem::status(file).permissions(), shared);
+}
+
 TEST_F(Register, GivesEachStationASlotAndTheLastOneDeletesIt) {
   StationRegister one;
   StationRegister two;

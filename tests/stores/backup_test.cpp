@@ -59,7 +59,7 @@ TEST_F(BackupTest, HoldsTheStoresUnderTheirNamesAndLeavesAnOlderSmokingCopy) {
   EXPECT_EQ(bytesOf(folder_ / "Backup/Smoke.mdb"), "older");
   ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
   for (const StoreKind& kind : storeKinds)
-    EXPECT_TRUE(checkStore(fs::path(backup_) / kind.file, kind)) << kind.file;
+    EXPECT_TRUE(checkCopy(fs::path(backup_) / kind.file, kind)) << kind.file;
 }
 
 // The stores of a backup belong together: a fault in a later one keeps the older copies of all.
@@ -101,6 +101,27 @@ TEST_F(BackupTest, ARestoredStoreKeepsTheOldFileUntilItIsForgotten) {
   forget(restoreStore(personalKind, folder_.path(), backup_, "2026-11-22").value());
   EXPECT_EQ(cardsIn(folder_ / personalPath), 1);
   EXPECT_FALSE(fs::exists(replaced->kept));
+}
+
+TEST_F(BackupTest, AMissingStoreComesBackSharedAsItsNeighboursAre) {
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  CloseStores(stores_);
+  constexpr auto shared = fs::perms(0660);
+  fs::permissions(folder_ / personalPath, shared);
+  fs::remove(folder_ / "Data/Smoke.mdb");
+  ASSERT_TRUE(restoreStore(smokingKind, folder_.path(), backup_, "now"));
+  EXPECT_EQ(fs::status(folder_ / "Data/Smoke.mdb").permissions(), shared);
+}
+
+TEST_F(BackupTest, KeysOfOlderCollationRulesAreMadeAnewByTheRestore) {
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  CloseStores(stores_);
+  ASSERT_TRUE(dao::OpenDatabase(folder_ / "Backup/Personal.mdb")
+                  ->Execute("UPDATE \"~store\" SET value = '1.0' WHERE name = 'collation'"));
+  const auto files = filesIn(folder_ / "Data").size();
+  ASSERT_TRUE(restoreStore(personalKind, folder_.path(), backup_, "now"));
+  EXPECT_EQ(dao::OpenDatabase(folder_ / personalPath)->orderIsCurrent(), true);
+  EXPECT_EQ(filesIn(folder_ / "Data").size(), files + 1) << "but for the old file";
 }
 
 TEST_F(BackupTest, ABackupThatIsNoStoreOfItsKindReplacesNothing) {
