@@ -19,7 +19,8 @@ dao::Status complete(dao::Database& database, Schema schema) {
 dao::Result<dao::Database> createStore(const std::string& path, dao::Order order, Schema schema) {
   // A file that is there already is opened as it is, so that a missing table can be added to it.
   auto database = dao::CreateDatabase(path, order);
-  if (!database) database = dao::OpenDatabase(path, {.emptyFileOrder = order});
+  if (!database && database.error().fault() == dao::Fault::Exists)
+    database = dao::OpenDatabase(path, {.emptyFileOrder = order});
   if (!database) return database;
   const dao::Status completed = complete(*database, schema);
   if (!completed) return std::unexpected(completed);

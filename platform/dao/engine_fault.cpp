@@ -52,6 +52,10 @@ bool outOfRoom(sqlite3* connection, const char* store) {
   return outOfRoom(last);
 }
 
+bool mayNotBeWritten(int systemError) {
+  return systemError == EACCES || systemError == EPERM || systemError == EROFS;
+}
+
 bool outOfRoom(sqlite3* connection) {
   if (outOfRoom(sqlite3_system_errno(connection))) return true;
   for (int position = 0; const char* store = sqlite3_db_name(connection, position); ++position) {
@@ -75,8 +79,10 @@ const Meaning* constraint(int extended) {
 
 const Meaning* meaningOf(int extended, sqlite3* connection) {
   if (const Meaning* meaning = constraint(extended)) return meaning;
-  const bool noRoom = (extended & 0xff) == SQLITE_IOERR && connection && outOfRoom(connection);
-  const int primary = noRoom ? SQLITE_FULL : extended & 0xff;
+  int primary = extended & 0xff;
+  if (primary == SQLITE_IOERR && connection && outOfRoom(connection)) primary = SQLITE_FULL;
+  if (primary == SQLITE_CANTOPEN && connection && mayNotBeWritten(sqlite3_system_errno(connection)))
+    primary = SQLITE_PERM;
   for (const Meaning& meaning : kMeanings) {
     if (meaning.code == primary) return &meaning;
   }

@@ -1,11 +1,11 @@
 // Files that are no stores, and places that cannot be written: a status with a text, and nothing is
 // made worse.
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <array>
 
 #include "tests/stores/stores_fixture.h"
+#include "tests/support/ordinary_user.h"
 
 namespace stores {
 namespace {
@@ -130,12 +130,26 @@ TEST_F(DamageTest, AFolderThatIsMissingIsAFault) {
 }
 
 TEST_F(DamageTest, AFolderThatCannotBeWrittenIsAFault) {
-  if (::geteuid() == 0) GTEST_SKIP() << "the administrator may write everywhere";
+  ::chmod(folder_.path().c_str(), 0755);
   ::chmod((folder_ / "Data").c_str(), 0555);
-  const dao::Status opened = OpenStores(stores_);
+  {
+    const support::OrdinaryUser user;
+    const dao::Status opened = OpenStores(stores_);
+    expectFault(opened);
+    EXPECT_EQ(opened.fault(), dao::Fault::ReadOnly) << opened.text();
+  }
   ::chmod((folder_ / "Data").c_str(), 0755);
+}
+
+// Not a file that is missing: it must be told, or somebody restores an older one over it.
+TEST_F(DamageTest, AStoreThatMayNotBeOpenedIsNotTakenForMissing) {
+  makeStore();
+  ::chmod(folder_.path().c_str(), 0755);
+  ::chmod((folder_ / personalPath).c_str(), 0);
+  const support::OrdinaryUser user;
+  const dao::Status opened = OpenStores(stores_);
   expectFault(opened);
-  EXPECT_EQ(opened.fault(), dao::Fault::ReadOnly);
+  EXPECT_EQ(opened.fault(), dao::Fault::ReadOnly) << opened.text();
 }
 
 // The store can be looked at, but no save succeeds in silence.

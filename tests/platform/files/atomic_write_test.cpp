@@ -6,6 +6,7 @@
 #include <csignal>
 
 #include "tests/platform/files/temporary_folder.h"
+#include "tests/support/ordinary_user.h"
 
 namespace {
 
@@ -88,7 +89,7 @@ TEST(AtomicWrite, SaysWhyItFails) {
   EXPECT_FALSE(files::writeAtomically(folder / "sub", "x"));
   EXPECT_EQ(filesIn(folder.path()), 1);
   std::filesystem::permissions(folder.path(), std::filesystem::perms{0555});
-  const OrdinaryUser user;
+  const support::OrdinaryUser user;
   EXPECT_EQ(files::writeAtomically(folder / "a", "x").fault(), Fault::ReadOnly);
 }
 

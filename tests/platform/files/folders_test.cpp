@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/platform/files/temporary_folder.h"
+#include "tests/support/ordinary_user.h"
 
 namespace {
 
@@ -33,7 +34,7 @@ TEST(Folders, TriesWhetherOneIsWritable) {
   EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
   EXPECT_FALSE(files::isWritable(folder / "none"));
   std::filesystem::permissions(folder.path(), std::filesystem::perms{0555});
-  const OrdinaryUser user;
+  const support::OrdinaryUser user;
   EXPECT_FALSE(files::isWritable(folder.path()));
 }
 

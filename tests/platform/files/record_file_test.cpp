@@ -6,6 +6,7 @@
 
 #include "tests/platform/files/child_process.h"
 #include "tests/platform/files/temporary_folder.h"
+#include "tests/support/ordinary_user.h"
 
 namespace {
 
@@ -127,7 +128,7 @@ TEST(RecordFile, ReadsAFileThatItCannotWrite) {
   std::filesystem::permissions(folder.path(), std::filesystem::perms{0755});
   fill(folder / "a.dat", "aaaa");
   std::filesystem::permissions(folder / "a.dat", std::filesystem::perms{0444});
-  const OrdinaryUser user;
+  const support::OrdinaryUser user;
   auto file = RecordFile::open(folder / "a.dat", 4);
   ASSERT_TRUE(file);
   EXPECT_EQ(file->get(1)->buffer.bytes(), "aaaa");
@@ -142,7 +143,7 @@ TEST(RecordFile, SaysWhyItCannotOpen) {
   const auto directory = RecordFile::open(folder.path(), 4);
   EXPECT_EQ(directory.error().fault(), Fault::Other);
   EXPECT_NE(directory.error().text().find(folder.path().string()), std::string::npos);
-  const OrdinaryUser user;
+  const support::OrdinaryUser user;
   EXPECT_EQ(RecordFile::open(folder / "a.dat", 4).error().fault(), Fault::ReadOnly);
 }
 

@@ -41,17 +41,3 @@ inline std::string contentOf(const std::filesystem::path& path) {
 inline void fill(const std::filesystem::path& path, std::string_view content) {
   std::ofstream(path, std::ios::binary) << content;
 }
-
-// Permissions do not bind the superuser; a test about them acts as somebody else meanwhile.
-class OrdinaryUser {
- public:
-  OrdinaryUser() { switched_ = ::geteuid() == 0 && ::seteuid(65534) == 0; }
-  ~OrdinaryUser() {
-    if (switched_ && ::seteuid(0) != 0) std::abort();
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
- private:
-  bool switched_ = false;
-};

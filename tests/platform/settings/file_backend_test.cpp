@@ -5,6 +5,7 @@
 #include "platform/settings/settings.h"
 #include "tests/platform/files/child_process.h"
 #include "tests/platform/files/temporary_folder.h"
+#include "tests/support/ordinary_user.h"
 
 namespace {
 
@@ -169,7 +170,7 @@ TEST(OpenBackend, FallsBackToMemory) {
   std::filesystem::permissions(path, std::filesystem::perms{0444});
   const std::string before = contentOf(path);
   {
-    const OrdinaryUser user;
+    const support::OrdinaryUser user;
     Settings settings{settings::openBackend(path)};
     EXPECT_TRUE(settings.refresh());
     EXPECT_EQ(settings.get("Sanavel", "Main", "Language"), "tr");
