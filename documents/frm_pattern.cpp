@@ -5,6 +5,7 @@
 #include "documents/templates.h"
 #include "platform/text/number.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/font_record.h"
 #include "shell/letterhead.h"
 #include "shell/phrases.h"
@@ -101,7 +102,7 @@ void FrmPattern::tamam() {
   row.signature = istasyon.SablonImzasi;
   shell::setFont(row, imgimza.font());
   const platform::Status kept = shell::ayarKaydiYaz(istasyon, shell::font_record::signature, row);
-  if (!kept) return istasyon.host.runtimeError(kept);
+  if (!kept) return shell::hataSoyle(istasyon, kept);
   istasyon.host.close(*this);
 }
 

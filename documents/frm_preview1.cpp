@@ -5,6 +5,7 @@
 #include "documents/frm_prewive.h"
 #include "platform/text/number.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
@@ -78,7 +79,7 @@ void FrmPreview1::Unload() {
 void FrmPreview1::ayarYaz(std::string_view key, const std::string& value) {
   const platform::Status written =
       istasyon.settings.set(application, shell::mainSection, key, value);
-  if (!written) istasyon.host.runtimeError(written);
+  if (!written) shell::hataSoyle(istasyon, written);
 }
 
 void FrmPreview1::tusBas(std::string_view key) {

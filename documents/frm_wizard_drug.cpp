@@ -2,6 +2,7 @@
 
 #include "documents/print_job.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/font_record.h"
 #include "shell/letterhead.h"
 #include "shell/menu_icons.h"
@@ -84,7 +85,7 @@ void FrmWizardDrug::Setkayitlarioku() {
 
 void FrmWizardDrug::setkayityaz() {
   const platform::Status kept = yerlesim.setkayityaz(shell::font_record::prescription);
-  if (!kept) istasyon.host.runtimeError(kept);
+  if (!kept) shell::hataSoyle(istasyon, kept);
 }
 
 void FrmWizardDrug::Listele() {

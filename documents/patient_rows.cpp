@@ -3,6 +3,7 @@
 #include <span>
 #include <utility>
 
+#include "shell/fault_words.h"
 #include "shell/record_screen.h"
 #include "shell/text_lookup.h"
 
@@ -43,7 +44,7 @@ void PatientRows::start(std::function<void()> added) {
   last_.clear();
   slices_.start([this, added = std::move(added)] {
     const auto done = step();
-    if (!done) istasyon_.host.runtimeError(done.error());
+    if (!done) shell::hataSoyle(istasyon_, done.error());
     if (added) added();
     return !done || *done;
   });

@@ -4,6 +4,7 @@
 #include "documents/frm_prewive.h"
 #include "documents/frm_printer.h"
 #include "platform/page/printer.h"
+#include "shell/fault_words.h"
 #include "shell/phrases.h"
 
 namespace documents {
@@ -34,7 +35,7 @@ void sayfalariYazdir(shell::Station& istasyon, const std::string& title, const p
   istasyon.host.showModal(chooser);
   if (!chooser.hedef()) return;
   const platform::Status printed = istasyon.yazici->print(title, *chooser.hedef(), pages);
-  if (!printed) istasyon.host.runtimeError(printed);
+  if (!printed) shell::hataSoyle(istasyon, printed);
 }
 
 bool sayfalariGoster(shell::Station& istasyon, page::Pages pages) {

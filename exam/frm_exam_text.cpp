@@ -4,6 +4,7 @@
 #include "exam/exam_listing.h"
 #include "exam/frm_exam.h"
 #include "platform/text/utf8.h"
+#include "shell/fault_words.h"
 #include "shell/frm_progress.h"
 #include "shell/text_lookup.h"
 
@@ -68,7 +69,7 @@ void FrmExam::dokumYaz() {
 
 void FrmExam::dokumuSakla(ExamListing& listing) {
   const auto written = listing.write(istasyon);
-  if (!written) return istasyon.host.runtimeError(written.error());
+  if (!written) return shell::hataSoyle(istasyon, written.error());
   durumYaz(written->filename().string());
   istasyon.host.shellOpen(written->string());
 }

@@ -7,6 +7,7 @@
 #include "exam/result_mark.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/fault_words.h"
 #include "shell/list_completion.h"
 #include "shell/record_date.h"
 #include "shell/text_lookup.h"
@@ -164,7 +165,7 @@ void FrmTest::Sil() {
   if (!number || !kayit().bul(*number)) return;
   if (!istasyon.evetMi(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const dao::Status deleted = silVeListele(*number);
-  if (!deleted) return istasyon.host.runtimeError(deleted);
+  if (!deleted) return shell::hataSoyle(istasyon, deleted);
   alanlaribosalt();
   VAnalizleriyaz();
 }

@@ -8,6 +8,7 @@
 #include "exam/patient_analyses.h"
 #include "exam/result_mark.h"
 #include "platform/text/utf8.h"
+#include "shell/fault_words.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
@@ -40,7 +41,7 @@ void FrmTest::basliklariYenile() {
 
 FrmTest::Analyses FrmTest::hastaninAnalizleri() {
   auto analyses = hastaAnalizleri(istasyon, lblisim.caption());
-  if (!analyses) durumYaz(analyses.error().text());
+  if (!analyses) durumYaz(shell::kisaNedeni(istasyon, analyses.error()));
   toplam_ = analyses ? analyses->size() : 0;
   return std::move(analyses).value_or(Analyses());
 }

@@ -6,6 +6,7 @@
 #include "platform/text/utf8.h"
 #include "registry/name_search.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/phrases.h"
 
 namespace registry {
@@ -45,7 +46,7 @@ void FrmKey::Listele() {
   auto reader = dao::PrefixReader::open(istasyon.stores.personal.database, "IDCard", "Name",
                                         turkish ? dao::Fold::Turkish : dao::Fold::General,
                                         text::trimmed(txtara.text()));
-  if (!reader) return Lsayi.setCaption(reader.error().text());
+  if (!reader) return Lsayi.setCaption(shell::kisaNedeni(istasyon, reader.error()));
   okuyan_ = std::move(*reader);
   say();
   siradaki();
@@ -62,7 +63,7 @@ void FrmKey::surdur() {
   bekliyor_ = false;
   if (!okuyan_) return;
   const auto done = okuyan_->step();
-  if (!done) return okuyan_.reset(), Lsayi.setCaption(done.error().text());
+  if (!done) return okuyan_.reset(), Lsayi.setCaption(shell::kisaNedeni(istasyon, done.error()));
   Lstkey.addItems(yeniSatirlar());
   if (!*done) return siradaki();
   okuyan_.reset();
@@ -102,7 +103,7 @@ void FrmKey::tamam() {
   secimiTopla();
   const dao::Status written = yaz();
   if (written) return istasyon.host.close(*this);
-  istasyon.bilgi(phrase(istasyon, shell::Phrase::StoreFailed) + written.text());
+  shell::hataSoyle(istasyon, shell::Phrase::StoreFailed, written);
 }
 
 // All or nothing. Only rows that change are written.

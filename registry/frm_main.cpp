@@ -7,9 +7,11 @@
 #include "registry/card_fields.h"
 #include "shell/backup.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/menu_icons.h"
 #include "shell/phrases.h"
 #include "shell/speciality.h"
+#include "shell/store_opening.h"
 #include "shell/text_lookup.h"
 #include "shell/window_settings.h"
 
@@ -83,10 +85,7 @@ void FrmMain::Load() {
 }
 
 void FrmMain::depolariAc() {
-  const dao::Status opened = stores::OpenStores(istasyon.stores);
-  if (!opened)
-    istasyon.host.runtimeError(
-        {opened.fault(), phrase(istasyon, shell::Phrase::OpeningFailed) + opened.text()});
+  shell::depolariAc(istasyon);
   alanGenislikleri(istasyon.stores.personal.database, "IDCard");
 }
 
@@ -160,7 +159,7 @@ void FrmMain::ayarlarioku() {
 
 void FrmMain::ayarlariyaz() {
   const platform::Status kept = shell::pencereYaz(istasyon, *this, shell::mainSection, windowName);
-  if (!kept) istasyon.host.runtimeError(kept);
+  if (!kept) shell::hataSoyle(istasyon, kept);
   istasyon.ayarYaz("CurX", Lresim.caption());
 }
 
@@ -178,7 +177,7 @@ void FrmMain::digerleriniGor() {
   const platform::Status seen = istasyon.settings.refresh();
   const bool firstTime = !seen && ayarlarOkunuyor_;
   ayarlarOkunuyor_ = seen.ok();
-  if (firstTime) durumYaz(seen.text());
+  if (firstTime) durumYaz(shell::kisaNedeni(istasyon, seen));
 }
 
 void FrmMain::saatVurusu() {

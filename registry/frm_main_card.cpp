@@ -6,6 +6,7 @@
 #include "registry/frm_main.h"
 #include "shell/age.h"
 #include "shell/blood_groups.h"
+#include "shell/fault_words.h"
 #include "shell/list_completion.h"
 #include "shell/patient_lock.h"
 #include "shell/phrases.h"
@@ -118,7 +119,7 @@ dao::Status FrmMain::satiriYaz(const std::string& key) {
   if (!sought) return sought;
   // A namesake that another station has just stored is asked about by the next save.
   if (TxtEskiİsim.text().empty() && !tablo().NoMatch())
-    return {dao::Fault::Exists, key + ": " + phrase(istasyon, shell::Phrase::NameTaken)};
+    return {dao::Fault::Other, key + ": " + phrase(istasyon, shell::Phrase::NameTaken)};
   const dao::Status begun = tablo().NoMatch() ? tablo().AddNew() : tablo().Edit();
   if (!begun) return begun;
   const dao::Status moved = Forumalanlaritasi();
@@ -194,7 +195,7 @@ void FrmMain::Sil() {
   if (!tablo().Seek("=", TxtEskiİsim.text()) || tablo().NoMatch()) return;
   if (!istasyon.evetMi(Txtİsim.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const dao::Status deleted = hastayiSil(TxtEskiİsim.text());
-  if (!deleted) return istasyon.host.runtimeError(deleted);
+  if (!deleted) return shell::hataSoyle(istasyon, deleted);
   Listeleriyaz();
   alanlaribosalt();
   Eskialanmain();

@@ -3,6 +3,7 @@
 
 #include "platform/text/utf8.h"
 #include "registry/frm_main.h"
+#include "shell/fault_words.h"
 #include "shell/frm_pass.h"
 #include "shell/phrases.h"
 #include "shell/speciality.h"
@@ -85,7 +86,7 @@ void FrmMain::listeyiBaslat(dao::Fold fold) {
   const auto hidden = gizliMi(hiddenMark) ? HiddenPatients::PassedOver : HiddenPatients::Shown;
   const platform::Status started =
       isimler_.start(istasyon.stores.personal.database, Txtİsim.text(), fold, hidden);
-  if (!started) return durumYaz(started.text());
+  if (!started) return durumYaz(shell::kisaNedeni(istasyon, started));
   listeyiSurdur();
 }
 

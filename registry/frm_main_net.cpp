@@ -2,6 +2,7 @@
 // maintenance, for which it must be alone.
 #include "platform/text/number.h"
 #include "registry/frm_main.h"
+#include "shell/fault_words.h"
 #include "shell/file_care.h"
 #include "shell/patient_lock.h"
 #include "shell/phrases.h"
@@ -82,7 +83,8 @@ void FrmMain::netkapanis() {
 
 void FrmMain::netDurumu() {
   const std::string& slot = Netsıra.caption();
-  sbDurum.setPanel(4, slot.empty() ? phrase(istasyon, Phrase::WithoutRegister) + yalnizlik_.text()
+  sbDurum.setPanel(4, slot.empty() ? phrase(istasyon, Phrase::WithoutRegister) +
+                                         shell::kisaNedeni(istasyon, yalnizlik_)
                                    : phrase(istasyon, Phrase::StationNumber) + slot);
 }
 
@@ -124,7 +126,7 @@ dao::Status FrmMain::tutarakYaz() {
   auto lock = PatientLock::take(istasyon);
   if (!lock) return lock.error();
   if (lock->isElsewhere(name))
-    return {Fault::Exists, name + ": " + phrase(istasyon, Phrase::NameTaken)};
+    return {Fault::Other, name + ": " + phrase(istasyon, Phrase::NameTaken)};
   const dao::Status written = kartiYaz();
   if (written) lock->publish(name);
   return written;

@@ -4,6 +4,7 @@
 #include "registry/card_fields.h"
 #include "registry/frm_main.h"
 #include "shell/age.h"
+#include "shell/fault_words.h"
 #include "shell/frm_progress.h"
 #include "shell/phrases.h"
 #include "shell/restore.h"
@@ -73,7 +74,8 @@ void tell(shell::Station& istasyon, const CardWork& work, const CardBatches& bat
   if (batches.refused() > 0)
     told +=
         "\n" + phrase(istasyon, shell::Phrase::CardsPassedOver) + std::to_string(batches.refused());
-  if (!status) told += "\n" + phrase(istasyon, shell::Phrase::StoreFailed) + status.text();
+  if (!status)
+    told += "\n" + phrase(istasyon, shell::Phrase::StoreFailed) + shell::nedeni(istasyon, status);
   istasyon.bilgi(told);
 }
 
@@ -136,7 +138,7 @@ void FrmMain::mnugeriyukle_Click() {
 
 void FrmMain::Command1() {
   const auto missing = pregnanciesWithoutCard(istasyon.stores);
-  if (!missing) return istasyon.host.runtimeError(missing.error());
+  if (!missing) return shell::hataSoyle(istasyon, missing.error());
   CardBatches batches(istasyon.stores.personal.database,
                       [this](const std::string& name) { return addPregnant(tablo(), name); });
   std::size_t taken = 0;

@@ -6,6 +6,7 @@
 #include "platform/text/number.h"
 #include "scheduling/frm_msg_gon.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/menu_icons.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
@@ -123,7 +124,7 @@ void FrmMesajlar::gorunumSec(MessageView view) {
 void FrmMesajlar::Gridyaz() {
   bakilan_ = mesajDurumu(istasyon_);
   auto messages = mesajlar(istasyon_, gorunum_);
-  if (!messages) return sbDurum.setPanel(1, messages.error().text());
+  if (!messages) return sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, messages.error()));
   const forms::Grid::Bulk bulk(msgrid1);
   msgrid1.setRows(1);
   msgrid1.setHeadings(std::array{metinbul(istasyon_, "Kimden"), metinbul(istasyon_, "Konu"),
@@ -200,7 +201,7 @@ void FrmMesajlar::Mesajyenile() {
   if (Lmsgadres.caption() != mesajAdresi(istasyon_)) return adresDegisti();
   bakilan_ = mesajDurumu(istasyon_);
   const auto messages = mesajlar(istasyon_, gorunum_);
-  if (!messages) return sbDurum.setPanel(1, messages.error().text());
+  if (!messages) return sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, messages.error()));
   std::map<std::string, int> listed;  // the same note may have been sent twice
   for (const Message& each : listelenen_) ++listed[noteOf(each.record)];
   const std::size_t before = listelenen_.size();
@@ -252,14 +253,15 @@ void FrmMesajlar::sil() {
   const platform::Status deleted = files::deleteMessage(mesajDosyasi(istasyon_), *message);
   Gridyaz();
   // Somebody else was quicker: it is gone, as was asked for.
-  if (!deleted && deleted.fault() != platform::Fault::Missing) sbDurum.setPanel(1, deleted.text());
+  if (!deleted && deleted.fault() != platform::Fault::Missing)
+    sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, deleted));
 }
 
 void FrmMesajlar::tumunuSil() {
   if (!istasyon_.evetMi(metinbul(istasyon_, "msgmesajlarisil"))) return;
   const platform::Status deleted = files::deleteAllMessages(mesajDosyasi(istasyon_));
   Gridyaz();
-  if (!deleted) sbDurum.setPanel(1, deleted.text());
+  if (!deleted) sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, deleted));
 }
 
 void FrmMesajlar::ayarla() {

@@ -5,6 +5,7 @@
 #include "platform/text/utf8.h"
 #include "scheduling/message_board.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/list_completion.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
@@ -70,7 +71,7 @@ void FrmMsgGon::gonder() {
   record.sent = text::shortDateTime(istasyon_.clock.now());
   record.isNew = 1;
   if (platform::Status sent = files::sendMessage(mesajDosyasi(istasyon_), record); !sent)
-    return istasyon_.bilgi(phrase(istasyon_, Phrase::StoreFailed) + sent.text());
+    return shell::hataSoyle(istasyon_, Phrase::StoreFailed, sent);
   // The message is out; a name that is not offered next time is typed again.
   ListeleriKimden().ignore();
   ListeleriKime().ignore();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "search/frm_find.h"
+#include "shell/fault_words.h"
 #include "shell/phrases.h"
 #include "shell/record_screen.h"
 
@@ -97,7 +98,7 @@ void FrmFind::dilimle(std::function<dao::Result<bool>()> step, std::function<voi
     sliceEnd();
     if (done && !*done) return false;
     done ? end() : bitti();
-    if (!done) soyle(done.error().text());
+    if (!done) soyle(shell::kisaNedeni(istasyon, done.error()));
     return true;
   });
 }
@@ -160,7 +161,7 @@ void FrmFind::git() {
   const std::string name(BulList.selectedKey());
   if (name.empty()) return;
   const auto found = kartiBul(name);
-  if (!found) return soyle(found.error().text());
+  if (!found) return soyle(shell::kisaNedeni(istasyon, found.error()));
   if (!*found)
     return soyle(shell::RecordScreen::sisim(name) + ": " +
                  phrase(istasyon, shell::Phrase::RecordGone));

@@ -5,7 +5,7 @@
 
 #include "platform/files/folders.h"
 #include "shell/background_work.h"
-#include "shell/file_words.h"
+#include "shell/fault_words.h"
 #include "shell/text_lookup.h"
 #include "stores/backup.h"
 

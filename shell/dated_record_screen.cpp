@@ -4,6 +4,7 @@
 
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/fault_words.h"
 #include "shell/fees.h"
 #include "shell/phrases.h"
 #include "shell/record_date.h"
@@ -155,7 +156,7 @@ void DatedRecordScreen::Sil() {
 void DatedRecordScreen::silVeListele(std::int64_t number, const Lister& remaining) {
   Records left;
   const dao::Status deleted = kaydiSil(number, remaining, left);
-  if (!deleted) return istasyon.host.runtimeError(deleted);
+  if (!deleted) return hataSoyle(istasyon, deleted);
   listele(std::move(left));
   alanlaribosalt();
 }
@@ -207,7 +208,7 @@ dao::Status DatedRecordScreen::VTarihler() {
 void DatedRecordScreen::tarihler() {
   const auto records = hastaninKayitlari();
   if (records) return listele(*records);
-  durumYaz(records.error().text());
+  durumYaz(kisaNedeni(istasyon, records.error()));
 }
 
 dao::Result<DatedRecordScreen::Records> DatedRecordScreen::hastaninKayitlari() {

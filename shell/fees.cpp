@@ -1,6 +1,7 @@
 #include "shell/fees.h"
 
 #include "platform/text/number.h"
+#include "shell/fault_words.h"
 #include "stores/old_fees.h"
 
 namespace shell {
@@ -29,7 +30,7 @@ void ucretBicimle(forms::TextControl& fee) {
 void eskiUcretSor(Station& istasyon, forms::TextControl& fee) {
   if (!isOldFee(fee.text()) || !istasyon.evetMi(question)) return;
   const auto converted = stores::ConvertOldFees(istasyon.stores.clinical);
-  if (!converted) return istasyon.host.runtimeError(converted.error());
+  if (!converted) return hataSoyle(istasyon, converted.error());
   fee.setText(stores::newAmount(fee.text()));
 }
 

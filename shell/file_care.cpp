@@ -4,8 +4,10 @@
 #include <string_view>
 
 #include "platform/text/number.h"
+#include "shell/fault_words.h"
 #include "shell/frm_care.h"
 #include "shell/phrases.h"
+#include "shell/store_opening.h"
 #include "stores/store_care.h"
 #include "stores/store_kinds.h"
 
@@ -22,7 +24,8 @@ std::string kilobytes(std::uintmax_t bytes) {
 }
 
 std::string line(Station& istasyon, const std::string& file, const StoreCare& care) {
-  if (!care.status) return file + phrase(istasyon, Phrase::CareLeft) + care.status.text();
+  if (!care.status)
+    return file + phrase(istasyon, Phrase::CareLeft) + kisaNedeni(istasyon, care.status);
   const Phrase found = care.wasDamaged ? Phrase::CareMended : Phrase::CareSound;
   const std::string kept = care.kept.empty() ? "" : " (" + care.kept + ")";
   return file + phrase(istasyon, found) + kilobytes(care.before) + " > " + kilobytes(care.after) +
@@ -68,25 +71,19 @@ void Run::care(FrmCare& window, const stores::StoreKind& kind) {
   report_ += (report_.empty() ? "" : "\n") + line(istasyon_, file, care);
 }
 
-void reopen(Station& istasyon) {
-  const dao::Status opened = stores::OpenStores(istasyon.stores);
-  if (!opened)
-    istasyon.host.runtimeError(
-        {opened.fault(), phrase(istasyon, Phrase::OpeningFailed) + opened.text()});
-}
-
 }  // namespace
 
 void dosyabakimi(Station& istasyon) {
   const auto alone = istasyon.sicil.tryAlone();
-  if (!alone) return istasyon.bilgi(phrase(istasyon, Phrase::CareUnsure) + alone.error().text());
+  if (!alone)
+    return istasyon.bilgi(phrase(istasyon, Phrase::CareUnsure) + nedeni(istasyon, alone.error()));
   if (!*alone) return istasyon.bilgi(phrase(istasyon, Phrase::CareNeedsAlone));
   stores::CloseStores(istasyon.stores);
   Run run(istasyon);
   FrmCare window(istasyon, [&](FrmCare& shown) { run.work(shown); });
   window.Load();
   istasyon.host.showModal(window);
-  reopen(istasyon);
+  depolariAc(istasyon);
   istasyon.sicil.letIn();
   if (!run.report().empty()) istasyon.bilgi(run.report());
 }

@@ -1,35 +1,8 @@
 #include "shell/file_words.h"
 
-#include <array>
-#include <utility>
-
 #include "platform/text/number.h"
 
 namespace shell {
-
-namespace {
-
-using platform::Fault;
-
-constexpr std::array<std::pair<Fault, Phrase>, 7> reasons{{
-    {Fault::Missing, Phrase::NoFile},
-    {Fault::DiskFull, Phrase::NoRoom},
-    {Fault::ReadOnly, Phrase::NotWritable},
-    {Fault::Damaged, Phrase::FileDamaged},
-    {Fault::Unsupported, Phrase::OtherFile},
-    {Fault::Busy, Phrase::FileInUse},
-    {Fault::Exists, Phrase::FileInUse},
-}};
-
-}  // namespace
-
-std::string nedeni(Station& istasyon, const platform::Status& fault) {
-  const std::string detail = "(" + fault.text() + ")";
-  for (const auto& [kind, words] : reasons) {
-    if (kind == fault.fault()) return phrase(istasyon, words) + "\n" + detail;
-  }
-  return detail;
-}
 
 std::string boyut(std::uintmax_t bytes) {
   constexpr double unit = 1024.0;

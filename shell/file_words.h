@@ -1,4 +1,4 @@
-// How files and what goes wrong with them are told to people.
+// How files are told to people.
 #pragma once
 
 #include <cstdint>
@@ -11,9 +11,6 @@
 #include "stores/store_kinds.h"
 
 namespace shell {
-
-// In the user's language, and behind it the words of the fault itself.
-[[nodiscard]] std::string nedeni(Station& istasyon, const platform::Status& fault);
 
 // "1.2 MB"
 [[nodiscard]] std::string boyut(std::uintmax_t bytes);

@@ -6,6 +6,7 @@
 
 #include "platform/files/atomic_write.h"
 #include "platform/text/number.h"
+#include "shell/fault_words.h"
 #include "shell/frm_option.h"
 #include "shell/letterhead.h"
 
@@ -69,7 +70,7 @@ void FrmOption::basligiBagla() {
 
 void FrmOption::basligiOku() {
   auto baslik = shell::basligiOku(istasyon);
-  if (!baslik) istasyon.bilgi(baslik.error().text());
+  if (!baslik) hataSoyle(istasyon, baslik.error());
   rtfText.edit([&](Editor& e) { e.load(baslik ? std::move(*baslik) : richtext::Document()); });
   baslikDegisti_ = false;
   ImgBaşlık.setPath(istasyon.dosya(letterhead::picture));
@@ -111,7 +112,7 @@ void FrmOption::BaşlıkKaydet() {
   resmiSakla(Imgicon, letterhead::icon);
   if (!baslikDegisti_) return;
   const platform::Status written = basligiYaz(istasyon, rtfText.editor().document());
-  if (!written) return istasyon.host.runtimeError(written);
+  if (!written) return hataSoyle(istasyon, written);
   basligiOku();
 }
 
@@ -120,7 +121,7 @@ void FrmOption::resmiSakla(forms::Picture& shown, std::string_view target) {
   const std::string own = istasyon.dosya(target);
   if (shown.path() == own || shown.path().empty()) return;
   const platform::Status copied = copyFile(shown.path(), own);
-  if (!copied) return istasyon.host.runtimeError(copied);
+  if (!copied) return hataSoyle(istasyon, copied);
   shown.setPath(own);
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/text/utf8.h"
+#include "shell/fault_words.h"
 #include "shell/frm_option.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
@@ -99,7 +100,7 @@ void FrmOption::degerSil() {
 }
 
 void FrmOption::degistir(const platform::Status& changed, std::string_view shown) {
-  if (!changed) istasyon.bilgi(phrase(istasyon, Phrase::StoreFailed) + changed.text());
+  if (!changed) hataSoyle(istasyon, Phrase::StoreFailed, changed);
   listeyiDoldur(*secilen_);
   secilen_->setListIndex(secilen_->rowOf(text::trim(shown)));
   listeSec(*secilen_);

@@ -4,6 +4,7 @@
 
 #include "platform/dao/database.h"
 #include "platform/text/utf8.h"
+#include "shell/fault_words.h"
 #include "shell/text_lookup.h"
 
 namespace shell {
@@ -67,7 +68,7 @@ void NamedRecordScreen::Sil() {
   if (!istasyon.evetMi(old + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const bool there = tablo().Seek("=", old) && !tablo().NoMatch();
   const dao::Status deleted = there ? tablo().Delete() : dao::Status();
-  if (!deleted) return istasyon.host.runtimeError(deleted);
+  if (!deleted) return hataSoyle(istasyon, deleted);
   listeDegisti();
   alanlaribosalt();
 }

@@ -103,6 +103,13 @@ enum class Phrase {
   FileDamaged,
   OtherFile,
   FileInUse,
+  AlreadyThere,
+  NotOpen,
+  TextTooLong,
+  FieldEmpty,
+  FieldRefuses,
+  OnlyToRead,  // a reason follows
+  CloseUnsaved,
   PrintWizard,
   PageItems,     // and their properties
   PrintedItems,  // of a page

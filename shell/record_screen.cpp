@@ -7,6 +7,7 @@
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/font_record.h"
 #include "shell/menu_icons.h"
 #include "shell/phrases.h"
@@ -101,7 +102,7 @@ void RecordScreen::Load() {
 
 bool RecordScreen::QueryUnload() {
   if (mnukaydet.enabled()) mnukaydet.Click();
-  return !mnukaydet.enabled();
+  return !mnukaydet.enabled() || istasyon.evetMi(phrase(istasyon, Phrase::CloseUnsaved));
 }
 
 void RecordScreen::Unload() {
@@ -146,8 +147,8 @@ void RecordScreen::kaydedildi() {
 }
 
 void RecordScreen::kaydedilemedi(const dao::Status& refused) {
-  durumYaz(phrase(istasyon, Phrase::StateNotSaved) + refused.text());
-  istasyon.host.beep();
+  durumYaz(phrase(istasyon, Phrase::StateNotSaved) + kisaNedeni(istasyon, refused));
+  hataSoyle(istasyon, Phrase::StoreFailed, refused);
 }
 
 void RecordScreen::isimDegistiSor(forms::TextControl& field, const std::string& old) {

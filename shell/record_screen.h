@@ -56,7 +56,8 @@ class RecordScreen : public forms::Form {
   void ResimVar();
 
   void Load() override;
-  // A changed record is stored without a question; the window stays when that is refused.
+  // A changed record is stored without a question. When that is refused the user is asked whether
+  // to close all the same; the window stays unless that is wanted.
   [[nodiscard]] bool QueryUnload() override;
   void Unload() override;
 

@@ -5,8 +5,10 @@
 
 #include "shell/background_work.h"
 #include "shell/backup.h"
+#include "shell/fault_words.h"
 #include "shell/file_words.h"
 #include "shell/station_register.h"
+#include "shell/store_opening.h"
 #include "shell/text_lookup.h"
 #include "stores/backup.h"
 #include "stores/restore.h"
@@ -69,7 +71,7 @@ dao::Status hepsiniDegistir(const Kinds& wanted, const fs::path& program, const 
 void geriAl(Station& istasyon, const Replaced& replaced) {
   for (const stores::ReplacedStore& store : replaced) {
     const dao::Status back = stores::putBack(store);
-    if (!back) istasyon.host.runtimeError(back);
+    if (!back) hataSoyle(istasyon, back);
   }
 }
 
@@ -93,8 +95,7 @@ BackgroundResult degistir(Station& istasyon, const Kinds& wanted, const fs::path
   }
   stores::CloseStores(istasyon.stores);
   geriAl(istasyon, replaced);
-  const dao::Status opened = stores::OpenStores(istasyon.stores);
-  if (!opened) istasyon.host.runtimeError(opened);
+  depolariAc(istasyon);
   return result;
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/text/fold.h"
 #include "platform/text/number.h"
+#include "shell/fault_words.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
@@ -48,7 +49,7 @@ bool Station::acik(std::string_view key) const {
 
 void Station::ayarYaz(std::string_view key, std::string_view value) {
   const platform::Status written = settings.set(applicationName, mainSection, key, value);
-  if (!written) host.runtimeError(written);
+  if (!written) hataSoyle(*this, written);
 }
 
 host::Answer Station::mesaj(std::string_view text, host::Buttons buttons, host::Icon icon) {

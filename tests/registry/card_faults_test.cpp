@@ -52,6 +52,23 @@ TEST(Opening, OfAFolderThatCannotBeMadeSaysSo) {
   desk.tick();
 }
 
+// Nobody is to write a whole card before he learns that it cannot be kept.
+TEST(Opening, OfStoresThatCannotBeWrittenSaysSoAtOnceAndAtTheSave) {
+  const TemporaryFolder folder;
+  { CardDesk(folder.path()).newPatient("Ali Can", "1980"); }
+  for (const char* store : {"Data/Personal.mdb", "Data/Sanavel.mdb"})
+    std::filesystem::permissions(folder / store, std::filesystem::perms(0444));
+  CardDesk desk(folder.path());
+  ASSERT_EQ(desk.host.errors.size(), 1U);
+  EXPECT_NE(desk.host.errors.front().text().find("değiştirilemiyor"), std::string::npos);
+  EXPECT_EQ(desk.stored(), std::vector<std::string>{"Ali Can"});
+  desk.newPatient("Ayşe Su", "1990");
+  ASSERT_EQ(desk.host.errors.size(), 2U);
+  EXPECT_EQ(desk.host.errors.back().fault(), dao::Fault::ReadOnly);
+  EXPECT_TRUE(desk.main.mnukaydet.enabled());
+  EXPECT_EQ(desk.main.Txtİsim.text(), "Ayşe Su");
+}
+
 TEST(Opening, OfAnEmptyFileIsANewStore) {
   const TemporaryFolder folder;
   std::filesystem::create_directories(folder / "Data");

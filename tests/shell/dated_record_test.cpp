@@ -183,7 +183,7 @@ TEST_F(Records, AnotherSpecialityHasItsOwnDates) {
   EXPECT_EQ(ledger(), "1: 1;");
 }
 
-TEST_F(Records, ClosingStoresWithoutAQuestionAndStaysWhenThatIsRefused) {
+TEST_F(Records, ClosingStoresWithoutAQuestionAndAsksWhenThatIsRefused) {
   screen->txtşikayet.setText("yarım kalan");
   screen->width = 800;
   screen->height = 600;
@@ -194,8 +194,13 @@ TEST_F(Records, ClosingStoresWithoutAQuestionAndStaysWhenThatIsRefused) {
   EXPECT_EQ(again->width, 800);
   again->txtşikayet.setText("saklanamayan");
   desk.station.stores.clinical.database.Close();
+  desk.host.expect("yazılanlardan vazgeçilsin mi?", host::Answer::No);
   EXPECT_FALSE(again->QueryUnload());
   EXPECT_EQ(again->txtşikayet.text(), "saklanamayan");
+  ASSERT_EQ(desk.host.errors.size(), 1U);
+  EXPECT_EQ(desk.host.errors.front().fault(), dao::Fault::NoCurrent);
+  desk.host.expect("yazılanlardan vazgeçilsin mi?", host::Answer::Yes);
+  EXPECT_TRUE(again->QueryUnload());
 }
 
 struct DateCase {
