@@ -309,6 +309,8 @@ class FrmMain : public shell::RecordScreen,
   // Shows the card that was looked up.
   void hastayiYukle();
   [[nodiscard]] dao::Status tutarakYaz();
+  // The fault of a name that became another patient's while it was typed.
+  [[nodiscard]] dao::Status isimAlinmis(const std::string& name) const;
 
   [[nodiscard]] dao::Status kartiYenile(const std::string& name);
   [[nodiscard]] bool dogumSaklanir();

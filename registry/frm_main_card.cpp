@@ -9,7 +9,6 @@
 #include "shell/fault_words.h"
 #include "shell/list_completion.h"
 #include "shell/patient_lock.h"
-#include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
@@ -118,8 +117,7 @@ dao::Status FrmMain::satiriYaz(const std::string& key) {
   const dao::Status sought = tablo().Seek("=", key);
   if (!sought) return sought;
   // A namesake that another station has just stored is asked about by the next save.
-  if (TxtEskiİsim.text().empty() && !tablo().NoMatch())
-    return {dao::Fault::Other, key + ": " + phrase(istasyon, shell::Phrase::NameTaken)};
+  if (TxtEskiİsim.text().empty() && !tablo().NoMatch()) return isimAlinmis(key);
   const dao::Status begun = tablo().NoMatch() ? tablo().AddNew() : tablo().Edit();
   if (!begun) return begun;
   const dao::Status moved = Forumalanlaritasi();

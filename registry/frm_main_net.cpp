@@ -125,11 +125,14 @@ dao::Status FrmMain::tutarakYaz() {
   if (shell::slotName(name) == istasyon.AgKaydi.name) return kartiYaz();
   auto lock = PatientLock::take(istasyon);
   if (!lock) return lock.error();
-  if (lock->isElsewhere(name))
-    return {Fault::Other, name + ": " + phrase(istasyon, Phrase::NameTaken)};
+  if (lock->isElsewhere(name)) return isimAlinmis(name);
   const dao::Status written = kartiYaz();
   if (written) lock->publish(name);
   return written;
+}
+
+dao::Status FrmMain::isimAlinmis(const std::string& name) const {
+  return {Fault::Other, name + ": " + phrase(istasyon, Phrase::NameTaken)};
 }
 
 // The recordsets are new ones. A card on the screen is read again; what failed to open before the

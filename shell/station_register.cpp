@@ -8,6 +8,7 @@
 #include "platform/files/replace.h"
 #include "platform/text/codepage.h"
 #include "platform/text/utf8.h"
+#include "stores/store_kinds.h"
 
 namespace shell {
 
@@ -22,7 +23,6 @@ using platform::Status;
 using std::chrono::milliseconds;
 
 constexpr auto registerFile = "Data/net.dat";
-constexpr auto storeFile = "Data/Personal.mdb";
 // Behind all slots: the lock on it stands for the register as a whole.
 constexpr long wholeRegister = StationRegister::mostStations + 1;
 constexpr std::ptrdiff_t nameWidth = 40;
@@ -67,7 +67,7 @@ Result<StationRegister::Company> StationRegister::open(const std::string& folder
   auto file = RecordFile::open(path_, NetRecord::length);
   if (!file) return std::unexpected(file.error());
   // Whoever may open the stores may open the register.
-  files::shareLike(path_, folder + storeFile);
+  files::shareLike(path_, stores::dataFile(folder, stores::personalKind));
   company_.emplace(std::move(*company));
   file_.emplace(std::move(*file));
   return *alone ? Company::Alone : Company::Others;

@@ -11,8 +11,7 @@ namespace {
 // The name of a store that can only be read; empty when all can be written.
 std::string yazilamayan(const stores::Stores& stores) {
   for (const dao::Database* database : {&stores.personal.database, &stores.clinical.database}) {
-    if (database->isOpen() && database->isReadOnly())
-      return std::filesystem::path(database->path()).filename().string();
+    if (database->isReadOnly()) return std::filesystem::path(database->path()).filename().string();
   }
   return {};
 }

@@ -20,7 +20,8 @@ dao::Status keepBeside(const fs::path& store, const fs::path& kept) {
   return refused ? files::copyFile(store, kept) : dao::Status();
 }
 
-// A store that is missing is shared as its neighbours are.
+// A store that is missing is shared as its neighbours are; of these, the last one that is there
+// counts.
 void shareLikeOthers(const fs::path& draft, const fs::path& programFolder,
                      const fs::path& backupFolder) {
   for (const fs::path& folder : {backupFolder, programFolder / "Data"}) {

@@ -3,8 +3,9 @@
 #include <sqlite3.h>
 
 #include <array>
-#include <cerrno>
 #include <string>
+
+#include "platform/status/system_fault.h"
 
 namespace dao {
 namespace {
@@ -36,7 +37,7 @@ constexpr Meaning kUnique{0, Fault::Exists, "this key is there already."};
 constexpr Meaning kNotNull{0, Fault::NullKey, "a key field has no value."};
 
 bool outOfRoom(int systemError) {
-  return systemError == ENOSPC || systemError == EFBIG || systemError == EDQUOT;
+  return platform::faultOf(systemError) == Fault::DiskFull;
 }
 
 // The system's own error may stand with the connection, with the file or with its journal,
@@ -50,10 +51,6 @@ bool outOfRoom(sqlite3* connection, const char* store) {
   if (journal == nullptr || journal->pMethods == nullptr) return false;
   journal->pMethods->xFileControl(journal, SQLITE_FCNTL_LAST_ERRNO, &last);
   return outOfRoom(last);
-}
-
-bool mayNotBeWritten(int systemError) {
-  return systemError == EACCES || systemError == EPERM || systemError == EROFS;
 }
 
 bool outOfRoom(sqlite3* connection) {
@@ -81,7 +78,8 @@ const Meaning* meaningOf(int extended, sqlite3* connection) {
   if (const Meaning* meaning = constraint(extended)) return meaning;
   int primary = extended & 0xff;
   if (primary == SQLITE_IOERR && connection && outOfRoom(connection)) primary = SQLITE_FULL;
-  if (primary == SQLITE_CANTOPEN && connection && mayNotBeWritten(sqlite3_system_errno(connection)))
+  if (primary == SQLITE_CANTOPEN && connection &&
+      platform::faultOf(sqlite3_system_errno(connection)) == Fault::ReadOnly)
     primary = SQLITE_PERM;
   for (const Meaning& meaning : kMeanings) {
     if (meaning.code == primary) return &meaning;

@@ -8,6 +8,7 @@
 #include "platform/dao/catalogue.h"
 #include "platform/dao/database.h"
 #include "platform/dao/engine.h"
+#include "platform/status/system_fault.h"
 
 namespace dao {
 namespace {
@@ -18,17 +19,14 @@ std::string nameOf(const std::filesystem::path& path) {
 
 Status creationFault(const std::filesystem::path& path, int error) {
   const std::string name = nameOf(path);
-  switch (error) {
-    case EEXIST:
+  switch (platform::faultOf(error)) {
+    case Fault::Exists:
       return {Fault::Exists, name + ": the file is there already."};
-    case ENOENT:
+    case Fault::Missing:
       return {Fault::Missing, name + ": there is no such folder."};
-    case EACCES:
-    case EROFS:
-    case EPERM:
+    case Fault::ReadOnly:
       return {Fault::ReadOnly, name + ": the folder cannot be written."};
-    case ENOSPC:
-    case EDQUOT:
+    case Fault::DiskFull:
       return {Fault::DiskFull, name + ": there is no room left on the disk."};
     default:
       return {Fault::Other, name + ": the file cannot be made."};

@@ -8,9 +8,10 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/status/system_fault.h"
+
 namespace files {
 
-using platform::Fault;
 using platform::Result;
 using platform::Status;
 
@@ -57,40 +58,8 @@ bool isNamed(const Descriptor& file, const std::filesystem::path& path) {
   return held.st_dev == named.st_dev && held.st_ino == named.st_ino;
 }
 
-namespace {
-
-Fault faultOf(int error) {
-  switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-      return Fault::Missing;
-    case EEXIST:
-      return Fault::Exists;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EBADF:  // writing, or locking for it, through a handle that only reads
-      return Fault::ReadOnly;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return Fault::DiskFull;
-    case EAGAIN:
-    case EBUSY:
-      return Fault::Busy;
-    case EINVAL:
-    case ENOLCK:
-    case EOPNOTSUPP:
-      return Fault::Unsupported;
-    default:
-      return Fault::Other;
-  }
-}
-
-}  // namespace
-
 Status systemFault(const std::filesystem::path& path, int error) {
-  return {faultOf(error), path.string() + ": " + std::generic_category().message(error)};
+  return {platform::faultOf(error), path.string() + ": " + std::generic_category().message(error)};
 }
 
 }  // namespace files

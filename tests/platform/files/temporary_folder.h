@@ -1,8 +1,6 @@
 // A folder of the test's own, removed with all it holds.
 #pragma once
 
-#include <unistd.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
