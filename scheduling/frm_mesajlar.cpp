@@ -124,7 +124,7 @@ void FrmMesajlar::gorunumSec(MessageView view) {
 void FrmMesajlar::Gridyaz() {
   bakilan_ = mesajDurumu(istasyon_);
   auto messages = mesajlar(istasyon_, gorunum_);
-  if (!messages) return sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, messages.error()));
+  if (!messages) return hataYaz(messages.error());
   const forms::Grid::Bulk bulk(msgrid1);
   msgrid1.setRows(1);
   msgrid1.setHeadings(std::array{metinbul(istasyon_, "Kimden"), metinbul(istasyon_, "Konu"),
@@ -191,7 +191,7 @@ void FrmMesajlar::okundu(Message& message) {
     record.isRead = 1;
   };
   const platform::Status marked = files::changeMessage(mesajDosyasi(istasyon_), message, mark);
-  if (!marked) return sbDurum.setPanel(1, marked.text());
+  if (!marked) return hataYaz(marked);
   mark(message.record);
   vurgula(msgrid1.Row(), forms::Emphasis::None);
   sayiGoster();
@@ -201,7 +201,7 @@ void FrmMesajlar::Mesajyenile() {
   if (Lmsgadres.caption() != mesajAdresi(istasyon_)) return adresDegisti();
   bakilan_ = mesajDurumu(istasyon_);
   const auto messages = mesajlar(istasyon_, gorunum_);
-  if (!messages) return sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, messages.error()));
+  if (!messages) return hataYaz(messages.error());
   std::map<std::string, int> listed;  // the same note may have been sent twice
   for (const Message& each : listelenen_) ++listed[noteOf(each.record)];
   const std::size_t before = listelenen_.size();
@@ -253,15 +253,14 @@ void FrmMesajlar::sil() {
   const platform::Status deleted = files::deleteMessage(mesajDosyasi(istasyon_), *message);
   Gridyaz();
   // Somebody else was quicker: it is gone, as was asked for.
-  if (!deleted && deleted.fault() != platform::Fault::Missing)
-    sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, deleted));
+  if (!deleted && deleted.fault() != platform::Fault::Missing) hataYaz(deleted);
 }
 
 void FrmMesajlar::tumunuSil() {
   if (!istasyon_.evetMi(metinbul(istasyon_, "msgmesajlarisil"))) return;
   const platform::Status deleted = files::deleteAllMessages(mesajDosyasi(istasyon_));
   Gridyaz();
-  if (!deleted) sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, deleted));
+  if (!deleted) hataYaz(deleted);
 }
 
 void FrmMesajlar::ayarla() {
@@ -281,6 +280,10 @@ void FrmMesajlar::adresDegisti() {
 
 void FrmMesajlar::adresGoster() {
   Lmsgadres.setCaption(mesajAdresi(istasyon_));
+}
+
+void FrmMesajlar::hataYaz(const platform::Status& fault) {
+  sbDurum.setPanel(1, shell::kisaNedeni(istasyon_, fault));
 }
 
 void FrmMesajlar::sayiGoster() {

@@ -76,6 +76,7 @@ class FrmMesajlar : public forms::Form {
   void adresDegisti();
   void adresGoster();
   void sayiGoster();
+  void hataYaz(const platform::Status& fault);
 
   const std::array<forms::OptionButton*, messageViews.size()> secenekler_{&opttümü, &optgünlük,
                                                                           &optokunmamış, &optyeni};

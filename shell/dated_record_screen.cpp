@@ -56,7 +56,7 @@ void DatedRecordScreen::hastaDegisti() {
   const dao::Status listed = VTarihler();
   alanlaribosalt();
   // A list that cannot be read must not look like a patient without records.
-  if (!listed) durumYaz(listed.text());
+  if (!listed) durumYaz(kisaNedeni(istasyon, listed));
 }
 
 // --- The fields

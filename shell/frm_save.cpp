@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "platform/files/places.h"
+#include "platform/status/system_fault.h"
 #include "shell/backup.h"
 #include "shell/captions.h"
+#include "shell/fault_words.h"
 #include "shell/file_words.h"
 #include "shell/text_lookup.h"
 #include "stores/backup.h"
@@ -21,6 +23,11 @@ bool okunur(const fs::path& folder) {
   std::error_code refused;
   const fs::directory_iterator entries(folder, refused);
   return !refused;
+}
+
+std::string klasorOlmadi(Station& istasyon, const std::error_code& error) {
+  return phrase(istasyon, Phrase::FolderRefused) +
+         nedeni(istasyon, {platform::faultOf(error.value()), error.message()});
 }
 
 }  // namespace
@@ -118,7 +125,8 @@ void FrmSave::klasorYarat() {
   if (made) {
     klasoreGec(klasor_ / name);
   } else {
-    istasyon.bilgi(phrase(istasyon, Phrase::FolderRefused) + (error ? error.message() : name));
+    istasyon.bilgi(error ? klasorOlmadi(istasyon, error)
+                         : phrase(istasyon, Phrase::FolderRefused) + name);
   }
 }
 
@@ -130,7 +138,7 @@ void FrmSave::klasorSil() {
   const bool empty = fs::is_empty(folder, error);
   if (!error && !empty) return istasyon.bilgi(phrase(istasyon, Phrase::FolderNotEmpty));
   if (!error) fs::remove(folder, error);
-  if (error) return istasyon.bilgi(phrase(istasyon, Phrase::FolderRefused) + error.message());
+  if (error) return istasyon.bilgi(klasorOlmadi(istasyon, error));
   klasoreGec(folder.parent_path());
 }
 
