@@ -79,6 +79,13 @@ FormFrame::EscapeKey escapeOf(const forms::Form& form) {
   return form.name() == "FrmMain" ? FormFrame::EscapeKey::Stays : FormFrame::EscapeKey::Closes;
 }
 
+// Esc and the cross answer neither Yes nor No; there is no third button to be seen.
+void leaveByCancel(QMessageBox& box) {
+  QPushButton* const cancel = box.addButton(QMessageBox::Cancel);
+  box.setEscapeButton(cancel);
+  cancel->hide();
+}
+
 }  // namespace
 
 QtHost::QtHost(ViewRegistry views) : views_(std::move(views)) {}
@@ -96,20 +103,22 @@ QString QtHost::word(std::string_view key, const char* otherwise) const {
   return words_ ? qs(words_(key)) : QLatin1String(otherwise);
 }
 
-// The safe answer is the one for Enter and for Esc.
-void QtHost::addButtons(QMessageBox& box, host::Buttons buttons) const {
+// Typed text is kept by Enter as by Esc; what exists is destroyed by neither.
+void QtHost::addButtons(QMessageBox& box, const host::Message& message) const {
   const auto add = [&](QMessageBox::StandardButton button, const QString& text) {
     box.addButton(button)->setText(text);
   };
-  if (buttons == host::Buttons::YesNo) {
+  if (message.buttons == host::Buttons::YesNo) {
     add(QMessageBox::Yes, word("Evet", "Yes"));
     add(QMessageBox::No, word("hayir", "No"));
-    box.setDefaultButton(QMessageBox::No);
+    const bool destroys = message.stake == host::Stake::Existing;
+    box.setDefaultButton(destroys ? QMessageBox::No : QMessageBox::Yes);
+    if (message.stake == host::Stake::Text) return leaveByCancel(box);
     box.setEscapeButton(QMessageBox::No);
     return;
   }
   add(QMessageBox::Ok, word("Tamam", "OK"));
-  if (buttons == host::Buttons::Ok) return;
+  if (message.buttons == host::Buttons::Ok) return;
   add(QMessageBox::Cancel, word("iptal", "Cancel"));
   box.setDefaultButton(QMessageBox::Cancel);
 }
@@ -120,7 +129,7 @@ host::Answer QtHost::messageBox(const host::Message& message) {
   box.setWindowTitle(qs(message.title));
   box.setTextFormat(Qt::PlainText);
   box.setText(withLineBreaks(message.text));
-  addButtons(box, message.buttons);
+  addButtons(box, message);
   return answerOf(box.exec());
 }
 

@@ -50,7 +50,7 @@ class QtHost : public host::Host {
   FormFrame& open(forms::Form& form, Qt::WindowModality modality);
   void forget(forms::Form& form);
   [[nodiscard]] QString word(std::string_view key, const char* otherwise) const;
-  void addButtons(QMessageBox& box, host::Buttons buttons) const;
+  void addButtons(QMessageBox& box, const host::Message& message) const;
 
   ViewRegistry views_;
   Words words_;

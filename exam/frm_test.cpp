@@ -163,7 +163,7 @@ dao::Status FrmTest::kayitYaz() {
 void FrmTest::Sil() {
   const auto number = text::wholeNumber(txtcount.text());
   if (!number || !kayit().bul(*number)) return;
-  if (!istasyon.evetMi(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  if (!istasyon.confirmLoss(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const dao::Status deleted = silVeListele(*number);
   if (!deleted) return shell::hataSoyle(istasyon, deleted);
   alanlaribosalt();

@@ -191,7 +191,7 @@ void FrmMain::alanlaribosalt() {
 void FrmMain::Sil() {
   if (TxtEskiİsim.text().empty() || TxtEskiİsim.text() != Txtİsim.text()) return;
   if (!tablo().Seek("=", TxtEskiİsim.text()) || tablo().NoMatch()) return;
-  if (!istasyon.evetMi(Txtİsim.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  if (!istasyon.confirmLoss(Txtİsim.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const dao::Status deleted = hastayiSil(TxtEskiİsim.text());
   if (!deleted) return shell::hataSoyle(istasyon, deleted);
   Listeleriyaz();

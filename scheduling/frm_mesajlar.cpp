@@ -257,7 +257,7 @@ void FrmMesajlar::sil() {
 }
 
 void FrmMesajlar::tumunuSil() {
-  if (!istasyon_.evetMi(metinbul(istasyon_, "msgmesajlarisil"))) return;
+  if (!istasyon_.confirmLoss(metinbul(istasyon_, "msgmesajlarisil"))) return;
   const platform::Status deleted = files::deleteAllMessages(mesajDosyasi(istasyon_));
   Gridyaz();
   if (!deleted) hataYaz(deleted);

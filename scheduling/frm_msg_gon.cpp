@@ -89,7 +89,7 @@ platform::Status FrmMsgGon::ListeleriKime() {
 
 bool FrmMsgGon::QueryUnload() {
   if (gonderildi_ || text::trimmed(txtmesaj.text()).empty()) return true;
-  return istasyon_.evetMi(phrase(istasyon_, Phrase::MessageNotSent));
+  return istasyon_.confirmLoss(phrase(istasyon_, Phrase::MessageNotSent));
 }
 
 }  // namespace scheduling

@@ -73,7 +73,8 @@ bool cikistayedekle(Station& istasyon) {
   if (result.status) return true;
   const std::string question =
       neOldu(istasyon, result) + "\n\n" + phrase(istasyon, Phrase::LeaveWithoutBackup);
-  return istasyon.mesaj(question, host::Buttons::YesNo, host::Icon::Critical) == host::Answer::Yes;
+  return istasyon.mesaj(question, host::Buttons::YesNo, host::Icon::Critical,
+                        host::Stake::Existing) == host::Answer::Yes;
 }
 
 }  // namespace shell

@@ -148,7 +148,7 @@ dao::Status DatedRecordScreen::kayitYaz() {
 void DatedRecordScreen::Sil() {
   const auto number = text::wholeNumber(txtnumara.text());
   if (!number || !kayit().bul(*number)) return;
-  if (!istasyon.evetMi(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  if (!istasyon.confirmLoss(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
   silVeListele(*number, [this] { return hastaninKayitlari(); });
 }
 

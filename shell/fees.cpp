@@ -28,7 +28,7 @@ void ucretBicimle(forms::TextControl& fee) {
 }
 
 void eskiUcretSor(Station& istasyon, forms::TextControl& fee) {
-  if (!isOldFee(fee.text()) || !istasyon.evetMi(question)) return;
+  if (!isOldFee(fee.text()) || !istasyon.confirmLoss(question)) return;
   const auto converted = stores::ConvertOldFees(istasyon.stores.clinical);
   if (!converted) return hataSoyle(istasyon, converted.error());
   fee.setText(stores::newAmount(fee.text()));

@@ -133,7 +133,8 @@ void FrmSave::klasorYarat() {
 // The chosen folder, else the one that is open; never more than an empty one.
 void FrmSave::klasorSil() {
   const fs::path folder = secilen();
-  if (!istasyon.evetMi(folder.filename().string() + phrase(istasyon, Phrase::AskRemoval))) return;
+  if (!istasyon.confirmLoss(folder.filename().string() + phrase(istasyon, Phrase::AskRemoval)))
+    return;
   std::error_code error;
   const bool empty = fs::is_empty(folder, error);
   if (!error && !empty) return istasyon.bilgi(phrase(istasyon, Phrase::FolderNotEmpty));

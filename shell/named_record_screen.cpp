@@ -65,7 +65,7 @@ dao::Status NamedRecordScreen::kaydiYaz() {
 void NamedRecordScreen::Sil() {
   const std::string old = txteski.text();
   if (old.empty() || !tablo().Seek("=", old) || tablo().NoMatch()) return;
-  if (!istasyon.evetMi(old + metinbul(istasyon, "msgsilinecekkayit"))) return;
+  if (!istasyon.confirmLoss(old + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const bool there = tablo().Seek("=", old) && !tablo().NoMatch();
   const dao::Status deleted = there ? tablo().Delete() : dao::Status();
   if (!deleted) return hataSoyle(istasyon, deleted);

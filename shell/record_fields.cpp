@@ -83,7 +83,8 @@ void RecordScreen::tuskontrol() {
 bool RecordScreen::kayitkontrol() {
   if (!mnukaydet.enabled()) return true;
   const auto question = eskiAnahtar().empty() ? "msgkayityapilsinmi" : "msgdegisiklikyapilsinmi";
-  if (!istasyon.evetMi(metinbul(istasyon, question))) return true;
+  const host::Answer answer = istasyon.askAboutText(metinbul(istasyon, question));
+  if (answer != host::Answer::Yes) return answer == host::Answer::No;
   mnukaydet.Click();
   return !mnukaydet.enabled();
 }

@@ -102,7 +102,7 @@ void RecordScreen::Load() {
 
 bool RecordScreen::QueryUnload() {
   if (mnukaydet.enabled()) mnukaydet.Click();
-  return !mnukaydet.enabled() || istasyon.evetMi(phrase(istasyon, Phrase::CloseUnsaved));
+  return !mnukaydet.enabled() || istasyon.confirmLoss(phrase(istasyon, Phrase::CloseUnsaved));
 }
 
 void RecordScreen::Unload() {

@@ -42,7 +42,7 @@ Kinds istenenler(Station& istasyon, const fs::path& backup) {
   Kinds wanted;
   for (const StoreKind& kind : asked) {
     const auto state = stores::stateOf(backup / kind.file);
-    if (state && istasyon.evetMi(soru(istasyon, kind, *state))) wanted.push_back(kind);
+    if (state && istasyon.confirmLoss(soru(istasyon, kind, *state))) wanted.push_back(kind);
   }
   if (stores::stateOf(backup / stores::smokingKind.file)) wanted.push_back(stores::smokingKind);
   return wanted;

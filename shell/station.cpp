@@ -52,15 +52,26 @@ void Station::ayarYaz(std::string_view key, std::string_view value) {
   if (!written) hataSoyle(*this, written);
 }
 
-host::Answer Station::mesaj(std::string_view text, host::Buttons buttons, host::Icon icon) {
+host::Answer Station::mesaj(std::string_view text, host::Buttons buttons, host::Icon icon,
+                            host::Stake stake) {
   return host.messageBox({.text = oneLineBreak(text),
                           .title = kart == nullptr ? std::string(applicationName) : kart->baslik(),
                           .buttons = buttons,
-                          .icon = icon});
+                          .icon = icon,
+                          .stake = stake});
 }
 
 bool Station::evetMi(std::string_view question) {
   return mesaj(question, host::Buttons::YesNo, host::Icon::Question) == host::Answer::Yes;
+}
+
+bool Station::confirmLoss(std::string_view question) {
+  return mesaj(question, host::Buttons::YesNo, host::Icon::Question, host::Stake::Existing) ==
+         host::Answer::Yes;
+}
+
+host::Answer Station::askAboutText(std::string_view question) {
+  return mesaj(question, host::Buttons::YesNo, host::Icon::Question, host::Stake::Text);
 }
 
 void Station::bilgi(std::string_view text) {

@@ -93,8 +93,14 @@ struct Station {
   }
 
   // A message box under the main window's caption.
-  host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon);
+  host::Answer mesaj(std::string_view text, host::Buttons buttons, host::Icon icon,
+                     host::Stake stake = host::Stake::None);
+  // A question with Yes and No, true for Yes.
   [[nodiscard]] bool evetMi(std::string_view question);
+  // The same where Yes deletes or overwrites something: No is the default.
+  [[nodiscard]] bool confirmLoss(std::string_view question);
+  // A question on which typed text hangs: Cancel means that everything stays as it is.
+  [[nodiscard]] host::Answer askAboutText(std::string_view question);
   void bilgi(std::string_view text);
   // Opens a screen by its name and waits until it is closed. `prepare` sets up the loaded screen
   // before it is seen. When this version has no such screen, says so under the caption of the menu

@@ -17,11 +17,19 @@ enum class Buttons { Ok, OkCancel, YesNo };
 enum class Icon { Information, Question, Critical };
 enum class Answer { Ok, Cancel, Yes, No };
 
+// What hangs on a question with Yes and No decides what Enter and Esc answer to it.
+enum class Stake {
+  None,     // Enter is Yes, Esc is No
+  Text,     // typed text is lost by No: Enter is Yes, Esc and the box's cross are Cancel
+  Existing  // Yes deletes or overwrites what is there: Enter and Esc are No
+};
+
 struct Message {
   std::string text;
   std::string title;
   Buttons buttons = Buttons::Ok;
   Icon icon = Icon::Information;
+  Stake stake = Stake::None;
 };
 
 struct FileRequest {

@@ -27,6 +27,7 @@ class ScriptedHost : public host::Host {
     std::string title;
     host::Icon icon;
     host::Buttons buttons;
+    host::Stake stake;
     bool operator==(const Asked&) const = default;
   };
   // Answers to the message boxes to come, each for a text that it must contain.
@@ -58,7 +59,7 @@ class ScriptedHost : public host::Host {
   }
 
   host::Answer messageBox(const host::Message& message) override {
-    asked.push_back({message.text, message.title, message.icon, message.buttons});
+    asked.push_back({message.text, message.title, message.icon, message.buttons, message.stake});
     if (answers_.empty()) {
       ADD_FAILURE() << "nobody expected: " << message.text;
       return host::Answer::No;
