@@ -3,6 +3,7 @@
 #include "documents/frm_pattern.h"
 #include "documents/print_job.h"
 #include "platform/text/number.h"
+#include "shell/file_words.h"
 #include "shell/font_record.h"
 #include "shell/record_screen.h"
 
@@ -82,7 +83,18 @@ std::optional<page::Pages> PrintedRecord::sayfalar(shell::Station& istasyon, Rep
   ReportText body(report.yazitipi);
   Yazılar(body);
   report.govde = body.document();
-  return raporSayfasi(istasyon, report);
+  page::Pages all = raporSayfalari(istasyon, report);
+  if (all.pages.size() == 1) return all;
+  const std::string question =
+      shell::doldurulmus(istasyon, shell::Phrase::ReportLong, {std::to_string(all.pages.size())});
+  switch (istasyon.askAboutText(question)) {
+    case host::Answer::Yes:
+      return all;
+    case host::Answer::No:
+      return raporSayfasi(istasyon, report);
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace documents
