@@ -3,8 +3,8 @@
 #include "documents/frm_pattern.h"
 #include "documents/print_job.h"
 #include "platform/text/number.h"
-#include "shell/file_words.h"
 #include "shell/font_record.h"
+#include "shell/phrases.h"
 #include "shell/record_screen.h"
 
 namespace documents {
@@ -83,13 +83,10 @@ std::optional<page::Pages> PrintedRecord::sayfalar(shell::Station& istasyon, Rep
   ReportText body(report.yazitipi);
   Yazılar(body);
   report.govde = body.document();
-  page::Pages all = raporSayfalari(istasyon, report);
-  if (all.pages.size() == 1) return all;
-  const std::string question =
-      shell::doldurulmus(istasyon, shell::Phrase::ReportLong, {std::to_string(all.pages.size())});
-  switch (istasyon.askAboutText(question)) {
+  if (auto page = tamSayfa(istasyon, report)) return page;
+  switch (istasyon.askAboutText(phrase(istasyon, shell::Phrase::ReportLong))) {
     case host::Answer::Yes:
-      return all;
+      return raporSayfalari(istasyon, report);
     case host::Answer::No:
       return raporSayfasi(istasyon, report);
     default:

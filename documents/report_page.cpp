@@ -27,8 +27,12 @@ std::optional<page::Pages> onePage(shell::Station& istasyon, const Report& repor
 
 }  // namespace
 
+std::optional<page::Pages> tamSayfa(shell::Station& istasyon, const Report& report) {
+  return onePage(istasyon, report, Body::Whole);
+}
+
 page::Pages raporSayfasi(shell::Station& istasyon, const Report& report) {
-  auto page = onePage(istasyon, report, Body::Whole);
+  auto page = tamSayfa(istasyon, report);
   return page ? std::move(*page) : onePage(istasyon, report, Body::Cut).value();
 }
 

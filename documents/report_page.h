@@ -29,6 +29,8 @@ struct Report {
 // metrics count.
 [[nodiscard]] page::Pages raporSayfasi(shell::Station& istasyon, const Report& report);
 
+// The page of a body that fits on it; none for a longer one.
+[[nodiscard]] std::optional<page::Pages> tamSayfa(shell::Station& istasyon, const Report& report);
 // The same on as many pages as the body needs, each with what the template puts above it.
 [[nodiscard]] page::Pages raporSayfalari(shell::Station& istasyon, const Report& report);
 

@@ -79,8 +79,9 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::SampleSignature, "Your sincerely\nDr. Ayşe Demir", "Saygılarımla\nDr. Ayşe Demir"},
     {Phrase::ReportCut, "(the rest did not fit on this page)", "(devamı bu sayfaya sığmadı)"},
     {Phrase::ReportLong,
-     "The text takes %1 pages. Go on over all of them?\nNo keeps the first page alone.",
-     "Metin %1 sayfa tutuyor. Tüm sayfalar alınsın mı?\nHayır, yalnız ilk sayfayı alır."},
+     "The text does not fit on one page. Go on over more pages?\nNo keeps the first page alone.",
+     "Metin bir sayfaya sığmıyor. Başka sayfalarda sürdürülsün mü?\nHayır, yalnız ilk sayfayı "
+     "alır."},
     {Phrase::NoTests, "No tests yet. Type a name and save it.",
      "Henüz test yok. Bir isim yazıp kaydedin."},
     {Phrase::NoResults, "No results. Choose a test, write its result and save it.",

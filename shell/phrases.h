@@ -57,7 +57,7 @@ enum class Phrase {
   SampleText,
   SampleSignature,  // of two lines
   ReportCut,
-  ReportLong,  // %1 a number of pages
+  ReportLong,
   NoTests,
   NoResults,
   PrescribeUnknown,    // %1 the name
