@@ -80,9 +80,7 @@ void CatalogueScreen::rowChosen() {
 
 bool CatalogueScreen::showRow() {
   if (list().listIndex() < 0) return false;
-  const std::string wanted = list().text();
-  if (wanted == txteski.text() && typedName() == owner_) return true;
-  chosen_ = show(wanted);
+  chosen_ = show(list().text());
   markShown();
   return chosen_;
 }
@@ -105,7 +103,9 @@ bool CatalogueScreen::lookUp() {
   return show(*stored) || name == owner_;
 }
 
+// The record that is on the screen keeps what was changed on it, and gets its name back.
 bool CatalogueScreen::show(const std::string& stored) {
+  if (stored == txteski.text()) return isimAlani().setText(text::trim(stored)), true;
   if (othersChanged() && !mayReplace(stored)) return false;
   if (alanlaritasi(stored)) return true;
   durumYaz(phrase(istasyon, Phrase::RecordGone));

@@ -239,7 +239,13 @@ TEST(TypedDrug, WhatIsTypedToFindADrugIsNoChangeOfTheShownOne) {
   at.drug->Lstilaç.setListIndex(-1);
   at.show("İliadin");
   EXPECT_EQ(at.catalogue(), stock);
+  // The row of the shown drug gives it its name back, and takes nothing away.
+  at.drug->txtkullanım.setText("9x1");
+  at.typeName("ili");
+  at.drug->Lstilaç.DblClick();
+  EXPECT_TRUE(at.drug->txtrecete.text().ends_with("2 - İliadin   1\n    S: 9x1"));
   // A dosage that was typed first is not taken away by a choice.
+  at.desk.host.expect("Değişiklikler", Answer::No);
   at.drug->mnuyeni.press();
   at.drug->txtkullanım.setText("2x2");
   at.desk.host.expect("“Parol”", Answer::No);
