@@ -4,6 +4,7 @@
 #include "documents/print_job.h"
 #include "platform/text/number.h"
 #include "shell/font_record.h"
+#include "shell/phrases.h"
 #include "shell/record_screen.h"
 
 namespace documents {
@@ -82,7 +83,15 @@ std::optional<page::Pages> PrintedRecord::sayfalar(shell::Station& istasyon, Rep
   ReportText body(report.yazitipi);
   Yazılar(body);
   report.govde = body.document();
-  return raporSayfasi(istasyon, report);
+  if (auto page = tamSayfa(istasyon, report)) return page;
+  switch (istasyon.askAboutText(phrase(istasyon, shell::Phrase::ReportLong))) {
+    case host::Answer::Yes:
+      return raporSayfalari(istasyon, report);
+    case host::Answer::No:
+      return raporSayfasi(istasyon, report);
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace documents

@@ -28,7 +28,8 @@ class PrintedPages {
                                                             Report report) = 0;
 };
 
-// The record that is on the screen, as a text on one page.
+// The record that is on the screen, as a text on one page; one that is longer goes on over more
+// pages when the user wants that.
 class PrintedRecord : public PrintedPages {
  public:
   // Composes the body.

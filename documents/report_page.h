@@ -24,9 +24,15 @@ struct Report {
   richtext::Document govde;
 };
 
-// One page: a body that is longer than it is cut off at its end. Letterhead files that are missing
-// or broken are passed over. The station has a printer, whose metrics count.
+// One page: a body that is longer than it is cut off at its end, and a line below says so.
+// Letterhead files that are missing or broken are passed over. The station has a printer, whose
+// metrics count.
 [[nodiscard]] page::Pages raporSayfasi(shell::Station& istasyon, const Report& report);
+
+// The page of a body that fits on it; none for a longer one.
+[[nodiscard]] std::optional<page::Pages> tamSayfa(shell::Station& istasyon, const Report& report);
+// The same on as many pages as the body needs, each with what the template puts above it.
+[[nodiscard]] page::Pages raporSayfalari(shell::Station& istasyon, const Report& report);
 
 enum class HeadingOn { FirstPage, EveryPage };
 

@@ -1,7 +1,12 @@
 #include "documents/report_sheet.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "documents/page_parts.h"
+#include "documents/report_text.h"
 #include "platform/page/printer.h"
+#include "shell/phrases.h"
 #include "shell/record_screen.h"
 #include "shell/text_lookup.h"
 
@@ -35,6 +40,26 @@ int ReportSheet::bodyEnd() const {
 
 void ReportSheet::sign() {
   if (layout_.signature) imzaYaz(istasyon_, device_, report_.imza);
+}
+
+// Never so large that it would not fit on one line.
+page::Font ReportSheet::noteFont() const {
+  constexpr int largest = 20;
+  page::Font font = sayfaYazitipi(report_.yazitipi);
+  font.halfPoints = std::min(font.halfPoints, largest);
+  font.italic = true;
+  return font;
+}
+
+int ReportSheet::cutNoteHeight() const {
+  return device_.metrics().height(noteFont()).line;
+}
+
+void ReportSheet::noteCut() {
+  const page::Font kept = std::exchange(device_.font, noteFont());
+  device_.x = device_.left;
+  device_.print(phrase(istasyon_, shell::Phrase::ReportCut));
+  device_.font = kept;
 }
 
 void ReportSheet::startText(int y) {

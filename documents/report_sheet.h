@@ -20,8 +20,12 @@ class ReportSheet {
   // A report that is signed keeps room for its signature on the page.
   [[nodiscard]] int bodyEnd() const;
   void sign();
+  // The line that says that the body goes on beyond its page.
+  [[nodiscard]] int cutNoteHeight() const;
+  void noteCut();
 
  private:
+  [[nodiscard]] page::Font noteFont() const;
   void startText(int y);
   void nameLine();
 

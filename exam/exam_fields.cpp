@@ -133,7 +133,11 @@ constexpr auto specialRows =
 constexpr auto allRows = joined(headRows, anamnesisRows, measuredRows, bodyRows, examinationRows,
                                 specialRows, riskRows, pictureRows);
 constexpr std::array backRows{pastRows[0], pastRows[1], bodyRows[0]};
-constexpr auto longRows = joined(anamnesisRows, examinationRows, entRows, contraceptionRows);
+constexpr auto generalContent = joined(anamnesisRows, examinationRows, pictureRows);
+constexpr auto entContent = joined(generalContent, entRows);
+constexpr auto gynecologyContent = joined(generalContent, periodRows, contraceptionRows, birthRows);
+constexpr auto eyeContent = joined(generalContent, eyeRows);
+constexpr auto heartContent = joined(generalContent, heartRows, riskRows);
 
 constexpr std::array sides{
     SideCaption{controlOf<&FrmExam::txtSağotoskopi>, "sag"},
@@ -174,8 +178,20 @@ MeasuredFields measuredFields() {
 Rows datedBackFields() {
   return backRows;
 }
-Rows longFields() {
-  return longRows;
+Rows contentFields(Frame frame) {
+  switch (frame) {
+    case Frame::Ent:
+      return entContent;
+    case Frame::Gynecology:
+      return gynecologyContent;
+    case Frame::Eye:
+      return eyeContent;
+    case Frame::Heart:
+      return heartContent;
+    case Frame::None:
+      break;
+  }
+  return generalContent;
 }
 std::span<const SideCaption> sideCaptions() {
   return sides;

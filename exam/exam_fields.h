@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "exam/exam_speciality.h"
 #include "shell/field_row.h"
 
 namespace exam {
@@ -31,8 +32,9 @@ struct MeasuredFields {
 
 // A new record that is dated back takes these from the record before it.
 [[nodiscard]] Rows datedBackFields();
-// The fields whose text makes a record worth storing.
-[[nodiscard]] Rows longFields();
+// The fields that make a record worth storing: texts, what the speciality's page shows, pictures.
+// Vital signs, doctor and fee alone are too little.
+[[nodiscard]] Rows contentFields(Frame frame);
 
 // A field of a pair: the word for its side stands behind the caption.
 struct SideCaption {

@@ -1,5 +1,7 @@
 #include "exam/frm_demand.h"
 
+#include <algorithm>
+
 #include "exam/frm_drug.h"
 #include "platform/text/utf8.h"
 #include "shell/record_date.h"
@@ -11,7 +13,9 @@ namespace {
 constexpr const char* letterheadNameAndDate = "3";
 }
 
-FrmDemand::FrmDemand(shell::Station& station) : TestCatalogueScreen(station, "frmdemand") {
+FrmDemand::FrmDemand(shell::Station& station)
+    : TestCatalogueScreen(station, "frmdemand",
+                          {Completion::WhileTyping, forms::ListChoice::Several}) {
   lblisim.setVisible(false);
   tusGrubu({"New", "Save", "Delete"});
   if (istasyon.screens.has("frmprewive")) tusGrubu({"Print"});
@@ -19,7 +23,8 @@ FrmDemand::FrmDemand(shell::Station& station) : TestCatalogueScreen(station, "fr
   baski.lblsablonno.setCaption(letterheadNameAndDate);
   txtistem.Change.connect([this] { tuskontrol(); });
   buttasi.Click.connect([this] { istemetestekle(); });
-  Lsttest.DblClick.connect([this] { istemetestekle(); });
+  Lsttest.ItemCheck.connect([this] { tuskontrol(); });
+  buttasi.setDefault();
   buttamam.Click.connect([this] { aktar(); });
   Butİptal.Click.connect([this] { istasyon.host.close(*this); });
 }
@@ -33,22 +38,47 @@ void FrmDemand::Load() {
 
 void FrmDemand::tuskontrol() {
   TestCatalogueScreen::tuskontrol();
-  buttasi.setEnabled(!text::trimmed(txttest.text()).empty());
+  buttasi.setEnabled(!typedName().empty() || !ticked().empty());
   mnuonizleme.setEnabled(!txtistem.text().empty());
   etkinlestir(mnuyazdır, "Print", !txtistem.text().empty());
 }
 
-// A test that the catalogue does not have may be requested all the same, and does not come into the
-// catalogue by that.
+void FrmDemand::Unload() {
+  if (kabulEdildi_) istasyon.AktarilanMetin = kabulEdilen(txtistem.text());
+  TestCatalogueScreen::Unload();
+}
+
+FrmDemand::Names FrmDemand::ticked() const {
+  Names names;
+  for (const forms::ListItem& item : Lsttest.items()) {
+    if (item.selected) names.push_back(text::trim(item.text));
+  }
+  return names;
+}
+
 void FrmDemand::istemetestekle() {
-  const std::string test = text::trim(txttest.text());
-  if (test.empty()) return;
+  Names tests = ticked();
+  if (!addTyped(tests) || tests.empty()) return;
+  if (othersChanged() && !mayReplace(tests.back())) return;
+  for (const std::string& test : tests) addToRequest(test);
+  for (std::size_t row = 0; row < Lsttest.count(); ++row) Lsttest.setSelected(row, false);
+  alanlaribosalt();
+}
+
+// A test that the catalogue does not have may be requested all the same, and does not come into the
+// catalogue by that. One that was only looked at in the list is not wanted beside ticked ones.
+bool FrmDemand::addTyped(Names& tests) {
+  if (!lookUp()) return false;
+  if (typedName().empty() || (!tests.empty() && chosenInList())) return true;
+  const auto test = nameToAdd(shell::Phrase::RequestUnknown);
+  if (test && std::ranges::find(tests, *test) == tests.end()) tests.push_back(*test);
+  return test.has_value();
+}
+
+void FrmDemand::addToRequest(const std::string& test) {
   const bool there = txtistem.text().find(test) != std::string::npos;
   if (there && !istasyon.evetMi(test + metinbul(istasyon, "msgtestoncedenyazildi"))) return;
-  if (!eskiAnahtar().empty() && !kayitkontrol()) return;
-  const std::string before = txtistem.text().empty() ? "" : txtistem.text() + ", ";
-  txtistem.setText(before + test);
-  alanlaribosalt();
+  txtistem.setText(txtistem.text().empty() ? test : txtistem.text() + ", " + test);
 }
 
 void FrmDemand::Yazılar(documents::ReportText& yazı) {
@@ -59,8 +89,9 @@ void FrmDemand::Yazılar(documents::ReportText& yazı) {
 }
 
 void FrmDemand::aktar() {
-  istasyon.AktarilanMetin = kabulEdilen(txtistem.text());
+  kabulEdildi_ = true;
   istasyon.host.close(*this);
+  kabulEdildi_ = false;
 }
 
 }  // namespace exam

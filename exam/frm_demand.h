@@ -22,7 +22,8 @@ class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
   forms::CommandButton buttamam{*this, "buttamam"};
   forms::CommandButton Butİptal{*this, "Butİptal"};
 
-  // Adds the test on the screen to the request, after a question when it is there already.
+  // Adds the ticked tests and the one that was typed to the request, after a question for each that
+  // is there already or not in the catalogue.
   void istemetestekle();
 
   // The request on paper: heading, patient, text. It has no settings record: its template and
@@ -36,10 +37,19 @@ class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
   }
 
   void Load() override;
+  void Unload() override;
   void tuskontrol() override;
 
  private:
+  using Names = std::vector<std::string>;
+
+  [[nodiscard]] Names ticked() const;
+  // Puts the test of the name field behind them; false when the user wants to look again.
+  [[nodiscard]] bool addTyped(Names& tests);
+  void addToRequest(const std::string& test);
   void aktar();
+
+  bool kabulEdildi_ = false;
 };
 
 }  // namespace exam

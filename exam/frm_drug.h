@@ -5,15 +5,13 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "documents/print_menu.h"
+#include "exam/catalogue_screen.h"
 #include "platform/forms/button.h"
 #include "platform/forms/label.h"
-#include "platform/forms/list_control.h"
 #include "platform/forms/menu.h"
 #include "platform/forms/text_control.h"
-#include "shell/named_record_screen.h"
 
 namespace exam {
 
@@ -23,7 +21,7 @@ using shell::Station;
 // together with them, so that each drug ends up on a line of its own.
 [[nodiscard]] std::string kabulEdilen(std::string_view prescription);
 
-class FrmDrug : public shell::NamedRecordScreen, public documents::PrintedRecord {
+class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
   static constexpr int noRecord = 0;
 
  public:
@@ -51,12 +49,13 @@ class FrmDrug : public shell::NamedRecordScreen, public documents::PrintedRecord
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.clinical.drug; }
 
   void Load() override;
-  void Kaydet() override;
+  void Unload() override;
   void alanlaribosalt() override;
   void tuskontrol() override;
 
-  void İlaçlistele();
-  // Adds the drug on the screen to the prescription, after a question when it is on it already.
+  void İlaçlistele() { listNames(); }
+  // Adds the drug on the screen to the prescription, after a question when it is on it already or
+  // not in the catalogue.
   void Reçeteyeilaçekle();
 
   // The prescription on paper: heading, text, patient. It has no settings record: its template and
@@ -74,7 +73,7 @@ class FrmDrug : public shell::NamedRecordScreen, public documents::PrintedRecord
  protected:
   [[nodiscard]] forms::TextControl& isimAlani() override { return txtilaç; }
   [[nodiscard]] dao::Database& veritabani() override { return istasyon.stores.clinical.database; }
-  void listeDegisti() override { İlaçlistele(); }
+  [[nodiscard]] forms::ListBox& list() override { return Lstilaç; }
   void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
   [[nodiscard]] bool temizlenebilir() override;
   void yeniEtkin(bool enabled) override;
@@ -82,17 +81,11 @@ class FrmDrug : public shell::NamedRecordScreen, public documents::PrintedRecord
   [[nodiscard]] std::string ayarAdi() const override { return "Drug"; }
 
  private:
-  void isimYazildi(const forms::Key& key);
-  void isimBitti();
-  void ilacSecildi();
-  void satiriGoster(int row);
-  [[nodiscard]] bool yalnizIsim() const;
-  [[nodiscard]] std::string katlanmis(std::string_view name) const;
+  [[nodiscard]] bool ikinciKezMi(const std::string& name);
   void kabul();
   void receteDegisti();
 
-  std::vector<std::string> katlanmis_;  // the names of the list, folded for the search
-  bool aramada_ = false;                // the list follows what is typed: nothing is chosen
+  bool kabulEdildi_ = false;
 };
 
 }  // namespace exam

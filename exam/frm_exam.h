@@ -189,6 +189,7 @@ class FrmExam : public shell::DatedRecordScreen, public documents::PrintedRecord
   void uyariOku();
   void uyariAc();
 
+  [[nodiscard]] bool dolu(const shell::FieldRow& row);
   [[nodiscard]] std::string ekrandaki(const shell::FieldRow& row);
   [[nodiscard]] std::string kayittaki(const shell::FieldRow& row);
   void dokumYaz();

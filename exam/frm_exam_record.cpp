@@ -44,16 +44,20 @@ void FrmExam::Muayenebul() {
 bool FrmExam::kaydedilebilir() {
   const bool untouched = eskiAnahtar().empty() && RecordScreen::YeniAlanlar() == bosHali_;
   return !untouched && DatedRecordScreen::kaydedilebilir() &&
-         std::ranges::any_of(longFields(), [this](const shell::FieldRow& row) {
-           return !kontrol(row).text().empty();
-         });
+         std::ranges::any_of(contentFields(calisma_.frame),
+                             [this](const shell::FieldRow& row) { return dolu(row); });
+}
+
+bool FrmExam::dolu(const shell::FieldRow& row) {
+  if (row.stored == shell::Stored::Mark)
+    return static_cast<forms::CheckBox&>(row.control(*this)).value();
+  return !text::trimmed(kontrol(row).text()).empty();
 }
 
 bool FrmExam::temizlenebilir() {
   return DatedRecordScreen::temizlenebilir() ||
-         std::ranges::any_of(riskFields(), [this](const shell::FieldRow& row) {
-           return static_cast<forms::CheckBox&>(row.control(*this)).value();
-         });
+         std::ranges::any_of(riskFields(),
+                             [this](const shell::FieldRow& row) { return dolu(row); });
 }
 
 void FrmExam::listelereEkle() {

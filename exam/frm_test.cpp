@@ -3,11 +3,14 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
+#include "exam/catalogue_name.h"
 #include "exam/result_mark.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "shell/fault_words.h"
+#include "shell/file_words.h"
 #include "shell/list_completion.h"
 #include "shell/record_date.h"
 #include "shell/text_lookup.h"
@@ -47,7 +50,7 @@ void FrmTest::olaylariBagla() {
   txttarih.GotFocus.connect([this] { shell::tarihOdakta(istasyon, txttarih); });
   txttarih.LostFocus.connect([this] { shell::hatalitarih(istasyon, txttarih); });
   txttarih.Change.connect([this] { tuskontrol(); });
-  shell::completeWhileTyping(comtest);
+  comtest.KeyUp.connect([this](forms::Key key) { shell::completeFromList(comtest, key); });
   comtest.Click.connect([this] { testSecildi(); });
   comtest.LostFocus.connect([this] { testBitti(); });
   msgrid1.RowColChange.connect([this] { satirSecildi(); });
@@ -76,6 +79,13 @@ void FrmTest::Load() {
   lblisim.setCaption(istasyon.SeciliHasta);
 }
 
+bool FrmTest::QueryUnload() {
+  const bool chosenOnly = txtcount.text().empty() && text::trimmed(txtsonuç.text()).empty();
+  if (chosenOnly && !kayitkontrol()) return false;
+  if (chosenOnly) alanlaribosalt();
+  return RecordScreen::QueryUnload();
+}
+
 void FrmTest::Unload() {
   RecordScreen::Unload();
   baski.setkayityaz().ignore();
@@ -93,16 +103,25 @@ void FrmTest::hastaDegisti() {
 void FrmTest::alanlaribosalt() {
   txtcount.setText("");
   sonTest_.clear();
+  kayitliTest_.clear();
+  aralikTestin_ = false;
   RecordScreen::alanlaribosalt();
   Eskialan();
+  etkinlestir(mnuyeni, "New", temizlenebilir());
   msgrid1.dropChoice();
   durumYaz({});
 }
 
 void FrmTest::Yeni() {
   if (!kayitkontrol()) return;
-  alanlaribosalt();
+  bugundenBasla();
   comtest.setFocus();
+}
+
+// The date of the value that was on the screen goes with it.
+void FrmTest::bugundenBasla() {
+  txttarih.setDate(istasyon.clock.today());
+  alanlaribosalt();
 }
 
 bool FrmTest::alanlaritasi(const dao::Value& number) {
@@ -111,7 +130,9 @@ bool FrmTest::alanlaritasi(const dao::Value& number) {
   const auto date = tablo().Fields("Date").Value().date();
   date ? txttarih.setDate(*date) : txttarih.setText("");
   const bool shown = RecordScreen::alanlaritasi(number);
-  sonTest_ = comtest.text();
+  sonTest_ = text::trim(comtest.text());
+  kayitliTest_ = sonTest_;
+  aralikTestin_ = true;
   return shown;
 }
 
@@ -121,6 +142,11 @@ std::string FrmTest::YeniAlanlar() {
 
 bool FrmTest::kaydedilebilir() {
   return !lblisim.caption().empty() && !text::trimmed(comtest.text()).empty();
+}
+
+bool FrmTest::temizlenebilir() {
+  return !RecordScreen::YeniAlanlar().empty() ||
+         txttarih.text() != text::shortDate(istasyon.clock.today());
 }
 
 void FrmTest::tuskontrol() {
@@ -138,6 +164,7 @@ dao::Status FrmTest::Forumalanlaritasi() {
 void FrmTest::Kaydet() {
   if (!shell::kayitTarihi(istasyon, txttarih, activeControl())) return;
   testBitti();
+  if (!testOnaylandi()) return comtest.setFocus();
   for (forms::TextBox* const number : {&txtsonuç, &txtmin, &txtmax})
     number->setText(noktali(number->text()));
   const dao::Status written = kayitYaz();
@@ -145,6 +172,8 @@ void FrmTest::Kaydet() {
   alanlaribosalt();
   VAnalizleriyaz();
   kaydedildi();
+  // Somebody who goes through the grid stays there.
+  if (activeControl() != &msgrid1) comtest.setFocus();
 }
 
 dao::Status FrmTest::kayitYaz() {
@@ -166,7 +195,7 @@ void FrmTest::Sil() {
   if (!istasyon.confirmLoss(txttarih.text() + metinbul(istasyon, "msgsilinecekkayit"))) return;
   const dao::Status deleted = silVeListele(*number);
   if (!deleted) return shell::hataSoyle(istasyon, deleted);
-  alanlaribosalt();
+  bugundenBasla();
   VAnalizleriyaz();
 }
 
@@ -198,19 +227,48 @@ dao::Status FrmTest::Visitkaydet(Change change) {
 
 // --- The test
 
-// A test that was chosen brings its unit and range; one that the catalogue does not have leaves
-// them as they are.
+// A test of the catalogue brings its unit and range. Those of another test do not stay with one
+// that has none of its own; what was typed before any test was named is the user's own.
 void FrmTest::testSecildi() {
-  sonTest_ = comtest.text();
+  const std::string typed = text::trim(comtest.text());
+  const auto stored = katalogdaki(typed);
+  const std::string test = stored ? text::trim(*stored) : typed;
+  const std::string before = std::exchange(sonTest_, test);
+  if (stored) comtest.setText(test);
+  if (test == before) return;
+  const bool own = !aralikTestin_ && (before.empty() || !stored) &&
+                   !(txtbirim.text() + txtmin.text() + txtmax.text()).empty();
+  if (own) return;
   dao::Recordset& tests = istasyon.stores.clinical.Tests;
-  if (!tests.Seek("=", text::trimmed(sonTest_)) || tests.NoMatch()) return;
-  txtbirim.setText(text::trim(tests.Fields("Unit").text()));
-  txtmin.setText(text::trim(tests.Fields("Min").text()));
-  txtmax.setText(text::trim(tests.Fields("Max").text()));
+  const auto bring = [&](forms::TextBox& field, const char* column) {
+    field.setText(stored ? text::trim(tests.Fields(column).text()) : std::string());
+  };
+  bring(txtbirim, "Unit");
+  bring(txtmin, "Min");
+  bring(txtmax, "Max");
+  aralikTestin_ = stored.has_value();
 }
 
 void FrmTest::testBitti() {
-  if (!comtest.text().empty() && comtest.text() != sonTest_) testSecildi();
+  const std::string typed = text::trim(comtest.text());
+  if (!typed.empty() && typed != sonTest_) testSecildi();
+}
+
+// The row of the catalogue becomes the current one.
+std::optional<std::string> FrmTest::katalogdaki(const std::string& name) {
+  dao::Recordset& tests = istasyon.stores.clinical.Tests;
+  if (auto stored = storedName(tests, "Test", name)) return stored;
+  const auto alike = [&](const std::string& item) { return foldedName(istasyon, item); };
+  const auto at = std::ranges::find(comtest.items(), alike(name), alike);
+  return name.empty() || at == comtest.items().end() ? std::nullopt
+                                                     : storedName(tests, "Test", *at);
+}
+
+// A test that nobody knows yet is no slip of the keyboard when the user says so.
+bool FrmTest::testOnaylandi() {
+  const std::string test = text::trim(comtest.text());
+  return test == kayitliTest_ || katalogdaki(test) ||
+         istasyon.evetMi(shell::doldurulmus(istasyon, shell::Phrase::ResultUnknown, {test}));
 }
 
 void FrmTest::Testlistele() {

@@ -2,6 +2,7 @@
 // those marked that lie outside their reference range.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -81,12 +82,14 @@ class FrmTest : public shell::RecordScreen, public documents::PrintedRecord {
   [[nodiscard]] std::string eskiAnahtar() const override { return txtcount.text(); }
   [[nodiscard]] std::string& yedek() override { return yedek_; }
   void Load() override;
+  // A test without a result was only chosen: it is asked about before it is stored.
+  [[nodiscard]] bool QueryUnload() override;
   void Unload() override;
   void tuskontrol() override;
 
  protected:
   [[nodiscard]] bool kaydedilebilir() override;
-  [[nodiscard]] bool temizlenebilir() override { return !RecordScreen::YeniAlanlar().empty(); }
+  [[nodiscard]] bool temizlenebilir() override;
   [[nodiscard]] std::string YeniAlanlar() override;
   void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
   bool tusBas(std::string_view key) override;
@@ -115,13 +118,19 @@ class FrmTest : public shell::RecordScreen, public documents::PrintedRecord {
   void satiriGoster(long number);
   void testSecildi();
   void testBitti();
+  [[nodiscard]] std::optional<std::string> katalogdaki(const std::string& name);
+  [[nodiscard]] bool testOnaylandi();
+  void bugundenBasla();
   void filtreAc();
   void grafikAc();
   void testDuzenleAc();
 
   // The catalogue opens above this screen and takes the shared snapshot for itself.
   std::string yedek_;
-  std::string sonTest_;     // the test whose unit and range stand in the fields
+  std::string sonTest_;      // the test that the name field stood for last
+  std::string kayitliTest_;  // the test of the stored value on the screen
+  // Unit and range came from that test; the user did not type them for one without a range.
+  bool aralikTestin_ = false;
   Analyses analizler_;      // in the order of the grid
   std::size_t toplam_ = 0;  // values of the patient, with those that a filter leaves out
 };

@@ -2,7 +2,8 @@
 
 namespace exam {
 
-FrmTestEdit::FrmTestEdit(shell::Station& station) : TestCatalogueScreen(station, "frmtestedit") {
+FrmTestEdit::FrmTestEdit(shell::Station& station)
+    : TestCatalogueScreen(station, "frmtestedit", {}) {
   tusGrubu({"New", "Save", "Delete"});
   tbToolBar.addButton("Exit", "Exit");
 }

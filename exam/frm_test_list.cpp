@@ -54,7 +54,7 @@ void FrmTest::VAnalizleriyaz() {
 
 void FrmTest::filtreliYaz(const AnalysisFilter& filter) {
   if (!kayitkontrol()) return;
-  alanlaribosalt();
+  txtcount.text().empty() ? alanlaribosalt() : bugundenBasla();
   Analyses analyses = hastaninAnalizleri();
   std::erase_if(analyses, [&](const stores::Analysis& each) { return !testUyar(filter, each); });
   numaralariYaz(analyses);
@@ -120,7 +120,7 @@ void FrmTest::satiriGoster(long number) {
   }
 }
 
-// A sheet that is full leaves out the oldest days.
+// The first sheet has the latest days.
 void FrmTest::Yazılar(documents::ReportText& yazı) {
   std::optional<text::DateTime> day;
   yazı.secyazitipi();

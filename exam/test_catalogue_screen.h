@@ -3,22 +3,26 @@
 
 #include <string_view>
 
+#include "exam/catalogue_screen.h"
 #include "platform/forms/label.h"
-#include "platform/forms/list_control.h"
-#include "shell/named_record_screen.h"
 
 namespace exam {
 
-class TestCatalogueScreen : public shell::NamedRecordScreen {
+class TestCatalogueScreen : public CatalogueScreen {
  public:
-  TestCatalogueScreen(shell::Station& istasyon, std::string_view name);
+  // What the screen is for: to keep the catalogue, or to take several tests from it.
+  struct Use {
+    Completion completion = Completion::None;
+    forms::ListChoice choice = forms::ListChoice::One;
+  };
+  TestCatalogueScreen(shell::Station& istasyon, std::string_view name, Use use);
 
   forms::TextBox txttest{*this, "txttest"};
   forms::TextBox txtbirim{*this, "txtbirim"};
   forms::TextBox txtmin{*this, "txtmin"};
   forms::TextBox txtmax{*this, "txtmax"};
   forms::TextBox txtbilgi{*this, "txtbilgi", forms::TextLines::Multiple};
-  forms::ListBox Lsttest{*this, "Lsttest"};
+  forms::ListBox Lsttest;
   forms::StatusBar sbDurum{*this, "sbDurum", 2};
 
   // Lists the whole catalogue.
@@ -27,24 +31,16 @@ class TestCatalogueScreen : public shell::NamedRecordScreen {
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.clinical.Tests; }
   void Load() override;
-  void Kaydet() override;
 
  protected:
   [[nodiscard]] forms::TextControl& isimAlani() override { return txttest; }
   [[nodiscard]] dao::Database& veritabani() override { return istasyon.stores.clinical.database; }
   [[nodiscard]] bool temizlenebilir() override { return !YeniAlanlar().empty(); }
   void basliklariYenile() override;
+  [[nodiscard]] forms::ListBox& list() override { return Lsttest; }
   void listeDegisti() override { Testlistele(); }
+  void store() override;
   void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
-
- private:
-  void satiriGoster(int row);
-  void testSecildi();
-  void isimYazildi();
-  void isimBitti();
-  [[nodiscard]] bool yalnizIsim() const;
-
-  bool izliyor_ = false;  // the list follows what is typed; nobody chose the row
 };
 
 }  // namespace exam

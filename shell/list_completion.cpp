@@ -28,9 +28,15 @@ void completeFromList(forms::ComboBox& combo, const forms::Key& key) {
   const auto row = std::ranges::find_if(combo.items(), [&](const std::string& item) {
     return comparable(text::left(item, length)) == wanted;
   });
-  if (row == combo.items().end()) return;
-  combo.setText(typed + text::mid(*row, length + 1));
-  combo.select(static_cast<std::size_t>(length), text::length(combo.text()));
+  if (row != combo.items().end()) completeWith(combo, *row, key);
+}
+
+void completeWith(forms::TextControl& field, std::string_view row, const forms::Key& key) {
+  if (field.text().empty() || steers(key.code) || key.control || key.alt) return;
+  const std::string typed = field.text();
+  const std::size_t length = text::length(typed);
+  field.setText(typed + text::mid(row, static_cast<std::ptrdiff_t>(length) + 1));
+  field.select(length, text::length(field.text()));
 }
 
 int rowOfFirstLetter(const forms::ComboBox& combo) {

@@ -11,6 +11,9 @@ namespace shell {
 // rest is appended and selected, so that typing on replaces it. Steering keys complete nothing.
 void completeFromList(forms::ComboBox& combo, const forms::Key& key);
 
+// The same for any field, with a row that begins with the typed text.
+void completeWith(forms::TextControl& field, std::string_view row, const forms::Key& key);
+
 // The row that begins with the first letter of the typed text, whatever its case; -1 when there is
 // none.
 [[nodiscard]] int rowOfFirstLetter(const forms::ComboBox& combo);

@@ -13,9 +13,11 @@ NamedRecordScreen::NamedRecordScreen(Station& station, std::string_view name,
                                      std::string_view oldKey)
     : RecordScreen(station, name), txteski(*this, oldKey) {
   txteski.setVisible(false);
-  mnuyeni.Click.connect([this] {
-    if (kayitkontrol()) alanlaribosalt();
-  });
+  mnuyeni.Click.connect([this] { Yeni(); });
+}
+
+void NamedRecordScreen::Yeni() {
+  if (kayitkontrol()) alanlaribosalt();
 }
 
 bool NamedRecordScreen::kaydedilebilir() {
@@ -38,6 +40,10 @@ void NamedRecordScreen::alanlaribosalt() {
 void NamedRecordScreen::Kaydet() {
   isimAlani().setText(text::trim(isimAlani().text()));
   isimDegistiSor(isimAlani(), txteski.text());
+  store();
+}
+
+void NamedRecordScreen::store() {
   const dao::Status written = kaydiYaz();
   if (!written) return kaydedilemedi(written);
   txteski.setText(isimAlani().text());

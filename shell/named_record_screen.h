@@ -22,8 +22,11 @@ class NamedRecordScreen : public RecordScreen {
   void Kaydet() override;
   void Sil() override;
   void alanlaribosalt() override;
+  virtual void Yeni();
 
  protected:
+  // The save without the question: a changed name renames the record.
+  virtual void store();
   // The first field: the name.
   [[nodiscard]] virtual forms::TextControl& isimAlani() = 0;
   [[nodiscard]] virtual dao::Database& veritabani() = 0;

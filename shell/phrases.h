@@ -56,8 +56,16 @@ enum class Phrase {
   SamplePatient,
   SampleText,
   SampleSignature,  // of two lines
+  ReportCut,
+  ReportLong,
   NoTests,
   NoResults,
+  PrescribeUnknown,    // %1 the name
+  PrescribeNameAlone,  // %1 the name, %2 the drug whose dosage is on the screen
+  RequestUnknown,      // %1 the name
+  ResultUnknown,       // %1 the name
+  StoreUnknown,        // %1 the name
+  ShowInstead,         // %1 the name
   Trend,
   NoTrend,
   NotDrawnWithoutNumber,  // a number follows

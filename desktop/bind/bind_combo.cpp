@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 
 #include "desktop/bind/bind_text.h"
+#include "desktop/bind/keys.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -71,7 +72,11 @@ void bind(QComboBox& combo, forms::ComboBox& control) {
       attach(combo, control, Follow::All, [&](Aspect aspect) { refresh(combo, control, aspect); });
   QObject::connect(&combo, &QComboBox::activated, &binding,
                    [&](int row) { control.setListIndex(row); });
-  if (combo.isEditable()) listenToLine(binding, *combo.lineEdit(), control);
+  if (!combo.isEditable()) return;
+  QLineEdit& line = *combo.lineEdit();
+  listenToLine(binding, line, control);
+  // The focus is the box's own: it hands the keys to its line behind every filter of the line.
+  forwardKeys(binding, combo, control, [&line](const QString& typed) { line.insert(typed); });
 }
 
 }  // namespace desktop

@@ -30,6 +30,8 @@ void showCurrent(QAbstractItemView& view, int row) {
 
 void refreshList(QListView& view, ListBoxModel& model, const forms::ListBox& list, Aspect aspect) {
   if (aspect == Aspect::Items) model.refresh();
+  if (aspect == Aspect::Range && list.topRow() >= 0)
+    view.scrollTo(model.index(model.mapped(list.topRow()), 0), QAbstractItemView::PositionAtTop);
   if (aspect != Aspect::Items && aspect != Aspect::Selection) return;
   showCurrent(view, model.mapped(list.listIndex()));
   view.viewport()->update();

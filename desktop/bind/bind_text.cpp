@@ -90,7 +90,6 @@ void listenToLine(Binding& binding, QLineEdit& edit, forms::TextControl& control
                    [&] { reportSelection(edit, control); });
   QObject::connect(&edit, &QLineEdit::cursorPositionChanged, &binding,
                    [&] { reportSelection(edit, control); });
-  forwardKeys(binding, edit, control, [&](const QString& typed) { edit.insert(typed); });
 }
 
 void bind(QLineEdit& edit, forms::TextBox& box) {
@@ -98,6 +97,7 @@ void bind(QLineEdit& edit, forms::TextBox& box) {
   Binding& binding =
       attach(edit, box, Follow::All, [&](Aspect aspect) { refreshLine(edit, box, aspect); });
   listenToLine(binding, edit, box);
+  forwardKeys(binding, edit, box, [&](const QString& typed) { edit.insert(typed); });
 }
 
 void bind(QPlainTextEdit& edit, forms::TextBox& box) {

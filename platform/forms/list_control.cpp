@@ -32,6 +32,7 @@ void ListBox::addItems(std::vector<ListItem> items) {
 void ListBox::setItems(std::vector<ListItem> items) {
   items_ = std::move(items);
   listIndex_ = -1;
+  topRow_ = -1;
   notify(Aspect::Items);
 }
 
@@ -53,6 +54,11 @@ void ListBox::setListIndex(int row) {
   if (std::exchange(listIndex_, index) == index) return;
   notify(Aspect::Selection);
   if (index >= 0) Click();
+}
+
+void ListBox::showFromRow(int row) {
+  topRow_ = row;
+  notify(Aspect::Range);
 }
 
 std::string ListBox::text() const {

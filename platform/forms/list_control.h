@@ -47,6 +47,9 @@ class ListBox : public Control {
   void setListIndex(int row);
   // The text of the focused row, empty when there is none.
   [[nodiscard]] std::string text() const;
+  // Asks the widget to show this row at the top of its view, as far as the rows below it go.
+  void showFromRow(int row);
+  [[nodiscard]] int topRow() const { return topRow_; }
   // A different selection of the row fires ItemCheck.
   void setSelected(std::size_t row, bool selected);
 
@@ -63,6 +66,7 @@ class ListBox : public Control {
   ListChoice choice_;
   std::vector<ListItem> items_;
   int listIndex_ = -1;
+  int topRow_ = -1;  // the one that was asked for last; -1 with other rows
   int visibleRows_ = 0;
 };
 

@@ -108,10 +108,10 @@ TEST_F(TextBinding, AComboCompletesWhileTyping) {
   form.combo.setItems({"Ankara", "Antalya"});
   shell::completeWhileTyping(form.combo);
   combo.setFocus();
-  type(*combo.lineEdit(), QStringLiteral("ant"));
+  type(combo, QStringLiteral("ant"));
   EXPECT_EQ(form.combo.text(), "antalya");
   EXPECT_EQ(combo.lineEdit()->selectedText(), QStringLiteral("alya"));
-  type(*combo.lineEdit(), QStringLiteral("e"));
+  type(combo, QStringLiteral("e"));
   EXPECT_EQ(form.combo.text(), "ante");
 }
 
@@ -120,7 +120,7 @@ TEST_F(TextBinding, TypingInTheMiddleOfAComboKeepsItsPlace) {
   form.combo.setText("Ankara");
   combo.setFocus();
   combo.lineEdit()->setCursorPosition(2);
-  type(*combo.lineEdit(), QStringLiteral("xy"));
+  type(combo, QStringLiteral("xy"));
   EXPECT_EQ(form.combo.text(), "Anxykara");
   EXPECT_EQ(combo.lineEdit()->cursorPosition(), 4);
 }

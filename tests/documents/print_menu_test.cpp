@@ -21,13 +21,14 @@ struct FrmEcho : forms::Form, documents::PrintedRecord {
     baski.Setkayitlarioku();
   }
   void Yazılar(documents::ReportText& yazı) override {
-    yazı.alan("Tanı", "astım");
+    yazı.alan("Tanı", tanı);
     yazı.alan("Not", "");
   }
   [[nodiscard]] std::string basilanIsim() const override { return "Ayşe Yıldız*"; }
   [[nodiscard]] std::string basilanTarih() const override { return "22.11.2026"; }
 
   shell::Station& istasyon;
+  std::string tanı = "astım";
   forms::MenuItem MnuDosya{*this, "MnuDosya"};
   forms::MenuItem mnuşablon{MnuDosya, "mnuşablon"};
   forms::MenuItem mnuonizleme{MnuDosya, "mnuonizleme"};
@@ -69,6 +70,42 @@ TEST(PrintMenu, APreviewThatIsOnlyClosedPrintsNothing) {
   };
   echo.mnuonizleme.press();
   EXPECT_TRUE(desk.printer.jobs.empty());
+}
+
+// Preview and print alike: all pages, the first one, or nothing yet.
+TEST(PrintMenu, ALongRecordGoesOnOverMorePagesWhenItIsWanted) {
+  PrintDesk desk;
+  desk.printer.names = {"Muayene"};
+  desk.host.modal["frmprinter"] = chooseFirstPrinter;
+  std::size_t previewed = 0;
+  desk.host.modal["frmprewive"] = [&](forms::Form&) { previewed = 1; };
+  desk.host.modal["frmpreview1"] = [&](forms::Form& form) {
+    auto& preview = dynamic_cast<documents::FrmPreview1&>(form);
+    EXPECT_EQ(preview.lblsayfa.caption(), "/ 2");
+    previewed = 2;
+  };
+  FrmEcho echo(desk.station);
+  for (int line = 0; line < 90; ++line) echo.tanı += "\n" + std::to_string(line);
+  struct Case {
+    host::Answer answer;
+    std::size_t pages;
+    const char* last;
+  };
+  for (const Case& c : {Case{host::Answer::Yes, 2, "89"}, Case{host::Answer::No, 1, "sığmadı)"},
+                        Case{host::Answer::Cancel, 0, ""}}) {
+    previewed = 0;
+    desk.printer.jobs.clear();
+    desk.host.expect("sığmıyor", c.answer);
+    desk.host.expect("sığmıyor", c.answer);
+    echo.mnuyazdır.press();
+    echo.mnuonizleme.press();
+    EXPECT_EQ(previewed, c.pages);
+    ASSERT_EQ(desk.printer.jobs.empty(), c.pages == 0);
+    if (c.pages == 0) continue;
+    const page::Pages& printed = desk.printer.jobs.front().pages;
+    EXPECT_EQ(printed.pages.size(), c.pages);
+    EXPECT_TRUE(texts(printed.pages.back()).back().ends_with(c.last));
+  }
 }
 
 TEST(PrintMenu, SaysWhyNothingWasPrinted) {

@@ -77,13 +77,23 @@ TEST(ReportPage, ALongBodyIsCutAndTheSignatureStandsBelowIt) {
   std::string body;
   for (int line = 1; line <= 200; ++line) body += std::to_string(line) + "\n";
   const Lines cut = printed(desk, report(0, body));
-  EXPECT_EQ(cut.back(), "567,16140 65");  // the 66th would end below 16538
+  EXPECT_EQ(cut[63], "567,15900 64");
+  EXPECT_EQ(cut.back(), "567,16140 (devamı bu sayfaya sığmadı)");  // another ends below 16538
   const Lines isSigned = printed(desk, report(5, body, "Dr. A\nB"));
   EXPECT_EQ(isSigned, [&] {
-    Lines expected(cut.begin(), cut.begin() + 62);
-    expected.insert(expected.end(), {"7500,15860 Dr. A", "7900,16100 B"});
+    Lines expected(cut.begin(), cut.begin() + 61);
+    expected.insert(expected.end(),
+                    {"567,15420 (devamı bu sayfaya sığmadı)", "7500,15860 Dr. A", "7900,16100 B"});
     return expected;
   }());
+  // What just fits says nothing, and the note itself fits whatever the font of the screen is.
+  body = body.substr(0, body.find("\n66\n"));
+  EXPECT_EQ(printed(desk, report(0, body)).back(), "567,16140 65");
+  Report large = report(0, std::string(5000, 'x'));
+  large.yazitipi.size = 72;
+  const auto found = all<page::Text>(onePage(raporSayfasi(desk.station, large)));
+  EXPECT_EQ(found.back().font.halfPoints, 20);
+  EXPECT_LE(found.back().y + 240, page::a4.height - 300);
 }
 
 TEST(ReportPage, LongLinesStayOnTheSheet) {

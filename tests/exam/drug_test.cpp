@@ -83,6 +83,7 @@ TEST_F(Drug, ANewDrugUnderANameThatIsThereLosesNothing) {
   screen.mnuyeni.press();
   screen.txtkullanım.setText("2x2");
   typeName("Parol");
+  desk.host.expect("Yazılanların yerine “Parol”", host::Answer::No);
   screen.focusMoved(&screen.txtkullanım);
   EXPECT_EQ(screen.txtkullanım.text(), "2x2");
   screen.mnukaydet.press();

@@ -38,8 +38,8 @@ TEST_F(Exam, ARecordNeedsALongText) {
   screen->ChkHT.setValue(true);
   EXPECT_FALSE(screen->mnukaydet.enabled());
   EXPECT_TRUE(screen->mnuyeni.enabled());
-  for (forms::TextBox* field : {&screen->txtşikayet, &screen->txtsoygeçmiş, &screen->txtkontrol,
-                                &screen->TxtBoyun, &screen->txttahlil}) {
+  for (forms::TextBox* field :
+       {&screen->txtşikayet, &screen->txtsoygeçmiş, &screen->txtkontrol, &screen->txttahlil}) {
     field->setText("x");
     EXPECT_TRUE(screen->mnukaydet.enabled()) << field->name();
     field->setText("");
@@ -49,6 +49,49 @@ TEST_F(Exam, ARecordNeedsALongText) {
   EXPECT_FALSE(screen->ChkHT.value());
   screen->Chkstres.setValue(true);  // a tick is something that New can clear
   EXPECT_TRUE(screen->mnuyeni.enabled());
+}
+
+// Every box of the page that is shown, a picture and a film make a record; it is stored at closing
+// as any other.
+TEST_F(Exam, WhatTheSpecialityWritesMakesARecord) {
+  struct Case {
+    const char* program;
+    std::vector<const char*> boxes;
+  };
+  const Case cases[] = {
+      {"Cardiology",
+       {"txtekg", "txttele", "ChkHT", "ChkDM", "ChkHiperlipemi", "Chksigara", "Chkstres"}},
+      {"Gynecology",
+       {"ComMedeniDurum", "TxtİAT", "txtSAT", "TxtAdedleri", "txtDismenore", "txtvaginalakıntı",
+        "txtkorunma", "txtDiğer", "txtp", "txtg", "txty", "txta", "txtc"}},
+      {"Ophthalmology",
+       {"txtgörmesağ", "txtgörmesol", "txttasgörsağ", "txttasgörsol", "txtgözlüksağ",
+        "txtgözlüksol", "txthorizontalsağ", "txthorizontalsol", "txtverticalsağ",
+        "txtverticalsol"}},
+      {"ENT", {"txtoralkavite", "Txtnazalkavite", "txtSağotoskopi", "txtSolotoskopi", "TxtBoyun"}},
+      {"General Medicine", {"txtp1", "txtp6", "txtmov"}},
+  };
+  std::int64_t last = 0;
+  for (const Case& c : cases) {
+    for (const char* name : c.boxes) {
+      SCOPED_TRACE(std::string(c.program) + " " + name);
+      desk.station.SeciliHasta = std::string("Hasta ") + std::to_string(last);
+      as(c.program);
+      screen->txtnabız.setText("72");
+      EXPECT_FALSE(screen->mnukaydet.enabled());
+      forms::Control* const box = screen->find(name);
+      if (auto* const combo = dynamic_cast<forms::ComboBox*>(box)) {
+        combo->setListIndex(1);
+      } else if (auto* const field = dynamic_cast<forms::TextControl*>(box)) {
+        field->setText("1");
+      } else {
+        dynamic_cast<forms::CheckBox&>(*box).setValue(true);
+      }
+      EXPECT_TRUE(screen->mnukaydet.enabled());
+      EXPECT_TRUE(screen->QueryUnload());
+      EXPECT_EQ(desk.stored(++last, "Pulse"), "72");
+    }
+  }
 }
 
 TEST_F(Exam, OneColumnHoldsTheNeckOrTheContraception) {

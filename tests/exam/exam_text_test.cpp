@@ -79,9 +79,11 @@ TEST_F(ExamText, HostileTextsAndPrintersLeaveTheRecordAsItIs) {
     screen->mnukaydet.press();
     printer.jobs.clear();
     desk.host.errors.clear();
+    const bool all = text == words;
+    desk.host.expect("bir sayfaya sığmıyor", all ? host::Answer::Yes : host::Answer::No);
     screen->mnuyazdır.press();
     ASSERT_EQ(printer.jobs.size(), 1u);
-    EXPECT_EQ(printer.jobs[0].pages.pages.size(), 1u);
+    EXPECT_EQ(printer.jobs[0].pages.pages.size() > 100, all);
     ASSERT_EQ(desk.host.errors.size(), 1u);
     EXPECT_EQ(desk.host.errors[0].text(), "Muayene: no paper");
     EXPECT_EQ(screen->txthikaye.text(), text);

@@ -88,16 +88,107 @@ TEST_F(Laboratory, AnotherRangeInTheCatalogueLeavesStoredValuesAlone) {
   EXPECT_EQ(rows(*screen).back(), "04.02.2026 CRP 6   ");
 }
 
-TEST_F(Laboratory, ATypedTestBringsItsRangeOnceAndAnUnknownOneNone) {
+TEST_F(Laboratory, NoResultKeepsTheRangeOfAnotherTest) {
+  desk.addTest("İdrar", "mL", "800", "2000");
+  screen->Testlistele();
+  struct Case {
+    const char *first, *typedMax, *then, *shown, *range;
+  };
+  const Case cases[] = {
+      {"", "", "crp", "CRP", "mg/L--5"},
+      {"", "", "idrar", "İdrar", "mL-800-2000"},
+      {"", "", "hemog", "hemog", "--"},
+      {"", "7", "hemog", "hemog", "--7"},  // typed for the test to come
+      {"", "7", "CRP", "CRP", "--7"},      // the same
+      {"AKŞ", "", "CRP", "CRP", "mg/L--5"},
+      {"AKŞ", "", "akş", "AKŞ", "mg/dL-70-105"},
+      {"AKŞ", "110", "akş", "AKŞ", "mg/dL-70-110"},
+      {"AKŞ", "110", "hemog", "hemog", "--"},
+      {"AKŞ", "", "hemog", "hemog", "--"},
+      {"hemog", "7", "hemogl", "hemogl", "--7"},
+      {"hemog", "7", "CRP", "CRP", "mg/L--5"},
+  };
+  const auto type = [&](const char* test) {
+    screen->focusMoved(&screen->comtest);
+    screen->comtest.setText(test);
+    screen->focusMoved(&screen->txtsonuç);
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(std::string(c.first) + "/" + c.typedMax + "/" + c.then);
+    screen->alanlaribosalt();
+    if (*c.first != '\0') type(c.first);
+    if (*c.typedMax != '\0') screen->txtmax.setText(c.typedMax);
+    type(c.then);
+    EXPECT_EQ(screen->comtest.text(), c.shown);
+    EXPECT_EQ(screen->txtbirim.text() + "-" + screen->txtmin.text() + "-" + screen->txtmax.text(),
+              c.range);
+  }
+  EXPECT_EQ(screen->comtest.items().size(), 3U);  // what was typed is no test to choose
+}
+
+TEST_F(Laboratory, AStoredValueGivesNoRangeToAnotherTest) {
+  save(*screen, "03.02.2026", "AKŞ", "126");
+  screen->msgrid1.choose({1, 0});
+  screen->comtest.setText("hemog");
+  desk.host.expect("“hemog”", host::Answer::Yes);
+  screen->mnukaydet.press();  // without leaving the box first
+  EXPECT_EQ(rows(*screen), (Texts{"03.02.2026 hemog 126   "}));
+  // Under its own name it is not asked about again.
+  screen->msgrid1.choose({1, 0});
+  screen->txtsonuç.setText("127");
+  screen->mnukaydet.press();
+  EXPECT_EQ(rows(*screen), (Texts{"03.02.2026 hemog 127   "}));
+}
+
+TEST_F(Laboratory, AnUnknownTestIsAskedAboutBeforeItIsStored) {
+  screen->comtest.setText("hemog");
+  screen->txtsonuç.setText("300");
+  desk.host.expect("“hemog”", host::Answer::No);
+  screen->mnukaydet.press();
+  EXPECT_EQ(rows(*screen), Texts());
+  EXPECT_EQ(screen->comtest.text() + screen->txtsonuç.text(), "hemog300");
+  EXPECT_EQ(screen->activeControl(), &screen->comtest);
   screen->comtest.setText("crp");
-  screen->comtest.LostFocus();
-  EXPECT_EQ(screen->txtbirim.text() + screen->txtmax.text(), "mg/L5");
-  screen->txtmax.setText("8");
-  screen->comtest.LostFocus();
-  EXPECT_EQ(screen->txtmax.text(), "8");
-  screen->comtest.setText("Ferritin");
-  screen->comtest.LostFocus();
-  EXPECT_EQ(screen->txtmax.text(), "8");
+  screen->mnukaydet.press();
+  EXPECT_EQ(rows(*screen), (Texts{"22.11.2026 CRP 300 H"}));
+}
+
+TEST_F(Laboratory, ATestWithoutAResultIsAskedAboutBeforeItIsStoredAtClosing) {
+  screen->comtest.setText("CRP");
+  desk.host.expect("Kayıt yapılsın mı?", host::Answer::Cancel);
+  EXPECT_FALSE(screen->QueryUnload());
+  desk.host.expect("Kayıt yapılsın mı?", host::Answer::No);
+  EXPECT_TRUE(screen->QueryUnload());
+  EXPECT_EQ(ledger(), "");
+  screen->comtest.setText("CRP");
+  screen->txtsonuç.setText("3");
+  EXPECT_TRUE(screen->QueryUnload());
+  EXPECT_EQ(ledger(), "1: 1; 22.11.2026");
+}
+
+// The date of a row that was only looked at stays behind.
+TEST_F(Laboratory, ANewValueIsOfToday) {
+  save(*screen, "03.02.2020", "AKŞ", "126");
+  EXPECT_TRUE(screen->mnuyeni.enabled()) << "the date that a save keeps is cleared by New";
+  screen->msgrid1.choose({1, 0});
+  screen->mnuyeni.press();
+  EXPECT_EQ(screen->txttarih.text(), "22.11.2026");
+  EXPECT_FALSE(screen->mnukaydet.enabled() || screen->mnuyeni.enabled());
+  screen->msgrid1.choose({1, 0});
+  desk.host.expect("03.02.2020", host::Answer::Yes);
+  screen->mnusil.press();
+  EXPECT_EQ(screen->txttarih.text(), "22.11.2026");
+}
+
+TEST_F(Laboratory, AfterASaveTheNextTestIsTyped) {
+  screen->focusMoved(&screen->txtsonuç);
+  save(*screen, "03.02.2026", "AKŞ", "126");
+  EXPECT_EQ(screen->activeControl(), &screen->comtest);
+  screen->focusMoved(&screen->msgrid1);
+  screen->comtest.setText("CRP");
+  desk.host.expect("Kayıt yapılsın mı?", host::Answer::Yes);
+  screen->msgrid1.choose({1, 0});
+  EXPECT_EQ(screen->activeControl(), &screen->msgrid1);
 }
 
 TEST_F(Laboratory, ANumberWithoutARowRepeatsTheOneBefore) {

@@ -52,13 +52,63 @@ TEST_F(Requests, OnlyAnAcceptedTextIsHandedOver) {
   EXPECT_EQ(desk.station.AktarilanMetin, "AKŞ");
 }
 
-TEST_F(Requests, ATestThatTheCatalogueLacksIsRequestedAndNotKept) {
+TEST_F(Requests, ATestThatTheCatalogueLacksIsAskedAboutAndNotKept) {
   screen.txttest.setText("Ferritin");
+  desk.host.expect("“Ferritin”", host::Answer::No);
+  screen.buttasi.press();
+  EXPECT_EQ(screen.txtistem.text() + screen.txttest.text(), "Ferritin");
+  desk.host.expect("“Ferritin”", host::Answer::Yes);
   screen.buttasi.press();
   EXPECT_EQ(screen.txtistem.text(), "Ferritin");
+  screen.txttest.setText("crp");
+  screen.buttasi.press();
+  EXPECT_EQ(screen.txtistem.text(), "Ferritin, CRP");
   screen.buttamam.press();
   screen.Testlistele();
   EXPECT_EQ(screen.Lsttest.count(), 2U);
+}
+
+TEST_F(Requests, ANameIsCompletedWhileItIsTyped) {
+  screen.focusMoved(&screen.txttest);
+  screen.txttest.setText("cr");
+  screen.txttest.KeyUp({.code = 'R'});
+  EXPECT_EQ(screen.txttest.text(), "crP");
+  EXPECT_EQ(screen.txttest.selStart(), 2U);
+  EXPECT_EQ(screen.txttest.selLength(), 1U);
+  screen.txttest.setText("cr");
+  screen.txttest.KeyUp({.code = forms::key_code::Delete});
+  EXPECT_EQ(screen.txttest.text(), "cr");
+}
+
+TEST_F(Requests, TickedTestsAreAddedTogether) {
+  desk.addTest("TSH", "", "", "");
+  screen.Testlistele();
+  screen.Lsttest.setSelected(0, true);
+  screen.Lsttest.setSelected(2, true);
+  screen.txtistem.setText("TSH");
+  EXPECT_TRUE(screen.buttasi.enabled());
+  desk.host.expect("TSH önceden istendi.", host::Answer::No);
+  screen.txttest.setText("crp");  // typed beside the ticks
+  screen.buttasi.press();
+  EXPECT_EQ(screen.txtistem.text(), "TSH, AKŞ, CRP");
+  EXPECT_FALSE(screen.buttasi.enabled());
+  for (const forms::ListItem& item : screen.Lsttest.items()) EXPECT_FALSE(item.selected);
+  // A row that was only looked at is not requested beside those that are ticked.
+  screen.Lsttest.setListIndex(1);
+  screen.Lsttest.setSelected(0, true);
+  screen.txtistem.setText("");
+  screen.buttasi.press();
+  EXPECT_EQ(screen.txtistem.text(), "AKŞ");
+}
+
+TEST_F(Requests, ANewTestsDataAreNotLostByRequestingIt) {
+  screen.txttest.setText("Ferritin");
+  screen.txtmin.setText("30");
+  desk.host.expect("“Ferritin”", host::Answer::Yes);
+  desk.host.expect("Kayıt yapılsın mı?", host::Answer::Yes);
+  screen.buttasi.press();
+  EXPECT_EQ(screen.txtistem.text(), "Ferritin");
+  EXPECT_EQ(screen.Lsttest.count(), 3U);
 }
 
 struct Catalogue : Requests {
@@ -99,6 +149,12 @@ TEST_F(Catalogue, TheListFollowsTypingAndLeavingTheNameShowsItsTest) {
   edit.txtmax.setText("6");
   edit.txttest.LostFocus();  // the same test: what was typed stays
   EXPECT_EQ(edit.txtmax.text(), "6");
+  // Another one brings its own range, and takes none along.
+  edit.txttest.setText("akş");
+  desk.host.expect("Değişiklikler", host::Answer::No);
+  edit.txttest.LostFocus();
+  EXPECT_EQ(edit.txttest.text() + " " + edit.txtmin.text() + " " + edit.txtmax.text(),
+            "AKŞ 70 105");
 }
 
 }  // namespace
