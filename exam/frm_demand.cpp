@@ -2,6 +2,7 @@
 
 #include "exam/frm_drug.h"
 #include "platform/text/utf8.h"
+#include "shell/phrases.h"
 #include "shell/record_date.h"
 #include "shell/text_lookup.h"
 
@@ -49,6 +50,13 @@ void FrmDemand::istemetestekle() {
   const std::string before = txtistem.text().empty() ? "" : txtistem.text() + ", ";
   txtistem.setText(before + test);
   alanlaribosalt();
+}
+
+// A composed request goes with the window.
+bool FrmDemand::mayEscape() {
+  const bool composed = !txtistem.text().empty();
+  return (!composed || istasyon.confirmLoss(phrase(istasyon, shell::Phrase::LoseTyped))) &&
+         TestCatalogueScreen::mayEscape();
 }
 
 void FrmDemand::Yazılar(documents::ReportText& yazı) {

@@ -50,6 +50,7 @@ class FrmDrug : public shell::NamedRecordScreen, public documents::PrintedRecord
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.clinical.drug; }
 
+  [[nodiscard]] bool mayEscape() override;
   void Load() override;
   void Kaydet() override;
   void alanlaribosalt() override;

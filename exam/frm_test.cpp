@@ -123,6 +123,10 @@ bool FrmTest::kaydedilebilir() {
   return !lblisim.caption().empty() && !text::trimmed(comtest.text()).empty();
 }
 
+std::vector<std::string> FrmTest::missing() {
+  return {wordsOf(comtest)};
+}
+
 void FrmTest::tuskontrol() {
   RecordScreen::tuskontrol();
   gridkontrol();

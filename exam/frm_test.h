@@ -86,6 +86,7 @@ class FrmTest : public shell::RecordScreen, public documents::PrintedRecord {
 
  protected:
   [[nodiscard]] bool kaydedilebilir() override;
+  [[nodiscard]] std::vector<std::string> missing() override;
   [[nodiscard]] bool temizlenebilir() override { return !RecordScreen::YeniAlanlar().empty(); }
   [[nodiscard]] std::string YeniAlanlar() override;
   void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
