@@ -11,6 +11,7 @@
 #include "desktop/caption_marks.h"
 #include "desktop/text.h"
 #include "platform/forms/button.h"
+#include "platform/forms/menu.h"
 
 namespace desktop {
 
@@ -30,6 +31,18 @@ forms::CommandButton* defaultButton(const forms::Form& form) {
   for (forms::Control* control : form.controls()) {
     auto* const button = dynamic_cast<forms::CommandButton*>(control);
     if (button != nullptr && button->isDefault() && button->usable()) return button;
+  }
+  return nullptr;
+}
+
+// The toolkit does not listen for the keys of a disabled entry.
+forms::MenuItem* disabledEntry(const forms::Form& form, const QKeyEvent& event) {
+  const QKeySequence pressed(event.keyCombination());
+  for (forms::Control* control : form.controls()) {
+    auto* const entry = dynamic_cast<forms::MenuItem*>(control);
+    if (entry == nullptr || entry->shortcut().empty() || entry->enabled() || !entry->visible())
+      continue;
+    if (QKeySequence(qs(entry->shortcut()), QKeySequence::PortableText) == pressed) return entry;
   }
   return nullptr;
 }
@@ -148,6 +161,7 @@ bool FormFrame::eventFilter(QObject* watched, QEvent* event) {
 bool FormFrame::keyPressed(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Alt) markCaptions(window_);
   if (event.key() == Qt::Key_Escape) return escape();
+  if (forms::MenuItem* const entry = disabledEntry(form_, event)) return entry->Refused(), true;
   const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
   QWidget* const focus = window_.focusWidget();
   if (!enter) return false;
@@ -161,6 +175,7 @@ bool FormFrame::keyPressed(const QKeyEvent& event) {
 
 bool FormFrame::escape() {
   if (escape_ == EscapeKey::Stays) return false;
+  if (!form_.mayEscape()) return true;
   if (forms::CommandButton* const cancel = cancelButton(form_)) {
     cancel->press();
   } else {

@@ -86,6 +86,17 @@ void leaveByCancel(QMessageBox& box) {
   cancel->hide();
 }
 
+// The window in front of which something was asked gets the keyboard back.
+class KeyboardLoan {
+ public:
+  ~KeyboardLoan() {
+    if (lender_ != nullptr && lender_->isVisible()) lender_->activateWindow();
+  }
+
+ private:
+  QPointer<QWidget> lender_ = QApplication::activeWindow();
+};
+
 }  // namespace
 
 QtHost::QtHost(ViewRegistry views) : views_(std::move(views)) {}
@@ -124,6 +135,7 @@ void QtHost::addButtons(QMessageBox& box, const host::Message& message) const {
 }
 
 host::Answer QtHost::messageBox(const host::Message& message) {
+  const KeyboardLoan loan;
   QMessageBox box(QApplication::activeWindow());
   box.setIcon(iconOf(message.icon));
   box.setWindowTitle(qs(message.title));
@@ -135,6 +147,7 @@ host::Answer QtHost::messageBox(const host::Message& message) {
 
 std::string QtHost::inputBox(std::string_view prompt, std::string_view title,
                              std::string_view value) {
+  const KeyboardLoan loan;
   QInputDialog dialog(QApplication::activeWindow());
   dialog.setWindowTitle(qs(title));
   dialog.setLabelText(withLineBreaks(prompt));
@@ -207,13 +220,11 @@ void QtHost::show(forms::Form& form) {
   open(form, Qt::NonModal);
 }
 
-// The window from which the form was opened gets the keyboard back.
 void QtHost::showModal(forms::Form& form) {
-  const QPointer<QWidget> opener = QApplication::activeWindow();
+  const KeyboardLoan loan;
   QEventLoop loop;
   QObject::connect(&open(form, Qt::ApplicationModal), &FormFrame::closed, &loop, &QEventLoop::quit);
   loop.exec();
-  if (opener != nullptr && opener->isVisible()) opener->activateWindow();
 }
 
 void QtHost::close(forms::Form& form) {

@@ -199,6 +199,10 @@ bool CatalogueScreen::QueryUnload() {
   return NamedRecordScreen::QueryUnload();
 }
 
+bool CatalogueScreen::mayEscape() {
+  return (!mnukaydet.enabled() || settleName()) && NamedRecordScreen::mayEscape();
+}
+
 // A record that was typed with more than its name is stored at closing without a question.
 bool CatalogueScreen::settleName() {
   const std::string old = txteski.text();

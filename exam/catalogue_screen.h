@@ -26,6 +26,7 @@ class CatalogueScreen : public shell::NamedRecordScreen {
   void Yeni() override;
   // A name that stands alone, or over the fields of another record, is asked about first.
   [[nodiscard]] bool QueryUnload() override;
+  [[nodiscard]] bool mayEscape() override;
 
  protected:
   [[nodiscard]] virtual forms::ListBox& list() = 0;

@@ -4,6 +4,7 @@
 
 #include "exam/frm_drug.h"
 #include "platform/text/utf8.h"
+#include "shell/phrases.h"
 #include "shell/record_date.h"
 #include "shell/text_lookup.h"
 
@@ -79,6 +80,13 @@ void FrmDemand::addToRequest(const std::string& test) {
   const bool there = txtistem.text().find(test) != std::string::npos;
   if (there && !istasyon.evetMi(test + metinbul(istasyon, "msgtestoncedenyazildi"))) return;
   txtistem.setText(txtistem.text().empty() ? test : txtistem.text() + ", " + test);
+}
+
+// A composed request goes with the window.
+bool FrmDemand::mayEscape() {
+  const bool composed = !txtistem.text().empty();
+  return (!composed || istasyon.confirmLoss(phrase(istasyon, shell::Phrase::LoseTyped))) &&
+         TestCatalogueScreen::mayEscape();
 }
 
 void FrmDemand::Yazılar(documents::ReportText& yazı) {

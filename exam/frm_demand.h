@@ -36,6 +36,7 @@ class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
     return text::shortDate(istasyon.clock.today());
   }
 
+  [[nodiscard]] bool mayEscape() override;
   void Load() override;
   void Unload() override;
   void tuskontrol() override;

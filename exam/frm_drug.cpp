@@ -133,6 +133,13 @@ void FrmDrug::receteDegisti() {
   etkinlestir(mnusihirbaz, "sihirbaz", composed);
 }
 
+// A composed prescription goes with the window.
+bool FrmDrug::mayEscape() {
+  const bool composed = !txtrecete.text().empty();
+  return (!composed || istasyon.confirmLoss(phrase(istasyon, shell::Phrase::LoseTyped))) &&
+         CatalogueScreen::mayEscape();
+}
+
 void FrmDrug::Yazılar(documents::ReportText& yazı) {
   yazı.secyazitipi();
   yazı.yaz(lblRp.caption() + "\n\n");

@@ -48,6 +48,7 @@ class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.clinical.drug; }
 
+  [[nodiscard]] bool mayEscape() override;
   void Load() override;
   void Unload() override;
   void alanlaribosalt() override;

@@ -154,6 +154,8 @@ class FrmExam : public shell::DatedRecordScreen, public documents::PrintedRecord
 
  protected:
   [[nodiscard]] bool kaydedilebilir() override;
+  [[nodiscard]] std::vector<std::string> missing() override;
+  [[nodiscard]] bool hasTypedText() override;
   [[nodiscard]] bool temizlenebilir() override;
   void kayitYuklendi() override;
   void listelereEkle() override;

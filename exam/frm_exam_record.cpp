@@ -6,6 +6,7 @@
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "shell/doctors.h"
+#include "shell/phrases.h"
 
 namespace exam {
 
@@ -54,6 +55,16 @@ bool FrmExam::dolu(const shell::FieldRow& row) {
   return !text::trimmed(kontrol(row).text()).empty();
 }
 
+std::vector<std::string> FrmExam::missing() {
+  return {phrase(istasyon, shell::Phrase::BesideVitalSigns)};
+}
+
+// What was carried over from another record was not typed.
+bool FrmExam::hasTypedText() {
+  const bool untouched = eskiAnahtar().empty() && RecordScreen::YeniAlanlar() == bosHali_;
+  return !untouched && DatedRecordScreen::hasTypedText();
+}
+
 bool FrmExam::temizlenebilir() {
   return DatedRecordScreen::temizlenebilir() ||
          std::ranges::any_of(riskFields(),
@@ -67,8 +78,8 @@ void FrmExam::listelereEkle() {
 // A changed record is stored without a question before another one is shown. One that was never
 // stored would be lost, or come into being unnoticed: that is asked.
 bool FrmExam::secimdenOnce() {
-  if (eskiAnahtar().empty()) return kayitkontrol();
-  if (mnukaydet.enabled()) mnukaydet.Click();
+  if (eskiAnahtar().empty() || !mnukaydet.enabled()) return kayitkontrol();
+  mnukaydet.Click();
   return !mnukaydet.enabled();
 }
 

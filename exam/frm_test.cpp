@@ -81,7 +81,7 @@ void FrmTest::Load() {
 
 bool FrmTest::QueryUnload() {
   const bool chosenOnly = txtcount.text().empty() && text::trimmed(txtsonuç.text()).empty();
-  if (chosenOnly && !kayitkontrol()) return false;
+  if (chosenOnly && !mayGoUnsaved() && !kayitkontrol()) return false;
   if (chosenOnly) alanlaribosalt();
   return RecordScreen::QueryUnload();
 }
@@ -147,6 +147,10 @@ bool FrmTest::kaydedilebilir() {
 bool FrmTest::temizlenebilir() {
   return !RecordScreen::YeniAlanlar().empty() ||
          txttarih.text() != text::shortDate(istasyon.clock.today());
+}
+
+std::vector<std::string> FrmTest::missing() {
+  return {wordsOf(comtest)};
 }
 
 void FrmTest::tuskontrol() {

@@ -90,6 +90,7 @@ class FrmTest : public shell::RecordScreen, public documents::PrintedRecord {
  protected:
   [[nodiscard]] bool kaydedilebilir() override;
   [[nodiscard]] bool temizlenebilir() override;
+  [[nodiscard]] std::vector<std::string> missing() override;
   [[nodiscard]] std::string YeniAlanlar() override;
   void durumYaz(std::string text) override { sbDurum.setPanel(1, std::move(text)); }
   bool tusBas(std::string_view key) override;

@@ -70,6 +70,7 @@ void FrmMain::Load() {
   netacilis();
   alanlaribosalt();
   Eskialanmain();
+  tuskontrol();
   baski.Setkayitlarioku();
   bugun_ = istasyon.clock.today();
   gunuGoster(bugun_);
@@ -131,18 +132,20 @@ void FrmMain::basliklariYenile() {
 // working one.
 void FrmMain::dilDegisti() {
   const int sex = ComCinsiyet.listIndex();
+  const int savedSex = ComCinsiyet.rowOf(savedText(ComCinsiyet));
   shell::bransmenusu(istasyon, *this);
   for (const forms::OptionButton* option : branslar) {
     if (option->value()) shell::bransSec(istasyon, *this, option->name());
   }
   basliklariYenile();
   sigaraGirisi();
-  const bool changed = mnukaydet.enabled();
   Listeleriyaz();
+  if (savedSex >= 0)
+    setSavedText(ComCinsiyet, ComCinsiyet.items()[static_cast<std::size_t>(savedSex)]);
   ComCinsiyet.setListIndex(sex);
   yasGoster();
   ButtonsForPatient();
-  if (!changed) Eskialanmain();
+  tuskontrol();
 }
 
 void FrmMain::hakkindaYaz() {

@@ -247,6 +247,10 @@ class FrmMain : public shell::RecordScreen,
 
  protected:
   [[nodiscard]] bool kaydedilebilir() override;
+  [[nodiscard]] std::vector<std::string> missing() override;
+  [[nodiscard]] bool hasTypedText() override;
+  // An age that is being typed counts.
+  void saveIsOff() override;
 
  private:
   enum class Direction { Back, Forward };
@@ -269,6 +273,12 @@ class FrmMain : public shell::RecordScreen,
   NameCheck isimBitti();
   NameCheck adasSor();
   [[nodiscard]] bool baskaHasta(const std::string& name);
+  // The name of another patient that is the same but for case, as the name list tells it; none
+  // where the store finds the name itself.
+  [[nodiscard]] std::optional<std::string> otherSpelling(const std::string& name);
+  // The namesake comes onto the card instead of what stands there.
+  void loadNamesake(const std::string& name);
+  void backToName();
   // A choice in the list replaces what is on the card; what was typed beside the name is not lost
   // without a question.
   [[nodiscard]] bool secimdenOnce();
@@ -317,6 +327,7 @@ class FrmMain : public shell::RecordScreen,
 
   [[nodiscard]] dao::Status kartiYaz();
   [[nodiscard]] dao::Status satiriYaz(const std::string& key);
+  void keepStoredMark();
   [[nodiscard]] dao::Status hastayiSil(const std::string& name);
   void listelereEkle();
 
@@ -357,7 +368,8 @@ class FrmMain : public shell::RecordScreen,
   text::DateTime bugun_;             // today, when it was last looked at
   unsigned vurus_ = 0;               // ticks since the program came up
   Extent panofoto_;
-  int cinsiyet_ = 2;  // the row of the sex that was chosen last
+  int cinsiyet_ = 2;             // the row of the sex that was chosen last
+  bool birthUnchecked_ = false;  // while the program leaves the birth field
 };
 
 }  // namespace registry

@@ -28,7 +28,7 @@ void FrmMain::yasSor() {
 }
 
 void FrmMain::dogumBitti() {
-  if (!hatalitarih()) return;
+  if (birthUnchecked_ || !hatalitarih()) return;
   yasGoster();
   const bool known =
       shell::yasmetni(istasyon, text::trim(TxtDTarihi.text()), istasyon.clock.today()).has_value();
@@ -38,9 +38,9 @@ void FrmMain::dogumBitti() {
 bool FrmMain::hatalitarih() {
   const std::string birth = text::trim(TxtDTarihi.text());
   const text::DateTime today = istasyon.clock.today();
-  const auto date = text::parseDate(birth, today);
+  const auto date = shell::yilMi(birth) ? std::nullopt : text::parseDate(birth, today);
   const bool tooLate =
-      shell::kisaDogum(birth) ? text::Val(birth) > today.year() : date && *date > today;
+      date ? date->day > today.day : shell::kisaDogum(birth) && text::Val(birth) > today.year();
   if (!tooLate) return true;
   istasyon.bilgi(metinbul(istasyon, "msghatalitarih"));
   TxtDTarihi.setFocus();

@@ -9,6 +9,7 @@
 #include "shell/fault_words.h"
 #include "shell/list_completion.h"
 #include "shell/patient_lock.h"
+#include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
@@ -30,7 +31,10 @@ constexpr forms::Colour maleColour = forms::fromBgr(0xFFC0C0);
 }  // namespace
 
 void FrmMain::kartiBagla() {
-  Txtİsim.LostFocus.connect([this] { isimBitti(); });
+  Txtİsim.LostFocus.connect([this] {
+    isimBitti();
+    tuskontrol();
+  });
   Txtİsim.KeyUp.connect([this](forms::Key) { isimYazildi(); });
   Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
   TxtEskiİsim.Change.connect([this] { baskiTuslari(); });
@@ -118,12 +122,22 @@ dao::Status FrmMain::satiriYaz(const std::string& key) {
   if (!sought) return sought;
   // A namesake that another station has just stored is asked about by the next save.
   if (TxtEskiİsim.text().empty() && !tablo().NoMatch()) return isimAlinmis(key);
-  const dao::Status begun = tablo().NoMatch() ? tablo().AddNew() : tablo().Edit();
+  const bool stored = !tablo().NoMatch();
+  const dao::Status begun = stored ? tablo().Edit() : tablo().AddNew();
   if (!begun) return begun;
+  if (stored) keepStoredMark();
   const dao::Status moved = Forumalanlaritasi();
   const dao::Status updated = moved ? tablo().Update() : moved;
   if (!updated) tablo().CancelUpdate();
   return updated;
+}
+
+// Another station may have hidden the patient meanwhile, or shown.
+void FrmMain::keepStoredMark() {
+  if (fieldChanged(txtkey)) return;
+  const std::string mark = text::trim(tablo().Fields("Key").text());
+  setSavedText(txtkey, mark);
+  txtkey.setText(mark);
 }
 
 // A value that its list refuses, such as one wider than the list's column, stays on the card alone.
@@ -136,8 +150,9 @@ void FrmMain::listelereEkle() {
 
 // A failed write leaves the card as it is, still to be saved: what was typed is not lost.
 void FrmMain::kayityap() {
+  if (!hatalitarih()) return;
   Txtİsim.setText(text::trim(Txtİsim.text()));
-  isimDegistiSor(Txtİsim, TxtEskiİsim.text());
+  if (!isimDegistiSor(Txtİsim, TxtEskiİsim.text())) return;
   const dao::Status written = tutarakYaz();
   if (!written) return kaydedilemedi(written);
   TxtEskiİsim.setText(Txtİsim.text());
@@ -164,13 +179,16 @@ dao::Status FrmMain::Forumalanlaritasi() {
   return dateSet ? yearSet : dateSet;
 }
 
+// The birth field that was left for an empty card asks for no age.
 void FrmMain::Yeni() {
+  birthUnchecked_ = true;
   alanlaribosalt();
   Eskialanmain();
   yonEtkin(Direction::Back, true);
   yonEtkin(Direction::Forward, true);
   TabStrip1.select("TSKişisel");
   Txtİsim.setFocus();
+  birthUnchecked_ = false;
 }
 
 void FrmMain::alanlaribosalt() {
@@ -214,6 +232,26 @@ bool FrmMain::kaydedilebilir() {
          shell::gecerliDogum(text::trimmed(TxtDTarihi.text()), istasyon.clock.today());
 }
 
+std::vector<std::string> FrmMain::missing() {
+  if (gizliYuklu_) return {phrase(istasyon, shell::Phrase::NameLockOpen)};
+  std::vector<std::string> wanting;
+  if (text::trimmed(Txtİsim.text()).empty()) wanting.push_back(wordsOf(Txtİsim));
+  if (!shell::gecerliDogum(text::trimmed(TxtDTarihi.text()), istasyon.clock.today()))
+    wanting.push_back(wordsOf(TxtDTarihi));
+  return wanting;
+}
+
+// A name is typed to find somebody until its field is left.
+bool FrmMain::hasTypedText() {
+  return anyFieldChanged(activeControl() == &Txtİsim ? &Txtİsim : nullptr);
+}
+
+void FrmMain::saveIsOff() {
+  if (activeControl() == &Txtyaş) yasBitti();
+  if (mnukaydet.enabled()) return mnukaydet.Click();
+  if (hatalitarih()) RecordScreen::saveIsOff();
+}
+
 void FrmMain::Cinsiyetrengi() {
   const int sex = ComCinsiyet.listIndex();
   Panofoto.setBackColour(sex == female ? forms::OptionalColour(femaleColour)
@@ -227,8 +265,10 @@ void FrmMain::Cinsiyetrengi() {
 // was.
 void FrmMain::cinsiyetYazildi() {
   const int row = shell::rowOfFirstLetter(ComCinsiyet);
-  if (row >= 0) return ComCinsiyet.setListIndex(row);
-  ComCinsiyet.listIndex() < 0 ? ComCinsiyet.setListIndex(cinsiyet_) : Cinsiyetrengi();
+  if (row >= 0) ComCinsiyet.setListIndex(row);
+  if (ComCinsiyet.listIndex() < 0) ComCinsiyet.setListIndex(cinsiyet_);
+  // A row that was typed in full is the chosen one already, and no Click tells of it.
+  Cinsiyetrengi();
 }
 
 void FrmMain::sekmeSecildi() {

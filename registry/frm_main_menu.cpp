@@ -192,6 +192,8 @@ void FrmMain::adim(Direction direction) {
     if (isimBitti() != NameCheck::Kept) return;  // a namesake was loaded instead
     kayityap();
     if (mnukaydet.enabled()) return;  // refused: what was typed stays
+  } else if (!kayitkontrol()) {
+    return;
   }
   const bool back = direction == Direction::Back;
   dao::Recordset& cards = tablo();

@@ -1,6 +1,7 @@
 // The name field: search as you type, the list under it, and the rule that tells namesakes apart.
 #include <algorithm>
 
+#include "platform/dao/prefix_search.h"
 #include "platform/text/utf8.h"
 #include "registry/frm_main.h"
 #include "shell/fault_words.h"
@@ -32,13 +33,16 @@ bool FrmMain::gizliMi(std::string_view key) const {
 }
 
 void FrmMain::isimleriAc(bool unlocked) {
+  // Whoever is hidden leaves the screen with the lock.
+  const bool leaves = !unlocked && text::trimmed(txtkey.text()) == hiddenMark;
+  const bool mayLeave = !leaves || secimdenOnce();
+  if (!mayLeave && unanswered()) return;
   tbToolBar.setButtonVisible("keyclose", !unlocked);
   tbToolBar.setButtonVisible("keyopen", unlocked);
   tbToolBar.setButtonVisible("idpass", unlocked && istasyon.screens.has("Frmkey"));
   listeyiKapat();
   gunlukListele();
-  // Whoever is hidden leaves the screen with the lock.
-  if (gizliMi(txtkey.text()) && secimdenOnce()) Yeni();
+  if (leaves && mayLeave) Yeni();
   baskiTuslari();
 }
 
@@ -62,15 +66,17 @@ void FrmMain::gizlileriSec() {
   gunlukListele();
   dao::Recordset& cards = tablo();
   if (TxtEskiİsim.text().empty() || !cards.Seek("=", TxtEskiİsim.text()) || cards.NoMatch()) return;
-  const bool changed = mnukaydet.enabled();
-  txtkey.setText(text::trimmed(cards.Fields("Key").text()));
-  if (!changed) Eskialanmain();
+  const std::string mark = text::trim(cards.Fields("Key").text());
+  setSavedText(txtkey, mark);
+  txtkey.setText(mark);
 }
 
 // A key that left the text as it was, such as Ctrl coming up after Ctrl+S, asks for no list.
 void FrmMain::isimYazildi() {
   if (Txtİsim.text().empty()) return listeyiKapat();
-  if (Txtİsim.text() != aranan_ && Txtİsim.text() != TxtEskiİsim.text()) idk.setCaption("0");
+  const bool listOpen = !aranan_.empty();
+  if (Txtİsim.text() != aranan_ && (listOpen || Txtİsim.text() != TxtEskiİsim.text()))
+    idk.setCaption("0");
 }
 
 void FrmMain::datlistele() {
@@ -134,7 +140,7 @@ bool FrmMain::hastayiGoster(const std::string& name) {
 }
 
 bool FrmMain::secimdenOnce() {
-  if (!mnukaydet.enabled() || TxtEskiİsim.text().empty()) return kayitkontrol();
+  if (TxtEskiİsim.text().empty()) return kayitkontrol();
   // What stands in the name field was typed to find somebody; the other fields belong to the old
   // name.
   Txtİsim.setText(TxtEskiİsim.text());
@@ -148,7 +154,10 @@ FrmMain::NameCheck FrmMain::isimBitti() {
   listeyiKapat();
   Txtİsim.setText(text::trim(Txtİsim.text()));
   if (Txtİsim.text().empty() || Txtİsim.text() == TxtEskiİsim.text()) return NameCheck::Kept;
-  if (listed && text::length(Txtİsim.text()) == text::length(only)) Txtİsim.setText(only);
+  if (listed && text::length(Txtİsim.text()) == text::length(only))
+    Txtİsim.setText(only);
+  else if (const auto stored = otherSpelling(Txtİsim.text()))
+    Txtİsim.setText(*stored);
   if (adasSor() == NameCheck::NotKept) return NameCheck::NotKept;
   const bool sexChosen = ComCinsiyet.listIndex() == 0 || ComCinsiyet.listIndex() == 1;
   if (istasyon.BransKodu == shell::brans::koduKadinDogum && !sexChosen) ComCinsiyet.setListIndex(0);
@@ -156,17 +165,45 @@ FrmMain::NameCheck FrmMain::isimBitti() {
 }
 
 // While the name belongs to another patient: that one is loaded, or the name gets one more mark.
+// Without an answer the name is still being typed.
 FrmMain::NameCheck FrmMain::adasSor() {
   while (baskaHasta(Txtİsim.text())) {
     const std::string name = Txtİsim.text();
-    if (!istasyon.evetMi(name + metinbul(istasyon, "msgisimtekrari"))) {
-      if (!TxtEskiİsim.text().empty() && !secimdenOnce()) return NameCheck::NotKept;
-      hastayiGoster(name);
-      return NameCheck::NotKept;
-    }
+    const host::Answer answer = istasyon.askAboutText(name + metinbul(istasyon, "msgisimtekrari"));
+    if (answer == host::Answer::No) loadNamesake(name);
+    if (answer == host::Answer::Cancel) backToName();
+    if (answer != host::Answer::Yes) return NameCheck::NotKept;
     Txtİsim.setText(withMark(name));
   }
   return NameCheck::Kept;
+}
+
+void FrmMain::backToName() {
+  birthUnchecked_ = true;
+  Txtİsim.setFocus();
+  birthUnchecked_ = false;
+}
+
+// On a new card the name alone was typed to find somebody.
+void FrmMain::loadNamesake(const std::string& name) {
+  const bool onNewCard = TxtEskiİsim.text().empty();
+  const bool goOn = onNewCard ? !anyFieldChanged(&Txtİsim) || askToLoseTyped() : secimdenOnce();
+  if (goOn) hastayiGoster(name);
+}
+
+std::optional<std::string> FrmMain::otherSpelling(const std::string& name) {
+  dao::Recordset& cards = tablo();
+  if (!cards.Seek("=", name) || !cards.NoMatch()) return std::nullopt;
+  const dao::Fold fold = istasyon.turkce() ? dao::Fold::Turkish : dao::Fold::General;
+  auto reader =
+      dao::PrefixReader::open(istasyon.stores.personal.database, "IDCard", "Name", fold, name);
+  if (!reader) return std::nullopt;
+  for (auto done = reader->step(); done && !*done;) done = reader->step();
+  for (const dao::PrefixRow& row : reader->rows()) {
+    const bool own = row.name == TxtEskiİsim.text();
+    if (!own && text::length(row.name) == text::length(name)) return std::string(row.name);
+  }
+  return std::nullopt;
 }
 
 // The patient on the card is no namesake of itself, whatever the case of the letters.

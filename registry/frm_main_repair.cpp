@@ -157,7 +157,7 @@ void FrmMain::Command1() {
 // the window draws. Whoever has the patient open loses nothing by it: what is written was read in
 // the same transaction. Refused where the save would lose something: a name that stands under
 // another key when its blanks are cut off, a birth field that is neither date nor year, a date
-// beside a year, a sex beyond the list.
+// beside a year.
 dao::Status FrmMain::kartiYenile(const std::string& name) {
   const dao::Status found = tablo().Seek("=", name);
   if (!found) return found;
@@ -177,7 +177,7 @@ dao::Status FrmMain::kartiYenile(const std::string& name) {
 bool FrmMain::dogumSaklanir() {
   const bool both =
       !tablo().Fields("Date of Birth").isNull() && !tablo().Fields("Year of Birth").text().empty();
-  if (both || ComCinsiyet.listIndex() < 0) return false;
+  if (both) return false;
   const std::string birth = text::trim(TxtDTarihi.text());
   return birth.empty() || shell::yilMi(birth) || text::parseDate(birth, istasyon.clock.today());
 }

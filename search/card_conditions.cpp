@@ -58,8 +58,11 @@ void Condition::readFrom(const Columns& columns, ColumnList& list) {
 }
 
 bool Condition::holds(dao::Recordset& card, std::string& room) const {
-  return std::ranges::any_of(places_,
-                             [&](int place) { return holdsFor(card.Fields(place).view(), room); });
+  const auto holdsAt = [&](int place) { return holdsFor(card.Fields(place).view(), room); };
+  if (test_ != Test::Year) return std::ranges::any_of(places_, holdsAt);
+  const auto filled =
+      std::ranges::find_if(places_, [&](int place) { return !card.Fields(place).view().empty(); });
+  return filled != places_.end() && holdsAt(*filled);
 }
 
 bool Condition::holdsFor(std::string_view content, std::string& room) const {

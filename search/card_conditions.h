@@ -24,7 +24,8 @@ enum class Test {
   Year  // of the date of birth, or the year of birth of a card with the year only
 };
 
-// Up to four columns of the card; the test holds when it holds for one of them.
+// Up to four columns of the card; the test holds when it holds for one of them, a year's for the
+// first that is filled.
 using Columns = std::array<std::string_view, 4>;
 
 // The columns that a scan reads, each once.

@@ -27,7 +27,7 @@ DatedRecordScreen::DatedRecordScreen(Station& station, std::string_view name,
   txtnumara.Change.connect([this] { numaraDegisti(); });
   txttarih.GotFocus.connect([this] { tarihOdakta(istasyon, txttarih); });
   txttarih.LostFocus.connect([this] {
-    if (hatalitarih()) tarihBitti();
+    if (!dateUnchecked_ && hatalitarih()) tarihBitti();
   });
   txttarih.Change.connect([this] {
     Lblyaş.setCaption(tarihteYas(istasyon, txttarih));
@@ -77,8 +77,10 @@ void DatedRecordScreen::alanlaribosalt() {
 
 void DatedRecordScreen::Yeni() {
   if (!kayitkontrol()) return;
+  dateUnchecked_ = true;
   alanlaribosalt();
   ilkAlan().setFocus();
+  dateUnchecked_ = false;
 }
 
 // The patient's latest record gives what does not change from visit to visit.

@@ -103,9 +103,10 @@ class DatedRecordScreen : public RecordScreen {
   void sonrakineTasi();
 
   const stores::RecordKind& kind_;
-  Records kayitlar_;        // in the order of the list
-  std::string yedek_;       // its own: screens of one family may lie over each other
-  std::string gosterilen_;  // the number of the record that is on the screen
+  Records kayitlar_;            // in the order of the list
+  std::string yedek_;           // its own: screens of one family may lie over each other
+  std::string gosterilen_;      // the number of the record that is on the screen
+  bool dateUnchecked_ = false;  // while New leaves the date field
 };
 
 }  // namespace shell

@@ -24,6 +24,10 @@ bool NamedRecordScreen::kaydedilebilir() {
   return !text::trimmed(isimAlani().text()).empty();
 }
 
+std::vector<std::string> NamedRecordScreen::missing() {
+  return {wordsOf(isimAlani())};
+}
+
 // The name as it is stored, blanks and all: it is the key.
 void NamedRecordScreen::kayitYuklendi() {
   const auto isName = [this](const FieldRow& row) { return &row.control(*this) == &isimAlani(); };
@@ -39,8 +43,7 @@ void NamedRecordScreen::alanlaribosalt() {
 
 void NamedRecordScreen::Kaydet() {
   isimAlani().setText(text::trim(isimAlani().text()));
-  isimDegistiSor(isimAlani(), txteski.text());
-  store();
+  if (isimDegistiSor(isimAlani(), txteski.text())) store();
 }
 
 void NamedRecordScreen::store() {

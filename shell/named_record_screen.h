@@ -33,6 +33,7 @@ class NamedRecordScreen : public RecordScreen {
   // The rows of the table have changed.
   virtual void listeDegisti() {}
   [[nodiscard]] bool kaydedilebilir() override;
+  [[nodiscard]] std::vector<std::string> missing() override;
   void kayitYuklendi() override;
 
  private:

@@ -118,6 +118,11 @@ enum class Phrase {
   FieldRefuses,
   OnlyToRead,  // a reason follows
   CloseUnsaved,
+  LoseTyped,  // what is needed may follow
+  SaveNeeds,  // names of fields follow
+  NothingToSave,
+  NameLockOpen,
+  BesideVitalSigns,
   PrintWizard,
   PageItems,     // and their properties
   PrintedItems,  // of a page

@@ -39,6 +39,7 @@ void RecordScreen::menuleriBagla() {
   mnukaydet.setShortcut("Ctrl+S");
   mnuyazdır.setShortcut("Ctrl+P");
   mnukaydet.Click.connect([this] { Kaydet(); });
+  mnukaydet.Refused.connect([this] { saveIsOff(); });
   mnusil.Click.connect([this] { Sil(); });
   mnucik.Click.connect([this] { istasyon.host.close(*this); });
   // Undo, cut, copy and paste belong to the focused field: the window sends them the usual
@@ -101,8 +102,18 @@ void RecordScreen::Load() {
 }
 
 bool RecordScreen::QueryUnload() {
-  if (mnukaydet.enabled()) mnukaydet.Click();
-  return !mnukaydet.enabled() || istasyon.confirmLoss(phrase(istasyon, Phrase::CloseUnsaved));
+  if (letGo_) return true;
+  if (!mnukaydet.enabled()) return mayLoseTyped();
+  unanswered_ = false;
+  mnukaydet.Click();
+  if (!mnukaydet.enabled()) return true;
+  return !unanswered_ && istasyon.confirmLoss(phrase(istasyon, Phrase::CloseUnsaved));
+}
+
+// Closing stores a change without a question; Esc is pressed too easily for that.
+bool RecordScreen::mayEscape() {
+  letGo_ = kayitkontrol();
+  return letGo_;
 }
 
 void RecordScreen::Unload() {
@@ -151,10 +162,40 @@ void RecordScreen::kaydedilemedi(const dao::Status& refused) {
   hataSoyle(istasyon, Phrase::StoreFailed, refused);
 }
 
-void RecordScreen::isimDegistiSor(forms::TextControl& field, const std::string& old) {
-  if (old.empty() || old == field.text()) return;
-  if (!istasyon.evetMi(old + ", " + field.text() + metinbul(istasyon, "msgisimdegisti")))
-    field.setText(old);
+bool RecordScreen::isimDegistiSor(forms::TextControl& field, const std::string& old) {
+  if (old.empty() || old == field.text()) return true;
+  const host::Answer answer =
+      istasyon.askAboutText(old + ", " + field.text() + metinbul(istasyon, "msgisimdegisti"));
+  if (answer == host::Answer::No) field.setText(old);
+  unanswered_ = answer == host::Answer::Cancel;
+  return !unanswered_;
+}
+
+void RecordScreen::saveIsOff() {
+  stateTold_ = true;
+  durumYaz(kaydedilebilir() ? phrase(istasyon, Phrase::NothingToSave) : neededToSave());
+}
+
+std::string RecordScreen::neededToSave() {
+  std::string names;
+  for (const std::string& name : missing()) names += (names.empty() ? "" : ", ") + name;
+  return names.empty() ? names : phrase(istasyon, Phrase::SaveNeeds) + names;
+}
+
+bool RecordScreen::mayLoseTyped() {
+  return kaydedilebilir() || !hasTypedText() || askToLoseTyped();
+}
+
+bool RecordScreen::askToLoseTyped() {
+  const std::string needed = neededToSave();
+  return istasyon.confirmLoss(phrase(istasyon, Phrase::LoseTyped) +
+                              (needed.empty() ? "" : "\n(" + needed + ")"));
+}
+
+std::string RecordScreen::wordsOf(const forms::Control& field) {
+  std::string words = field.caption();
+  std::erase(words, '&');
+  return words;
 }
 
 std::string RecordScreen::sisim(std::string_view name) {

@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/dao/recordset.h"
 #include "platform/forms/form.h"
@@ -42,8 +43,9 @@ class RecordScreen : public forms::Form {
   void Eskialan();
   // Re-evaluates Save, New and what follows New; runs on every change of a field.
   virtual void tuskontrol();
-  // Asks the save question when there is something to save; Yes saves, No lets the changes go.
-  // False when the save was refused, and the screen must stay as it is.
+  // Asks the save question when there is something to save; Yes saves, No lets the changes go. What
+  // was typed and cannot be saved is let go of after another question. False when the save was
+  // refused or nothing was answered, and the screen must stay as it is.
   [[nodiscard]] bool kayitkontrol();
   // Copies the fields into the record buffer; the caller has called AddNew or Edit and calls Update
   // afterwards.
@@ -56,9 +58,12 @@ class RecordScreen : public forms::Form {
   void ResimVar();
 
   void Load() override;
-  // A changed record is stored without a question. When that is refused the user is asked whether
-  // to close all the same; the window stays unless that is wanted.
+  // A changed record is stored without a question. When that is refused, or when what was typed is
+  // no record, the user is asked whether to close all the same; the window stays unless that is
+  // wanted.
   [[nodiscard]] bool QueryUnload() override;
+  // The save question: whoever says No to it has the record closed as it is stored.
+  [[nodiscard]] bool mayEscape() override;
   void Unload() override;
 
   // Without the marks that tell namesakes apart.
@@ -108,11 +113,35 @@ class RecordScreen : public forms::Form {
   virtual bool tusBas(std::string_view key);
 
   // Asks whether the record that was stored under `old` is to get the name that stands in the field
-  // now; on No the old one is put back.
-  void isimDegistiSor(forms::TextControl& field, const std::string& old);
+  // now; on No the old one is put back. False when that is not answered: nothing is saved then.
+  [[nodiscard]] bool isimDegistiSor(forms::TextControl& field, const std::string& old);
+
+  // Whether the field shows something else than it did when the snapshot was taken.
+  [[nodiscard]] bool fieldChanged(const forms::Control& field);
+  [[nodiscard]] bool anyFieldChanged(const forms::Control* except = nullptr);
+  // What the snapshot holds of the field.
+  [[nodiscard]] std::string savedText(const forms::Control& field);
+  // The snapshot holds that text from now on: its words are in another language, or the store has
+  // another value.
+  void setSavedText(const forms::Control& field, std::string text);
 
   // One more condition for Save, besides a difference from the snapshot.
   [[nodiscard]] virtual bool kaydedilebilir() { return true; }
+  // What is wanting for that condition, in the user's words.
+  [[nodiscard]] virtual std::vector<std::string> missing() { return {}; }
+  // Whether somebody typed what the snapshot does not hold.
+  [[nodiscard]] virtual bool hasTypedText() { return anyFieldChanged(); }
+  // True when nothing was typed that cannot be saved, or when it may be lost.
+  [[nodiscard]] bool mayLoseTyped();
+  [[nodiscard]] bool askToLoseTyped();
+  // The last question kept the screen as it is because the user wanted to go no further.
+  [[nodiscard]] bool unanswered() const { return unanswered_; }
+  // The user has said already that what is not saved may go with the window.
+  [[nodiscard]] bool mayGoUnsaved() const { return letGo_; }
+  // The keys for Save were pressed while it is off: says why.
+  virtual void saveIsOff();
+  // The words in front of a field.
+  [[nodiscard]] static std::string wordsOf(const forms::Control& field);
   // Whether anything is on the screen that New could clear.
   [[nodiscard]] virtual bool temizlenebilir();
   // What else of a record is shown, once its fields are; the snapshot is taken afterwards.
@@ -136,6 +165,16 @@ class RecordScreen : public forms::Form {
   void kontroluBagla(forms::Control& control);
   dao::Status alaniTasi(const FieldRow& row);
   [[nodiscard]] std::string saklanan(const FieldRow& row);
+  [[nodiscard]] bool staysAsStored(const FieldRow& row);
+  [[nodiscard]] std::string shownText(const FieldRow& row);
+  [[nodiscard]] std::size_t rowOf(const forms::Control& field);
+  void tellState();
+  [[nodiscard]] std::string neededToSave();
+
+  std::vector<std::string> saved_;  // the fields in the snapshot, in row order
+  bool stateTold_ = false;          // the line tells of changes or of what is missing
+  bool letGo_ = false;              // what is not saved may go with the window
+  bool unanswered_ = false;         // the user left the question of the last step without an answer
 };
 
 }  // namespace shell

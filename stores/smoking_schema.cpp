@@ -10,12 +10,14 @@ namespace {
 constexpr std::array trialHelpers{dao::HelperDef{dao::HelperIndex::Plain, "sm_num"}};
 
 constexpr std::array smokeFields{
-    autoNumber("sm_num"), integer("relapse"), text("name", 40), date("createtime"),
-    date("edittime"),     text("date0", 4),   date("date1"),    text("Cigaret", 4),
-    text("FTT", 2),       text("FTTnum", 20), yesNo("Gravid"),  yesNo("MI"),
-    yesNo("Hipotyroidi"), yesNo("Ulcus"),     yesNo("DM"),      yesNo("Feokroma"),
-    yesNo("Epilepsi"),    yesNo("Anoroksi"),  yesNo("MAO"),     text("Pastillness", 200),
-    text("height", 8),    text("final", 2),   date("finaldate")};
+    autoNumber("sm_num"), integer("relapse"),       filledText("name", 40),
+    date("createtime"),   date("edittime"),         text("date0", 4),
+    date("date1"),        text("Cigaret", 4),       text("FTT", 2),
+    text("FTTnum", 20),   yesNo("Gravid"),          yesNo("MI"),
+    yesNo("Hipotyroidi"), yesNo("Ulcus"),           yesNo("DM"),
+    yesNo("Feokroma"),    yesNo("Epilepsi"),        yesNo("Anoroksi"),
+    yesNo("MAO"),         text("Pastillness", 200), text("height", 8),
+    text("final", 2),     date("finaldate")};
 constexpr std::array smokeIndexes{primaryKey("sm_num"), plainIndex("PrimaryKey1", "name")};
 
 constexpr std::array smokeControlFields{

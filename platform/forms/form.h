@@ -44,6 +44,8 @@ class Form {
   virtual void Activate() {}
   [[nodiscard]] virtual bool QueryUnload() { return true; }
   virtual void Unload() {}
+  // Esc is about to close the form; false keeps it. Closing follows with QueryUnload.
+  [[nodiscard]] virtual bool mayEscape() { return true; }
 
   // In device-independent pixels; 0 until a window or a setting gave a size.
   int width = 0;

@@ -37,6 +37,8 @@ class MenuItem : public Control {
     if (enabled() && visible()) Click();
   }
   Event<> Click;
+  // The keys of the entry's shortcut were pressed while it is disabled.
+  Event<> Refused;
 
  private:
   MenuKind kind_;

@@ -84,14 +84,28 @@ std::optional<sys_days> makeDay(const Typed& year, const Typed& month, const Typ
                  static_cast<unsigned>(dayOfMonth.value));
 }
 
+// "31121975": day, month and year without separators, in this order only.
+std::optional<TypedDate> readDigits(std::string_view text) {
+  if (text.size() != 8 || text.find_first_not_of("0123456789") != text.npos) return std::nullopt;
+  const auto part = [&](std::size_t place, std::size_t digits) {
+    std::string_view piece = text.substr(place, digits);
+    return *takeNumber(piece);
+  };
+  return TypedDate{{part(0, 2), part(2, 2), part(4, 4)}, 3};
+}
+
 std::optional<sys_days> readDay(std::string_view text, int currentYear) {
+  if (const auto digits = readDigits(text))
+    return makeDay(digits->parts[2], digits->parts[1], digits->parts[0]);
   const auto typed = readParts(text);
   if (!typed) return std::nullopt;
   const auto& [a, b, c] = typed->parts;
   const Typed year = typed->count == 3 ? c : Typed{currentYear, 4};
   if (const auto day = makeDay(year, b, a)) return day;
   if (const auto day = makeDay(year, a, b)) return day;
-  return typed->count == 3 ? makeDay(a, b, c) : std::nullopt;
+  // More than two digits say that the year stands in front: "31.04.10" is a slip, not a day of
+  // 1931.
+  return typed->count == 3 && a.digits > 2 ? makeDay(a, b, c) : std::nullopt;
 }
 
 // "h:mm" or "h:mm:ss".

@@ -36,9 +36,9 @@ struct DateTime {
 
 // What people type, day before month; the separators are '.', '/', '-' and blanks. The month may be
 // a number only. If day and month do not fit in that order but do in the other, they are swapped;
-// if neither fits, the year is tried first. Two-digit years 0-29 are 20xx, 30-99 are 19xx; without
-// a year it is the year of `today`. A single number is no date. A time "h:mm" or "h:mm:ss" may
-// follow.
+// if neither fits, the year may stand in front with all its digits. Two-digit years 0-29 are 20xx,
+// 30-99 are 19xx; without a year it is the year of `today`. Eight digits alone are day, month and
+// year; any other single number is no date. A time "h:mm" or "h:mm:ss" may follow.
 [[nodiscard]] std::optional<DateTime> parseDate(std::string_view typed, const DateTime& today);
 
 // "22.11.2026" and "14:05".

@@ -2,6 +2,7 @@
 // the language.
 #include <QComboBox>
 #include <QListView>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <QToolBar>
 
@@ -40,13 +41,65 @@ struct Card : testing::Test {
 };
 
 TEST_F(Card, APatientIsRegisteredFromTheKeyboard) {
-  registerPatient("Ayşe Yıldız", "12.03.1991", "k");
+  registerPatient("Ayşe Yıldız", "12.03.1991", "K");
   EXPECT_TRUE(desk.stored("Ayşe Yıldız"));
   EXPECT_EQ(desk.find<QLabel>("txtyaşı").text(), QStringLiteral("Yaşı :  35"));
   EXPECT_EQ(desk.find<QComboBox>("ComCinsiyet").currentIndex(), 0);
   EXPECT_EQ(desk.find<QWidget>("Panofoto").palette().color(QPalette::Window),
             QColor(0xFF, 0xC0, 0xC0));
   EXPECT_FALSE(desk.card.mnukaydet.enabled());
+}
+
+TEST_F(Card, NewInTheBirthFieldGoesToTheNameAndAsksAboutTheCard) {
+  desk.find<QLineEdit>("Txtİsim").setFocus();
+  typeHere("Ayşe");
+  press(Qt::Key_Return);
+  desk.answers.expectKey(Qt::Key_Escape);
+  press(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QStringLiteral("Ayşe"));
+  desk.answers.expect(QMessageBox::Yes);
+  press(Qt::Key_N, Qt::ControlModifier);
+  typeHere("Veli");
+  EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QStringLiteral("Veli"));
+  EXPECT_TRUE(desk.find<QLineEdit>("Txtyaş").isHidden());
+  EXPECT_TRUE(desk.answers.allAsked());
+}
+
+TEST_F(Card, EscAtTheNamesakeQuestionGoesBackToTheName) {
+  registerPatient("Ali Can", "1980", "e");
+  press(Qt::Key_N, Qt::ControlModifier);
+  typeHere("Ali Can");
+  desk.answers.expectKey(Qt::Key_Escape);
+  press(Qt::Key_Return);
+  EXPECT_TRUE(desk.find<QLineEdit>("Txtİsim").hasFocus());
+  EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QStringLiteral("Ali Can"));
+  EXPECT_EQ(desk.find<QLineEdit>("TxtDTarihi").text(), QString());
+  EXPECT_TRUE(desk.find<QLineEdit>("Txtyaş").isHidden());
+}
+
+TEST_F(Card, TheKeysOfASaveThatIsOffSayWhy) {
+  desk.find<QLineEdit>("TxtAnaAdı").setFocus();
+  typeHere("Fatma");
+  desk.card.sbDurum.setPanel(3, "");
+  press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(desk.card.sbDurum.panels()[2], "kaydetmek için gerekli: İsim, Doğum Tarihi");
+  desk.find<QPlainTextEdit>("txtnot").setFocus();
+  desk.card.sbDurum.setPanel(3, "");
+  press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_NE(desk.card.sbDurum.panels()[2], "");
+}
+
+TEST_F(Card, EscInTheCardAndAtItsQuestionKeepsTheProgramOpen) {
+  registerPatient("Ayşe Yıldız", "1991", "k");
+  desk.find<QComboBox>("ComMeslek").setFocus();
+  typeHere("Öğretmen");
+  press(Qt::Key_Escape);
+  EXPECT_TRUE(desk.window().isVisible());
+  desk.answers.expectKey(Qt::Key_Escape);
+  EXPECT_FALSE(desk.window().close());
+  EXPECT_TRUE(desk.window().isVisible());
+  EXPECT_TRUE(desk.card.mnukaydet.enabled());
+  EXPECT_EQ(desk.card.ComMeslek.text(), "Öğretmen");
 }
 
 TEST_F(Card, ANameIsFoundByItsFirstLetters) {

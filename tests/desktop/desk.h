@@ -52,8 +52,17 @@ inline void showActive(QWidget& window) {
 class Answers : public QObject {
  public:
   Answers() { qApp->installEventFilter(this); }
-  void expect(QMessageBox::StandardButton button) { buttons_.push_back(button); }
-  [[nodiscard]] bool allAsked() const { return buttons_.empty(); }
+  void expect(QMessageBox::StandardButton button) {
+    hands_.emplace_back([button](QMessageBox& box) { box.button(button)->click(); });
+  }
+  void expectKey(Qt::Key key) {
+    hands_.emplace_back([key](QMessageBox& box) { QTest::keyClick(box.focusWidget(), key); });
+  }
+  // The cross of the box.
+  void expectClose() {
+    hands_.emplace_back([](QMessageBox& box) { box.close(); });
+  }
+  [[nodiscard]] bool allAsked() const { return hands_.empty(); }
   QStringList asked;
   std::function<void(QMessageBox&)> look;
 
@@ -69,16 +78,16 @@ class Answers : public QObject {
   void answer(QMessageBox& box) {
     asked << box.text();
     if (look) look(box);
-    if (buttons_.empty()) {
+    if (hands_.empty()) {
       ADD_FAILURE() << "nobody expected: " << box.text().toStdString();
       return box.reject();
     }
-    const auto button = buttons_.front();
-    buttons_.pop_front();
-    box.button(button)->click();
+    const auto hand = hands_.front();
+    hands_.pop_front();
+    hand(box);
   }
 
-  std::deque<QMessageBox::StandardButton> buttons_;
+  std::deque<std::function<void(QMessageBox&)>> hands_;
 };
 
 struct WindowDesk {

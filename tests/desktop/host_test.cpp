@@ -20,8 +20,6 @@ TEST(Host, QuestionsAreAnsweredInTheUsersLanguage) {
                 QString::fromUtf8(c.yes));
       EXPECT_EQ(desktop::withoutMnemonic(box.button(QMessageBox::No)->text()),
                 QString::fromUtf8(c.no));
-      EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
-      EXPECT_EQ(box.escapeButton(), box.button(QMessageBox::No));
     };
     desk.answers.expect(QMessageBox::Yes);
     const auto answer = desk.host.messageBox({.text = "one\n\rtwo",
@@ -30,6 +28,41 @@ TEST(Host, QuestionsAreAnsweredInTheUsersLanguage) {
                                               .icon = host::Icon::Question});
     EXPECT_EQ(answer, host::Answer::Yes);
     EXPECT_EQ(desk.answers.asked, QStringList{QStringLiteral("one\ntwo")});
+  }
+}
+
+// Enter, Esc and the cross of a box answer by what hangs on its question.
+TEST(Host, KeysNeverLoseWhatHangsOnAQuestion) {
+  using host::Answer;
+  struct Case {
+    host::Stake stake;
+    Answer enter;
+    Answer escape;
+  };
+  for (const Case& c : {Case{host::Stake::None, Answer::Yes, Answer::No},
+                        Case{host::Stake::Text, Answer::Yes, Answer::Cancel},
+                        Case{host::Stake::Existing, Answer::No, Answer::No}}) {
+    SCOPED_TRACE(static_cast<int>(c.stake));
+    WindowDesk desk;
+    desk.answers.look = [](QMessageBox& box) {
+      QStringList visible;
+      for (const QAbstractButton* button : box.buttons())
+        if (button->isVisible()) visible << desktop::withoutMnemonic(button->text());
+      EXPECT_EQ(visible, (QStringList{QStringLiteral("Evet"), QStringLiteral("Hayır")}));
+    };
+    const auto ask = [&] {
+      return desk.host.messageBox({.text = "?",
+                                   .title = "t",
+                                   .buttons = host::Buttons::YesNo,
+                                   .icon = host::Icon::Question,
+                                   .stake = c.stake});
+    };
+    desk.answers.expectKey(Qt::Key_Return);
+    EXPECT_EQ(ask(), c.enter);
+    desk.answers.expectKey(Qt::Key_Escape);
+    EXPECT_EQ(ask(), c.escape);
+    desk.answers.expectClose();
+    EXPECT_EQ(ask(), c.escape);
   }
 }
 

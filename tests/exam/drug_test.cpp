@@ -55,6 +55,8 @@ TEST(Accepted, DropsALineBreakThatTwoBlanksFollow) {
 TEST_F(Drug, CancellingHandsNothingBack) {
   add("Parol", "3x1", "1");
   screen.buttasi.press();
+  desk.host.expect("kaybolacak", host::Answer::No);
+  EXPECT_FALSE(screen.mayEscape());
   screen.Butİptal.press();
   EXPECT_EQ(desk.station.AktarilanMetin, "");
 }

@@ -196,6 +196,29 @@ TEST_F(Exam, ADayThatHasARecordAsksBeforeTheNewOneIsLost) {
   EXPECT_EQ(desk.stored(2, "Complain"), "aynı gün ikinci kez");
 }
 
+TEST_F(Exam, NewInTheDateFieldIsNewOnADayThatHasARecord) {
+  save("22.11.2026", "sabah");
+  screen->txttarih.setFocus();
+  screen->mnuyeni.press();
+  EXPECT_EQ(screen->txtşikayet.text() + screen->txtnumara.text(), "");
+}
+
+TEST_F(Exam, WhatIsTooLittleForARecordIsNotLostUnasked) {
+  screen->txtnabız.setText("80");
+  const std::string needed = "kaydetmek için gerekli: vital bulguların yanında bir bilgi";
+  EXPECT_EQ(screen->sbDurum.panels()[0], needed);
+  desk.host.expect(needed, host::Answer::No);
+  EXPECT_FALSE(screen->QueryUnload());
+  screen->txtnabız.setText("");
+  save("1.1.2026", "bir");
+  screen->txtşikayet.setText("");
+  screen->txtnabız.setText("80");
+  desk.host.expect(needed, host::Answer::Yes);
+  screen->mnuyeni.press();
+  screen->txttarih.setText("3.3.2026");
+  EXPECT_TRUE(screen->QueryUnload()) << "another date is nothing typed";
+}
+
 TEST_F(Exam, OpenedForADayItShowsTheLatestRecordOfThatDay) {
   save("1.1.2026", "sabah");
   save("1.1.2026", "öğleden sonra");

@@ -60,6 +60,19 @@ TEST_F(NewPatient, CannotBeSavedWithoutNameAndBirth) {
   EXPECT_TRUE(main.mnuyeni.enabled());
 }
 
+TEST_F(NewPatient, IsNobodyWhoseRecordsCouldBeOpened) {
+  const auto offered = [&] {
+    return main.mnumuayene1.enabled() || main.mnutest.enabled() ||
+           main.mnumuayenetarihleri.enabled() || main.tbToolBar.button("muayene")->enabled ||
+           main.tbToolBar.button("smok")->enabled;
+  };
+  EXPECT_FALSE(offered()) << "as the program comes up";
+  desk.newPatient("Ali Can", "1980");
+  EXPECT_TRUE(offered());
+  main.mnuyeni.Click();
+  EXPECT_FALSE(offered());
+}
+
 TEST_F(NewPatient, FillsEveryFieldOfTheCard) {
   main.mnuyeni.Click();
   desk.typeName("Tüm Alanlar");
@@ -197,6 +210,41 @@ TEST_F(StoredPatient, WithoutASexShowsNone) {
   EXPECT_FALSE(main.mnukaydet.enabled());
 }
 
+// What another program stored stays as long as nobody chooses something else.
+TEST_F(StoredPatient, KeepsASexThatTheListDoesNotHave) {
+  desk.newPatient("Ece Su", "1999");
+  dao::Recordset& cards = desk.station.stores.personal.IDCard;
+  ASSERT_TRUE(cards.Seek("=", "Ece Su") && cards.Edit() && cards.Fields("Sex").Set("7") &&
+              cards.Update());
+  desk.load("Ece Su");
+  main.txtnot.setText("not");
+  main.mnukaydet.press();
+  EXPECT_EQ(desk.column("Ece Su", "Sex"), "7");
+  main.ComCinsiyet.setText("k");
+  main.mnukaydet.press();
+  EXPECT_EQ(desk.column("Ece Su", "Sex"), "0");
+}
+
+TEST_F(StoredPatient, IsNotChangedByASwitchOfTheLanguage) {
+  desk.newPatient("Ali Can", "1980");
+  main.ComCinsiyet.setText("E");
+  main.mnukaydet.press();
+  const auto speak = [&](const char* language) {
+    desk.station.ayarYaz("Language", language);
+    main.dilDegisti();
+  };
+  main.sbDurum.setPanel(3, "");
+  speak("eng");
+  EXPECT_EQ(main.ComCinsiyet.text(), "M");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+  EXPECT_EQ(main.sbDurum.panels()[2], "");
+  main.txtnot.setText("x");
+  speak("tr");
+  EXPECT_EQ(main.sbDurum.panels()[2], "değişti, kaydedilmedi");
+  main.txtnot.setText("");
+  EXPECT_FALSE(main.mnukaydet.enabled());
+}
+
 TEST_F(StoredPatient, ChosenAfterAnotherStationDeletedItLeavesTheCardAsItIs) {
   desk.newPatient("Veli Can", "1980");
   main.txtnot.setText("yarım");
@@ -226,6 +274,27 @@ TEST(CardColours, FollowTheSex) {
   desk.main.ComCinsiyet.setText("x");  // neither initial: the choice stays
   EXPECT_EQ(desk.main.ComCinsiyet.listIndex(), 1);
   EXPECT_EQ(desk.main.ComCinsiyet.text(), "M");
+}
+
+// The row itself, typed as it stands in the list, is acted on like any other way to choose it.
+TEST(CardColours, FollowACapitalInitial) {
+  struct Case {
+    const char* language;
+    const char* typed;
+    unsigned colour;
+    bool forWomen;
+  };
+  for (const Case& c : {Case{"tr", "E", 0xC0C0FFU, false}, Case{"tr", "K", 0xFFC0C0U, true},
+                        Case{"eng", "M", 0xC0C0FFU, false}, Case{"eng", "F", 0xFFC0C0U, true}}) {
+    SCOPED_TRACE(c.typed);
+    const TemporaryFolder folder;
+    CardDesk desk(folder.path(), "Polyclinic", c.language);
+    desk.main.ComCinsiyet.setText(c.typed);
+    EXPECT_EQ(desk.main.Panofoto.backColour(), c.colour);
+    EXPECT_EQ(desk.main.BKadınDoğum.enabled(), c.forWomen);
+    desk.main.ComCinsiyet.setText("ş");
+    EXPECT_EQ(desk.main.ComCinsiyet.text(), c.typed) << "a stray letter changes nothing";
+  }
 }
 
 TEST_F(Card, ShutDownAsksSavesAndKeepsTheWindow) {

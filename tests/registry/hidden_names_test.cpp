@@ -137,6 +137,40 @@ TEST_F(HiddenNames, StayHiddenWhenTheCardOnTheScreenIsSaved) {
   EXPECT_FALSE(desk.main.mnusil.enabled());
 }
 
+// What was typed on the card of a hidden patient is asked about before the names are locked.
+TEST_F(HiddenNames, AreNotLockedOverTypedText) {
+  mark("Zeki Su", "¬");
+  unlock();
+  desk.load("Zeki Su");
+  desk.main.txtnot.setText("yarım");
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::Cancel);
+  desk.main.tbToolBar.press("keyopen");
+  EXPECT_TRUE(desk.main.tbToolBar.button("keyopen")->visible);
+  EXPECT_EQ(desk.main.txtnot.text(), "yarım");
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::Yes);
+  desk.main.tbToolBar.press("keyopen");
+  EXPECT_FALSE(desk.main.tbToolBar.button("keyopen")->visible);
+  EXPECT_EQ(desk.main.txtnot.text(), "");
+  EXPECT_EQ(desk.column("Zeki Su", "Notes"), "yarım");
+}
+
+// Another station's card does not carry the mark that was given meanwhile.
+TEST_F(HiddenNames, StayHiddenWhenAnotherStationSavesTheCard) {
+  CardDesk other(folder.path());
+  desk.main.mnuyeni.Click();
+  other.load("Zeki Su");
+  mark("Zeki Su", "¬");
+  other.main.txtnot.setText("not");
+  other.main.mnukaydet.press();
+  EXPECT_EQ(desk.column("Zeki Su", "Notes"), "not");
+  EXPECT_EQ(hidden(), Names{"Zeki Su"});
+  mark("Zeki Su", "");
+  other.load("Ali Can");
+  other.main.txtkey.setText("¬");
+  other.main.mnukaydet.press();
+  EXPECT_EQ(hidden(), Names{"Ali Can"}) << "a card that changes it does";
+}
+
 TEST_F(HiddenNames, AreSteppedOverAndATableOfThemAloneEndsBothWays) {
   struct Case {
     Names hidden;

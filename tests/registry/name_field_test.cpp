@@ -164,6 +164,38 @@ TEST_F(Namesakes, ThatAnotherStationStoredMeanwhileAreNotOverwritten) {
   EXPECT_EQ(desk.column("Ali Can*", "Year of Birth"), "1999");
 }
 
+// By case, too, and whatever else the list shows. One that only a Turkish reader takes for the same
+// name is asked about in its stored spelling.
+TEST_F(Namesakes, InOtherLettersAreAskedFor) {
+  desk.newPatient("Ali Can", "1980");
+  desk.newPatient("Ali Canan", "1985");
+  const std::pair<const char*, const char*> cases[] = {
+      {"ali can", "ali can"},  // the store finds it as it is
+      {"ALİ CAN", "Ali Can"},
+      {"aLİ Can", "Ali Can"},
+  };
+  for (const auto& [typed, asked] : cases) {
+    SCOPED_TRACE(typed);
+    desk.host.expect(asked + std::string(" önceden girildi"), host::Answer::No);
+    main.mnuyeni.Click();
+    desk.typeName(typed);
+    EXPECT_EQ(main.TxtDTarihi.text(), "1980");
+  }
+  main.mnuyeni.Click();
+  main.TxtDTarihi.setText("1990");
+  main.focusMoved(&main.Txtİsim);
+  main.Txtİsim.setText("ALİ CAN");
+  desk.host.expect("Ali Can önceden girildi", host::Answer::Yes);
+  main.mnukaydet.press();  // no list was looked at
+  EXPECT_EQ(desk.stored(), (Names{"Ali Can", "Ali Can*", "Ali Canan"}));
+  // The letters of one's own name may be changed.
+  desk.host.expect("Ali Can, ALİ CAN olarak değiştirilsin mi?", host::Answer::Yes);
+  desk.load("Ali Can");
+  desk.typeName("ALİ CAN");
+  main.mnukaydet.press();
+  EXPECT_EQ(desk.column("ALİ CAN", "Year of Birth"), "1980");
+}
+
 TEST_F(Namesakes, LoadedInsteadAskAboutTheCardOnTheScreen) {
   desk.newPatient("Ali Can", "1980");
   desk.newPatient("Veli Can", "1970");
@@ -173,6 +205,21 @@ TEST_F(Namesakes, LoadedInsteadAskAboutTheCardOnTheScreen) {
   desk.typeName("Ali Can");
   EXPECT_EQ(main.TxtDTarihi.text(), "1980");
   EXPECT_EQ(desk.column("Veli Can", "Notes"), "önemli");
+}
+
+// The name of the card itself, reached by typing, is looked for like any other.
+TEST_F(NameField, ListsWhatFitsTheNameThatWasOnTheCard) {
+  for (const char* name : {"Alev Su", "Ali", "Ali Can"}) desk.newPatient(name, "1980");
+  desk.load("Ali");
+  const auto typed = [&](const char* text) {
+    main.Txtİsim.setText(text);
+    main.Txtİsim.KeyUp(forms::Key{.code = 'I'});
+    desk.tick();
+    return desk.listed();
+  };
+  main.focusMoved(&main.Txtİsim);
+  EXPECT_EQ(typed("Al"), (Names{"Alev Su", "Ali", "Ali Can"}));
+  EXPECT_EQ(typed("Ali"), (Names{"Ali", "Ali Can"}));
 }
 
 TEST_F(NameField, AListOfAnotherTextDoesNotChangeTheName) {
@@ -207,7 +254,7 @@ TEST(Gynecology, PresetsTheSex) {
   desk.main.mnuyeni.Click();
   desk.typeName("Zeynep Su");
   EXPECT_EQ(desk.main.ComCinsiyet.listIndex(), 0);
-  desk.main.mnuyeni.Click();
+  desk.main.Yeni();
   desk.main.ComCinsiyet.setListIndex(1);
   desk.typeName("Ali Can");
   EXPECT_EQ(desk.main.ComCinsiyet.listIndex(), 1);

@@ -49,6 +49,52 @@ TEST_F(Drugs, ANameThatAnotherRecordHasIsRefusedAndNothingIsLost) {
   EXPECT_EQ(dose("Aspirin"), "1x1");
 }
 
+TEST_F(Drugs, WithoutAnAnswerAboutTheNameNothingIsSavedAndNothingCloses) {
+  add("Parol", "3x1");
+  screen.txtilaç.setText("Parol 500");
+  for (const bool closing : {false, true}) {
+    desk.host.expect("olarak değiştirilsin mi?", host::Answer::Cancel);
+    if (closing)
+      EXPECT_FALSE(screen.QueryUnload());
+    else
+      screen.mnukaydet.press();
+    EXPECT_EQ(screen.txtilaç.text(), "Parol 500");
+    EXPECT_TRUE(screen.mnukaydet.enabled());
+    EXPECT_EQ(dose("Parol 500"), "?");
+  }
+}
+
+TEST_F(Drugs, WithoutANameAreNotLostUnasked) {
+  screen.Load();
+  screen.txtdoz.setText("3x1");
+  EXPECT_EQ(screen.status, "kaydetmek için gerekli: İlaç");
+  desk.host.expect("gerekli: İlaç", host::Answer::No);
+  screen.mnuyeni.press();
+  EXPECT_EQ(screen.txtdoz.text(), "3x1");
+  desk.host.expect("Sürdürülsün mü?", host::Answer::No);
+  EXPECT_FALSE(screen.QueryUnload());
+  desk.host.expect("Sürdürülsün mü?", host::Answer::Yes);
+  EXPECT_TRUE(screen.QueryUnload());
+}
+
+// Closing stores a change silently; Esc is no closing that anybody meant.
+TEST_F(Drugs, EscAsksAboutAChange) {
+  EXPECT_TRUE(screen.mayEscape()) << "nothing to ask about";
+  add("Parol", "3x1");
+  screen.txtdoz.setText("2x1");
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::Cancel);
+  EXPECT_FALSE(screen.mayEscape());
+  EXPECT_TRUE(screen.mnukaydet.enabled());
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::No);
+  EXPECT_TRUE(screen.mayEscape());
+  EXPECT_TRUE(screen.QueryUnload());
+  EXPECT_EQ(dose("Parol"), "3x1");
+  screen.txtdoz.setText("1x1");
+  desk.host.expect("Değişiklikler kaydedilsin mi?", host::Answer::Yes);
+  EXPECT_TRUE(screen.mayEscape());
+  EXPECT_EQ(dose("Parol"), "1x1");
+}
+
 TEST_F(Drugs, DeletingAsksWithTheName) {
   add("Parol", "3x1");
   desk.host.expect("Parol", host::Answer::Yes);

@@ -158,6 +158,7 @@ TEST_F(SchemaTest, TheSmokingStoreIsMadeOnItsOwnAndComparesByTurkishRules) {
   const std::array<std::size_t, 9> widths{23, 16, 6, 8, 5, 6, 4, 5, 3};
   for (std::size_t table = 0; table < tables.size(); ++table)
     EXPECT_EQ(smoking->database.fields(tables[table])->size(), widths[table]) << tables[table];
+  EXPECT_EQ(add(smoking->Smoke, "name", "").fault(), dao::Fault::ZeroLength);
   ASSERT_TRUE(add(smoking->Smoke, "name", "İNCİ IŞIK"));
   ASSERT_TRUE(smoking->Smoke.Index("PrimaryKey1"));
   EXPECT_TRUE(holds(smoking->Smoke, "inci ışık"));
