@@ -74,8 +74,15 @@ enum class Phrase {
   PicturePathTooLong,  // the largest number of characters follows
   Reply,
   MessageNotSent,
-  MessageCount,  // a number follows
-  UnreadCount,   // a number follows
+  CharactersReplaced,  // a list follows
+  TextsCut,            // lines follow
+  SendMessageSo,
+  FontsNotKept,  // lines follow
+  KeepTextSo,
+  MessageRoom,     // a number follows
+  MessageTooLong,  // a number follows
+  MessageCount,    // a number follows
+  UnreadCount,     // a number follows
   NoMessages,
   BackupFailed,  // a reason follows
   BackupStopped,
