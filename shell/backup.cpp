@@ -28,18 +28,6 @@ std::string neOldu(Station& istasyon, const BackgroundResult& result) {
   return phrase(istasyon, Phrase::BackupFailed) + "\n" + nedeni(istasyon, result.status);
 }
 
-// A folder that is not set or not there, such as a stick that was pulled out, has a stand-in.
-std::string cikisKlasoru(Station& istasyon) {
-  const std::string folder = istasyon.ayar(backupFolderSetting);
-  std::error_code unreachable;
-  if (!folder.empty() && std::filesystem::is_directory(folder, unreachable)) return ayracla(folder);
-  const std::string own = kendiYedekKlasoru(istasyon);
-  // A folder that cannot be made is met again, with its reason, by the copying.
-  files::createFolders(own).ignore();
-  istasyon.ayarYaz(backupFolderSetting, own);
-  return own;
-}
-
 }  // namespace
 
 std::string ayracla(std::string folder) {
@@ -56,6 +44,21 @@ std::string yedekKlasoru(const Station& istasyon) {
   return folder.empty() ? kendiYedekKlasoru(istasyon) : ayracla(folder);
 }
 
+std::string yazilacakYedekKlasoru(const Station& istasyon) {
+  const std::string folder = istasyon.ayar(backupFolderSetting);
+  std::error_code unreachable;
+  const bool there = !folder.empty() && std::filesystem::is_directory(folder, unreachable);
+  return there ? ayracla(folder) : kendiYedekKlasoru(istasyon);
+}
+
+std::string hazirYedekKlasoru(Station& istasyon) {
+  const std::string folder = yazilacakYedekKlasoru(istasyon);
+  // A folder that cannot be made is met again, with its reason, by the copying.
+  files::createFolders(folder).ignore();
+  istasyon.ayarYaz(backupFolderSetting, folder);
+  return folder;
+}
+
 bool yedekle(Station& istasyon, const std::string& folder) {
   const std::string into = ayracla(folder);
   const BackgroundResult result = yedekAl(istasyon, into, Kinds(stores::storeKinds).first(2));
@@ -69,7 +72,8 @@ bool yedekle(Station& istasyon, const std::string& folder) {
 
 bool cikistayedekle(Station& istasyon) {
   if (istasyon.ayar("closebackup", "0") == "0") return true;
-  const BackgroundResult result = yedekAl(istasyon, cikisKlasoru(istasyon), stores::storeKinds);
+  const BackgroundResult result =
+      yedekAl(istasyon, hazirYedekKlasoru(istasyon), stores::storeKinds);
   if (result.status) return true;
   const std::string question =
       neOldu(istasyon, result) + "\n\n" + phrase(istasyon, Phrase::LeaveWithoutBackup);

@@ -14,6 +14,11 @@ inline constexpr auto backupFolderSetting = "BackUp";
 // The setting, with a trailing separator; the folder above when it is empty. Whether the folder
 // exists is not asked.
 [[nodiscard]] std::string yedekKlasoru(const Station& istasyon);
+// Where a backup goes now: the setting, or, when it is not set or not there, such as a stick that
+// was pulled out, `Backup` below the program's folder.
+[[nodiscard]] std::string yazilacakYedekKlasoru(const Station& istasyon);
+// The same, made where it is missing, and remembered.
+[[nodiscard]] std::string hazirYedekKlasoru(Station& istasyon);
 [[nodiscard]] std::string ayracla(std::string folder);
 
 // The Personal and the Clinical store into the folder, which is remembered when that worked; when

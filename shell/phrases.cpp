@@ -118,6 +118,18 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::UnreadCount, "unread: ", "okunmamış: "},
     {Phrase::NoMessages, "No messages. Press F5 to look again.",
      "Mesaj yok. Yeniden bakmak için F5'e basın."},
+    {Phrase::FeesToConvert,
+     "About %1 amounts would be divided by 1,000,000: all that are above 10,000, even where they "
+     "are in new lira already.%2\n\nThe largest: %3 becomes %4\nThe smallest: %5 becomes %6\n"
+     "With a decimal point, as amounts in new lira have: %7\n\nThis cannot be taken back. Convert "
+     "them?",
+     "Yaklaşık %1 tutar 1.000.000'a bölünecek: 10.000'in üzerindekilerin hepsi, YTL olsalar "
+     "bile.%2\n\nEn büyüğü: %3, yenisi %4\nEn küçüğü: %5, yenisi %6\nYTL tutarlarındaki gibi "
+     "ondalık noktası olanlar: %7\n\nBu işlem geri alınamaz. Dönüştürülsün mü?"},
+    {Phrase::BackupBeforeFees,
+     "Make a backup into %1 first?\n\nNo converts without a backup; Esc converts nothing.",
+     "Önce %1 klasörüne yedek alınsın mı?\n\nHayır yedek almadan dönüştürür, Esc hiçbir şeyi "
+     "dönüştürmez."},
     {Phrase::BackupFailed, "The backup was not made; an older one stays as it was.",
      "Yedek alınamadı; varsa eski yedek olduğu gibi duruyor."},
     {Phrase::BackupStopped, "The backup was stopped; an older one stays as it was.",

@@ -84,7 +84,9 @@ enum class Phrase {
   MessageCount,    // a number follows
   UnreadCount,     // a number follows
   NoMessages,
-  BackupFailed,  // a reason follows
+  FeesToConvert,  // %1 number, %2 lines, %3 to %6 largest, smallest and what they become, %7 number
+  BackupBeforeFees,  // %1 folder
+  BackupFailed,      // a reason follows
   BackupStopped,
   LeaveWithoutBackup,
   BackupHint,
