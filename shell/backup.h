@@ -22,10 +22,12 @@ inline constexpr auto backupFolderSetting = "BackUp";
 [[nodiscard]] std::string ayracla(std::string folder);
 
 // The Personal and the Clinical store into the folder, which is remembered when that worked; when
-// it did not, tells why.
+// it did not, tells why. Then the pictures and papers of the practice, as far as the backup lacks
+// them; what of them stays out is told.
 bool yedekle(Station& istasyon, const std::string& folder);
 
-// The backup of all three stores at the end, when the setting asks for it. A folder that is not set
+// The backup of all three stores and of the files beside them at the end, when the setting asks for
+// it. A folder that is not set
 // or not there is replaced by `Backup` below the program's folder. False when it could not be made
 // and the user wants to stay.
 [[nodiscard]] bool cikistayedekle(Station& istasyon);

@@ -88,6 +88,13 @@ enum class Phrase {
   BackupBeforeFees,  // %1 folder
   BackupFailed,      // a reason follows
   BackupStopped,
+  FilesBackup,
+  FilesBackupStopped,
+  FilesBackupFailed,  // a reason follows
+  FilesLeftOut,       // %1 number, %2 reason
+  PicturesElsewhere,  // %1 number
+  FilesInBackup,      // a number follows
+  CloseWindow,
   LeaveWithoutBackup,
   BackupHint,
   BackupNotIntoData,
@@ -102,8 +109,11 @@ enum class Phrase {
   RestoreFailed,  // a reason follows
   RestoreStopped,
   RestoreWantsAlone,
+  RestoreFiles,       // %1 missing, %2 older ones
+  RestoreNewerFiles,  // %1 number, %2 one of them
+  FilesNotRestored,   // %1 number, %2 reason
   RestoreDrill,
-  DrillSound,    // %1 date, %2 patients, %3 records, %4 last examination
+  DrillSound,    // %1 date, %2 patients, %3 records, %4 last examination, %5 files
   DrillFailed,   // %1 date, %2 reason
   NothingFound,  // in front of nothing: a date that is not there
   NoFile,
