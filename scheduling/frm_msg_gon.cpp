@@ -88,7 +88,7 @@ void FrmMsgGon::gonder() {
   const std::array texts{shell::FileText{"Kimden", record.sender, MessageRecord::nameWidth},
                          shell::FileText{"Kime", record.addressee, MessageRecord::nameWidth},
                          shell::FileText{"Konu", record.subject, MessageRecord::subjectWidth},
-                         shell::FileText{"Metin", record.text, MessageRecord::textWidth}};
+                         shell::FileText{"Mesaj", record.text, MessageRecord::textWidth}};
   if (!shell::boyleKalsinMi(istasyon_, texts, Phrase::SendMessageSo)) return;
   if (platform::Status sent = files::sendMessage(mesajDosyasi(istasyon_), record); !sent)
     return shell::hataSoyle(istasyon_, Phrase::StoreFailed, sent);

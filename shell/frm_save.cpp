@@ -114,7 +114,8 @@ void FrmSave::sonYedegiYaz() {
   if (!files.empty()) {
     std::int64_t bytes = 0;
     for (const stores::PracticeFile& file : files) bytes += file.bytes;
-    lines += "\n" + phrase(istasyon, Phrase::FilesInBackup) + std::to_string(files.size()) + "   " +
+    if (!lines.empty()) lines += "\n";
+    lines += phrase(istasyon, Phrase::FilesInBackup) + std::to_string(files.size()) + "   " +
              boyut(static_cast<std::uintmax_t>(bytes));
   }
   Lsonyedek.setCaption(lines.empty() ? phrase(istasyon, Phrase::NoBackupYet) : lines);

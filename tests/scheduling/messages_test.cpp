@@ -202,7 +202,7 @@ TEST_F(Messages, AreSentAndTheirNamesKept) {
     writing.txtmesaj.setText(std::string(240, 'a') + "\r\n" + std::string(20, 'b'));
     desk.host.expect("Vazgeçilsin mi?", host::Answer::No);
     EXPECT_FALSE(writing.QueryUnload());
-    desk.host.expect("Metin: \"…bbbbbbbbbbbb\" (12)", host::Answer::No);
+    desk.host.expect("Mesaj: \"…bbbbbbbbbbbb\" (12)", host::Answer::No);
     writing.Butgönder.press();
     EXPECT_EQ(desk.host.asked.back().stake, host::Stake::Existing) << "Enter sends no cut text";
     EXPECT_TRUE(desk.host.closed.empty()) << "what was typed is still there";
