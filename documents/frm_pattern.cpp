@@ -1,5 +1,6 @@
 #include "documents/frm_pattern.h"
 
+#include <array>
 #include <utility>
 
 #include "documents/templates.h"
@@ -9,6 +10,7 @@
 #include "shell/font_record.h"
 #include "shell/letterhead.h"
 #include "shell/phrases.h"
+#include "shell/text_fit.h"
 #include "shell/text_lookup.h"
 
 namespace documents {
@@ -17,6 +19,7 @@ namespace {
 
 constexpr int sampleScale = 3;
 constexpr std::size_t signatureLength = 50;
+constexpr std::size_t fontNameLength = 50;
 
 }  // namespace
 
@@ -93,8 +96,12 @@ void FrmPattern::imzaFontu(const forms::Font& font) {
 
 // A record that cannot be kept leaves the dialog open, so that nothing typed is lost.
 void FrmPattern::tamam() {
+  const std::string fontName = imgimza.font().name;
+  const std::array texts{shell::FileText{"imza", txtimza.text(), signatureLength},
+                         shell::FileText{"yazitipi", fontName, fontNameLength}};
+  if (!shell::boyleKalsinMi(istasyon, texts, shell::Phrase::KeepTextSo)) return;
   istasyon.SablonNo = static_cast<int>(text::Val(lblsablonno.caption()));
-  istasyon.SablonImzasi = txtimza.text();
+  istasyon.SablonImzasi = files::keptText(txtimza.text(), signatureLength);
   files::SettingRecord row =
       shell::ayarKaydi(istasyon, shell::font_record::signature).value_or(files::SettingRecord());
   row.owner = name();

@@ -8,6 +8,7 @@
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "shell/font_record.h"
+#include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
 namespace documents {
@@ -205,6 +206,16 @@ void LayoutEditor::chooseFont(std::size_t item) {
   if (!chosen) return;
   layout_.setFont(item, *chosen);
   draw(item);
+  tellUnkept();
+}
+
+void LayoutEditor::tellUnkept() {
+  std::string lines;
+  for (const std::size_t item : unkeptFonts(layout_)) {
+    const LayoutItem& laid = layout_.items()[item];
+    lines += "\n" + shell::metinbul(istasyon_, laid.key) + ": " + laid.font.name;
+  }
+  if (!lines.empty()) istasyon_.bilgi(phrase(istasyon_, shell::Phrase::FontsNotKept) + lines);
 }
 
 }  // namespace documents

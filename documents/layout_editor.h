@@ -64,6 +64,7 @@ class LayoutEditor {
   void step(std::size_t item, int right, int down);
   void take(const Row& row, double millimetres);
   void chooseFont(std::size_t item);
+  void tellUnkept();
   void checked();
   void closeEdit();
 

@@ -4,6 +4,9 @@
 // of another screen.
 #pragma once
 
+#include <cstddef>
+#include <vector>
+
 #include "documents/page_layout.h"
 #include "platform/files/setting_record.h"
 
@@ -13,5 +16,9 @@ namespace documents {
 // font that cannot be read.
 void yerlesimOku(PageLayout& layout, const files::SettingRecord& record);
 void yerlesimYaz(const PageLayout& layout, files::SettingRecord& record);
+
+// The items whose font would not come back from the record: its fields have no room for so many
+// long names, or no characters for them. Such an item comes back with its size and style alone.
+[[nodiscard]] std::vector<std::size_t> unkeptFonts(const PageLayout& layout);
 
 }  // namespace documents

@@ -368,6 +368,7 @@ class FrmMain : public shell::RecordScreen,
   text::DateTime bugun_;             // today, when it was last looked at
   unsigned vurus_ = 0;               // ticks since the program came up
   Extent panofoto_;
+  long baskaIstasyon_ = 0;       // that has the patient who was asked for last; 0 for none
   int cinsiyet_ = 2;             // the row of the sex that was chosen last
   bool birthUnchecked_ = false;  // while the program leaves the birth field
 };

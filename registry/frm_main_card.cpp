@@ -70,7 +70,11 @@ void FrmMain::Listeleriyaz() {
 bool FrmMain::hastaoku() {
   const Taken taken = hastayiTut();
   if (taken == Taken::Elsewhere) {
-    istasyon.bilgi(istasyon.SeciliHasta + metinbul(istasyon, "msgagdaislem"));
+    std::string told = istasyon.SeciliHasta + metinbul(istasyon, "msgagdaislem");
+    if (baskaIstasyon_ > 0)
+      told += "\n(" + phrase(istasyon, shell::Phrase::StationNumber) +
+              std::to_string(baskaIstasyon_) + ")";
+    istasyon.bilgi(told);
     Txtİsim.setText(TxtEskiİsim.text());
   }
   if (taken != Taken::Ours) {

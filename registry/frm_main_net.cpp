@@ -95,6 +95,7 @@ dao::Status FrmMain::kartiBul() {
 // Another station's commit is waited for without the register locked: else all of them would wait.
 FrmMain::Taken FrmMain::hastayiTut() {
   constexpr int mostLooks = 20;
+  baskaIstasyon_ = 0;
   if (istasyon.SeciliHasta.empty()) return Taken::Missing;
   for (int look = 0; look < mostLooks; ++look) {
     if (const auto taken = hemenTut()) return *taken;
@@ -113,7 +114,8 @@ std::optional<FrmMain::Taken> FrmMain::hemenTut() {
   if (found.fault() == dao::Fault::Busy) return std::nullopt;
   if (!found || tablo().NoMatch()) return Taken::Missing;
   const std::string name = tablo().Fields("Name").text();
-  if (lock->isElsewhere(name)) return Taken::Elsewhere;
+  baskaIstasyon_ = lock->whereElse(name);
+  if (baskaIstasyon_ > 0) return Taken::Elsewhere;
   lock->publish(name);
   return Taken::Ours;
 }

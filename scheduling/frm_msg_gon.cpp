@@ -1,5 +1,8 @@
 #include "scheduling/frm_msg_gon.h"
 
+#include <array>
+#include <cstdlib>
+
 #include "platform/files/message_file.h"
 #include "platform/files/name_list.h"
 #include "platform/text/utf8.h"
@@ -8,6 +11,7 @@
 #include "shell/fault_words.h"
 #include "shell/list_completion.h"
 #include "shell/phrases.h"
+#include "shell/text_fit.h"
 #include "shell/text_lookup.h"
 
 namespace scheduling {
@@ -25,17 +29,15 @@ constexpr std::string_view namesFile = "Data/List.dat";
 FrmMsgGon::FrmMsgGon(shell::Station& station) : Form("Frmmsggon"), istasyon_(station) {
   ComKimden.setMaxLength(MessageRecord::nameWidth);
   ComKime.setMaxLength(MessageRecord::nameWidth);
-  txtkonu.setMaxLength(MessageRecord::subjectWidth);
-  txtmesaj.setMaxLength(MessageRecord::textWidth);
   shell::completeWhileTyping(ComKimden);
   shell::completeWhileTyping(ComKime);
   ComKime.Change.connect([this] { tuskontrol(); });
   ComKime.Click.connect([this] { tuskontrol(); });
   txtkonu.Change.connect([this] { tuskontrol(); });
+  txtmesaj.Change.connect([this] { kalanYaz(); });
   ButLKimden.Click.connect([this] {
     const std::string title = metinbul(istasyon_, "Kimden");
-    if (mesajAdresiSor(istasyon_, metinbul(istasyon_, "inpgonderenismi"), title))
-      ComKimden.setText(mesajAdresi(istasyon_));
+    if (mesajAdresiSor(istasyon_, metinbul(istasyon_, "inpgonderenismi"), title)) gonderenYaz();
   });
   Butgönder.Click.connect([this] { gonder(); });
   Butİptal.Click.connect([this] { istasyon_.host.close(*this); });
@@ -44,9 +46,22 @@ FrmMsgGon::FrmMsgGon(shell::Station& station) : Form("Frmmsggon"), istasyon_(sta
 void FrmMsgGon::Load() {
   shell::basliklariyaz(istasyon_, *this);
   isimleriListele();
-  ComKimden.setText(mesajAdresi(istasyon_));
+  gonderenYaz();
   tuskontrol();
+  kalanYaz();
   (ComKimden.text().empty() ? ComKimden : ComKime).setFocus();
+}
+
+// As the file keeps it: who is answered is found by that.
+void FrmMsgGon::gonderenYaz() {
+  ComKimden.setText(files::keptText(mesajAdresi(istasyon_), MessageRecord::nameWidth));
+}
+
+// A text may be pasted that is longer than a message: nothing is cut before its user knows.
+void FrmMsgGon::kalanYaz() {
+  const long room = shell::kalanYer(txtmesaj.text(), MessageRecord::textWidth);
+  const Phrase state = room < 0 ? Phrase::MessageTooLong : Phrase::MessageRoom;
+  Lkalan.setCaption(phrase(istasyon_, state) + std::to_string(std::abs(room)));
 }
 
 // Without the list of names they are typed.
@@ -70,6 +85,11 @@ void FrmMsgGon::gonder() {
   record.text = txtmesaj.text();
   record.sent = text::shortDateTime(istasyon_.clock.now());
   record.isNew = 1;
+  const std::array texts{shell::FileText{"Kimden", record.sender, MessageRecord::nameWidth},
+                         shell::FileText{"Kime", record.addressee, MessageRecord::nameWidth},
+                         shell::FileText{"Konu", record.subject, MessageRecord::subjectWidth},
+                         shell::FileText{"Mesaj", record.text, MessageRecord::textWidth}};
+  if (!shell::boyleKalsinMi(istasyon_, texts, Phrase::SendMessageSo)) return;
   if (platform::Status sent = files::sendMessage(mesajDosyasi(istasyon_), record); !sent)
     return shell::hataSoyle(istasyon_, Phrase::StoreFailed, sent);
   // The message is out; a name that is not offered next time is typed again.

@@ -3,6 +3,7 @@
 
 #include "platform/forms/button.h"
 #include "platform/forms/form.h"
+#include "platform/forms/label.h"
 #include "platform/forms/text_control.h"
 #include "shell/station.h"
 
@@ -17,6 +18,7 @@ class FrmMsgGon : public forms::Form {
   forms::ComboBox ComKime{*this, "ComKime"};
   forms::TextBox txtkonu{*this, "txtkonu"};
   forms::TextBox txtmesaj{*this, "txtmesaj", forms::TextLines::Multiple};
+  forms::Label Lkalan{*this, "Lkalan"};  // the characters that the text has room for
   forms::CommandButton Butgönder{*this, "Butgönder"};
   forms::CommandButton Butİptal{*this, "Butİptal"};
 
@@ -26,6 +28,8 @@ class FrmMsgGon : public forms::Form {
 
  private:
   void isimleriListele();
+  void gonderenYaz();
+  void kalanYaz();
   void tuskontrol();
   void gonder();
   // Sender and addressee join the names that are offered.

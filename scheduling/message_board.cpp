@@ -55,7 +55,7 @@ std::string mesajAdresi(const Station& istasyon) {
 
 bool mesajAdresiSor(Station& istasyon, std::string_view prompt, std::string_view title) {
   const std::string given = istasyon.host.inputBox(prompt, title, mesajAdresi(istasyon));
-  const std::string name = text::left(text::trimmed(given), MessageRecord::nameWidth);
+  const std::string name = text::trim(given);
   if (name.empty()) return false;
   istasyon.ayarYaz(addressSetting, name);
   return true;
@@ -63,7 +63,8 @@ bool mesajAdresiSor(Station& istasyon, std::string_view prompt, std::string_view
 
 bool gorunur(const MessageRecord& record, std::string_view address, MessageView view,
              const text::DateTime& today) {
-  if (address.empty() || !isSamePerson(text::trimmed(record.addressee), address)) return false;
+  const std::string kept = text::trim(files::keptText(address, MessageRecord::nameWidth));
+  if (kept.empty() || !isSamePerson(text::trimmed(record.addressee), kept)) return false;
   switch (view) {
     case MessageView::All:
       return true;

@@ -39,8 +39,8 @@ void gorunumSakla(shell::Station& istasyon, MessageView view);
 // Asks for the name and keeps it. False when the user gives none.
 bool mesajAdresiSor(shell::Station& istasyon, std::string_view prompt, std::string_view title);
 
-// Whether the note is for that person, in any case of the letters, and belongs to the view.
-// `address` empty is nobody.
+// Whether the note is for that person, in any case of the letters and as the file keeps the name,
+// and belongs to the view. `address` empty is nobody.
 [[nodiscard]] bool gorunur(const files::MessageRecord& record, std::string_view address,
                            MessageView view, const text::DateTime& today);
 

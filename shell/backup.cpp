@@ -6,8 +6,10 @@
 #include "platform/files/folders.h"
 #include "shell/background_work.h"
 #include "shell/fault_words.h"
+#include "shell/file_words.h"
 #include "shell/text_lookup.h"
 #include "stores/backup.h"
+#include "stores/practice_files.h"
 
 namespace shell {
 
@@ -23,21 +25,48 @@ BackgroundResult yedekAl(Station& istasyon, const std::string& folder, Kinds kin
                    });
 }
 
+// The pictures and papers, once the stores are safe.
+struct FilesResult {
+  BackgroundResult work;
+  stores::FileCopies copies;
+  std::int64_t elsewhere = 0;
+};
+FilesResult dosyalariAl(Station& istasyon, const std::string& folder) {
+  FilesResult result;
+  result.work =
+      arkadaYap(istasyon, phrase(istasyon, Phrase::FilesBackup),
+                [&result, folder, program = istasyon.UygYolu](const stores::Progress& progress) {
+                  result.elsewhere = stores::picturesElsewhere(program).value_or(0);
+                  return stores::backUpFiles(program, folder, result.copies, progress);
+                });
+  return result;
+}
+
+// Empty when every file is in the backup.
+std::string eksikKalan(Station& istasyon, const FilesResult& result) {
+  if (result.work.stopped) return phrase(istasyon, Phrase::FilesBackupStopped);
+  if (!result.work.status)
+    return phrase(istasyon, Phrase::FilesBackupFailed) + "\n" +
+           nedeni(istasyon, result.work.status);
+  if (result.copies.failed == 0) return {};
+  return doldurulmus(istasyon, Phrase::FilesLeftOut,
+                     {std::to_string(result.copies.failed), nedeni(istasyon, result.copies.fault)});
+}
+
+// Pictures that lie elsewhere are told only here: at the end nobody could do anything about them.
+void dosyalariYedekle(Station& istasyon, const std::string& into) {
+  const FilesResult result = dosyalariAl(istasyon, into);
+  std::string told = eksikKalan(istasyon, result);
+  if (result.elsewhere > 0) {
+    if (!told.empty()) told += "\n\n";
+    told += doldurulmus(istasyon, Phrase::PicturesElsewhere, {std::to_string(result.elsewhere)});
+  }
+  if (!told.empty()) istasyon.bilgi(told);
+}
+
 std::string neOldu(Station& istasyon, const BackgroundResult& result) {
   if (result.stopped) return phrase(istasyon, Phrase::BackupStopped);
   return phrase(istasyon, Phrase::BackupFailed) + "\n" + nedeni(istasyon, result.status);
-}
-
-// A folder that is not set or not there, such as a stick that was pulled out, has a stand-in.
-std::string cikisKlasoru(Station& istasyon) {
-  const std::string folder = istasyon.ayar(backupFolderSetting);
-  std::error_code unreachable;
-  if (!folder.empty() && std::filesystem::is_directory(folder, unreachable)) return ayracla(folder);
-  const std::string own = kendiYedekKlasoru(istasyon);
-  // A folder that cannot be made is met again, with its reason, by the copying.
-  files::createFolders(own).ignore();
-  istasyon.ayarYaz(backupFolderSetting, own);
-  return own;
 }
 
 }  // namespace
@@ -56,6 +85,21 @@ std::string yedekKlasoru(const Station& istasyon) {
   return folder.empty() ? kendiYedekKlasoru(istasyon) : ayracla(folder);
 }
 
+std::string yazilacakYedekKlasoru(const Station& istasyon) {
+  const std::string folder = istasyon.ayar(backupFolderSetting);
+  std::error_code unreachable;
+  const bool there = !folder.empty() && std::filesystem::is_directory(folder, unreachable);
+  return there ? ayracla(folder) : kendiYedekKlasoru(istasyon);
+}
+
+std::string hazirYedekKlasoru(Station& istasyon) {
+  const std::string folder = yazilacakYedekKlasoru(istasyon);
+  // A folder that cannot be made is met again, with its reason, by the copying.
+  files::createFolders(folder).ignore();
+  istasyon.ayarYaz(backupFolderSetting, folder);
+  return folder;
+}
+
 bool yedekle(Station& istasyon, const std::string& folder) {
   const std::string into = ayracla(folder);
   const BackgroundResult result = yedekAl(istasyon, into, Kinds(stores::storeKinds).first(2));
@@ -64,15 +108,18 @@ bool yedekle(Station& istasyon, const std::string& folder) {
     return false;
   }
   istasyon.ayarYaz(backupFolderSetting, into);
+  dosyalariYedekle(istasyon, into);
   return true;
 }
 
 bool cikistayedekle(Station& istasyon) {
   if (istasyon.ayar("closebackup", "0") == "0") return true;
-  const BackgroundResult result = yedekAl(istasyon, cikisKlasoru(istasyon), stores::storeKinds);
-  if (result.status) return true;
-  const std::string question =
-      neOldu(istasyon, result) + "\n\n" + phrase(istasyon, Phrase::LeaveWithoutBackup);
+  const std::string folder = hazirYedekKlasoru(istasyon);
+  const BackgroundResult result = yedekAl(istasyon, folder, stores::storeKinds);
+  const std::string trouble = result.status ? eksikKalan(istasyon, dosyalariAl(istasyon, folder))
+                                            : neOldu(istasyon, result);
+  if (trouble.empty()) return true;
+  const std::string question = trouble + "\n\n" + phrase(istasyon, Phrase::LeaveWithoutBackup);
   return istasyon.mesaj(question, host::Buttons::YesNo, host::Icon::Critical,
                         host::Stake::Existing) == host::Answer::Yes;
 }

@@ -10,7 +10,8 @@ namespace shell {
 void ucretBicimle(forms::TextControl& fee);
 
 // Called when a stored record is shown. An amount in old lira asks whether all amounts of the store
-// are to be converted; on Yes they are, and the field shows the new one.
+// are to be converted. On Yes their number, the largest and the smallest are told, and a backup is
+// offered, before they are; then the field shows the new one.
 void eskiUcretSor(Station& istasyon, forms::TextControl& fee);
 
 }  // namespace shell

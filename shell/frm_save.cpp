@@ -10,6 +10,7 @@
 #include "shell/file_words.h"
 #include "shell/text_lookup.h"
 #include "stores/backup.h"
+#include "stores/practice_files.h"
 
 namespace shell {
 
@@ -51,6 +52,7 @@ FrmSave::FrmSave(Station& station) : Form("FrmSave"), istasyon(station) {
 
 void FrmSave::Load() {
   basliklariyaz(istasyon, *this);
+  buttamam.setCaption(phrase(istasyon, Phrase::CloseWindow));
   LDosyalar.setCaption("Personal.mdb\nSanavel.mdb");
   std::vector<std::string> places;
   for (const fs::path& place : files::places()) places.push_back(place.string());
@@ -107,6 +109,14 @@ void FrmSave::sonYedegiYaz() {
     if (!state) continue;
     if (!lines.empty()) lines += "\n";
     lines += std::string(kind.file) + "   " + tarihSaat(*state) + "   " + boyut(state->bytes);
+  }
+  const auto files = stores::practiceFiles(klasor_ / stores::backupFilesFolder);
+  if (!files.empty()) {
+    std::int64_t bytes = 0;
+    for (const stores::PracticeFile& file : files) bytes += file.bytes;
+    if (!lines.empty()) lines += "\n";
+    lines += phrase(istasyon, Phrase::FilesInBackup) + std::to_string(files.size()) + "   " +
+             boyut(static_cast<std::uintmax_t>(bytes));
   }
   Lsonyedek.setCaption(lines.empty() ? phrase(istasyon, Phrase::NoBackupYet) : lines);
 }

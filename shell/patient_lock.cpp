@@ -33,8 +33,8 @@ Result<PatientLock> PatientLock::take(Station& istasyon) {
   return PatientLock(istasyon, std::nullopt);
 }
 
-bool PatientLock::isElsewhere(std::string_view name) const {
-  return held_ && istasyon_.sicil.isElsewhere(name).value_or(false);
+long PatientLock::whereElse(std::string_view name) const {
+  return held_ ? istasyon_.sicil.whereElse(name).value_or(0) : 0;
 }
 
 void PatientLock::publish(std::string_view name) {

@@ -20,7 +20,9 @@ class PatientLock {
   // Busy when another station keeps the register for too long.
   [[nodiscard]] static platform::Result<PatientLock> take(Station& istasyon);
 
-  [[nodiscard]] bool isElsewhere(std::string_view name) const;
+  // The number of the other station that has the patient; 0 for none.
+  [[nodiscard]] long whereElse(std::string_view name) const;
+  [[nodiscard]] bool isElsewhere(std::string_view name) const { return whereElse(name) > 0; }
   // From now on the patient is this station's, and the one before is free; empty for none.
   void publish(std::string_view name);
 

@@ -123,21 +123,63 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::Reply, "Reply", "Yanıtla"},
     {Phrase::MessageNotSent, "The message was not sent. Discard it?",
      "Mesaj gönderilmedi. Vazgeçilsin mi?"},
+    {Phrase::CharactersReplaced, "The file cannot hold these characters. In their place go:",
+     "Dosya bu karakterleri tutamıyor. Yerlerine yazılacak olanlar:"},
+    {Phrase::TextsCut,
+     "This does not fit and would be left out:", "Şu bölümler sığmıyor, yazılmayacak:"},
+    {Phrase::SendMessageSo, "Send the message like this?", "Mesaj böyle gönderilsin mi?"},
+    {Phrase::FontsNotKept,
+     "The file has no room for the names of these fonts. They hold until the window is closed:",
+     "Dosyada şu yazı tiplerinin adlarına yer yok. Pencere kapanana kadar geçerliler:"},
+    {Phrase::KeepTextSo, "Keep it like this?", "Böyle saklansın mı?"},
+    {Phrase::MessageRoom, "characters left: ", "kalan karakter: "},
+    {Phrase::MessageTooLong, "characters too many: ", "fazla karakter: "},
     {Phrase::MessageCount, "messages: ", "mesaj: "},
     {Phrase::UnreadCount, "unread: ", "okunmamış: "},
     {Phrase::NoMessages, "No messages. Press F5 to look again.",
      "Mesaj yok. Yeniden bakmak için F5'e basın."},
+    {Phrase::FeesToConvert,
+     "About %1 amounts would be divided by 1,000,000: all that are above 10,000, even where they "
+     "are in new lira already.%2\n\nThe largest: %3 becomes %4\nThe smallest: %5 becomes %6\n"
+     "With a decimal point, as amounts in new lira have: %7\n\nThis cannot be taken back. Convert "
+     "them?",
+     "Yaklaşık %1 tutar 1.000.000'a bölünecek: 10.000'in üzerindekilerin hepsi, YTL olsalar "
+     "bile.%2\n\nEn büyüğü: %3, yenisi %4\nEn küçüğü: %5, yenisi %6\nYTL tutarlarındaki gibi "
+     "ondalık noktası olanlar: %7\n\nBu işlem geri alınamaz. Dönüştürülsün mü?"},
+    {Phrase::BackupBeforeFees,
+     "Make a backup into %1 first?\n\nNo converts without a backup; Esc converts nothing.",
+     "Önce %1 klasörüne yedek alınsın mı?\n\nHayır yedek almadan dönüştürür, Esc hiçbir şeyi "
+     "dönüştürmez."},
     {Phrase::BackupFailed, "The backup was not made; an older one stays as it was.",
      "Yedek alınamadı; varsa eski yedek olduğu gibi duruyor."},
     {Phrase::BackupStopped, "The backup was stopped; an older one stays as it was.",
      "Yedekleme durduruldu; varsa eski yedek olduğu gibi duruyor."},
+    {Phrase::FilesBackup, "Pictures and documents", "Resimler ve belgeler"},
+    {Phrase::FilesBackupStopped,
+     "The records are backed up. Copying pictures and documents was stopped; the next backup goes "
+     "on from there.",
+     "Kayıtların yedeği alındı. Resim ve belgelerin kopyalanması durduruldu; sonraki yedekleme "
+     "kaldığı yerden sürer."},
+    {Phrase::FilesBackupFailed, "The records are backed up, the pictures and documents are not.",
+     "Kayıtların yedeği alındı, resim ve belgelerinki alınamadı."},
+    {Phrase::FilesLeftOut,
+     "The records are backed up. %1 pictures or documents could not be copied: %2",
+     "Kayıtların yedeği alındı. %1 resim veya belge kopyalanamadı: %2"},
+    {Phrase::PicturesElsewhere,
+     "%1 pictures of the records lie outside the folders Image and Documents; they are not in the "
+     "backup.",
+     "Kayıtlardaki %1 resim Image ve Documents klasörlerinin dışında duruyor; yedekte yoklar."},
+    {Phrase::FilesInBackup, "Pictures and documents: ", "Resimler ve belgeler: "},
+    {Phrase::CloseWindow, "Close", "Kapat"},
     {Phrase::LeaveWithoutBackup, "Close the program without a backup?",
      "Program yedek almadan kapatılsın mı?"},
     {Phrase::BackupHint,
      "Open the folder that is to hold the backup, best on another disk. The copies are checked "
-     "before they replace older ones. Other stations go on working meanwhile.",
+     "before they replace older ones. Pictures, documents and letterhead go along. Other stations "
+     "go on working meanwhile.",
      "Yedeğin duracağı klasörü açın; en iyisi başka bir disktir. Kopyalar denetlenmeden "
-     "eskilerinin yerine geçmez. Bu sırada öbür istasyonlar çalışmayı sürdürür."},
+     "eskilerinin yerine geçmez. Resimler, belgeler ve başlık da kopyalanır. Bu sırada öbür "
+     "istasyonlar çalışmayı sürdürür."},
     {Phrase::BackupNotIntoData, "This folder holds the records themselves. Open another one.",
      "Bu klasörde kayıtların kendisi duruyor. Başka bir klasör açın."},
     {Phrase::Place, "Place", "Yer"},
@@ -157,11 +199,23 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::RestoreWantsAlone,
      "Another station is using the records. Close the program there, then restore.",
      "Kayıtları başka bir istasyon kullanıyor. Önce orada programı kapatın."},
+    {Phrase::RestoreFiles,
+     "Pictures, documents and letterhead of the backup: %1 are missing here, %2 are older here.\n"
+     "Bring them back?",
+     "Yedekteki resimler, belgeler ve başlık: %1 tanesi burada yok, %2 tanesi burada daha eski.\n"
+     "Geri getirilsin mi?"},
+    {Phrase::RestoreNewerFiles,
+     "%1 files were changed here after they were backed up, among them %2.\nReplace them by those "
+     "of the backup?",
+     "%1 dosya yedeklendikten sonra burada değişmiş; biri: %2.\nYedektekilerle değiştirilsin mi?"},
+    {Phrase::FilesNotRestored, "%1 pictures or documents were not brought back. %2",
+     "%1 resim veya belge geri getirilemedi. %2"},
     {Phrase::RestoreDrill, "Test the Backup", "Yedeği Dene"},
     {Phrase::DrillSound,
      "The backup of %1 is sound. It would bring back %2 patients and %3 records; last examination: "
-     "%4.",
-     "%1 tarihli yedek sağlam. Geri yüklenirse: %2 hasta, %3 kayıt; son muayene: %4."},
+     "%4. Pictures and documents: %5.",
+     "%1 tarihli yedek sağlam. Geri yüklenirse: %2 hasta, %3 kayıt; son muayene: %4. Resim ve "
+     "belge: %5."},
     {Phrase::DrillFailed, "The backup of %1 cannot be restored. %2",
      "%1 tarihli yedek geri yüklenemez. %2"},
     {Phrase::NothingFound, "none", "yok"},

@@ -82,11 +82,27 @@ enum class Phrase {
   PicturePathTooLong,  // the largest number of characters follows
   Reply,
   MessageNotSent,
-  MessageCount,  // a number follows
-  UnreadCount,   // a number follows
+  CharactersReplaced,  // a list follows
+  TextsCut,            // lines follow
+  SendMessageSo,
+  FontsNotKept,  // lines follow
+  KeepTextSo,
+  MessageRoom,     // a number follows
+  MessageTooLong,  // a number follows
+  MessageCount,    // a number follows
+  UnreadCount,     // a number follows
   NoMessages,
-  BackupFailed,  // a reason follows
+  FeesToConvert,  // %1 number, %2 lines, %3 to %6 largest, smallest and what they become, %7 number
+  BackupBeforeFees,  // %1 folder
+  BackupFailed,      // a reason follows
   BackupStopped,
+  FilesBackup,
+  FilesBackupStopped,
+  FilesBackupFailed,  // a reason follows
+  FilesLeftOut,       // %1 number, %2 reason
+  PicturesElsewhere,  // %1 number
+  FilesInBackup,      // a number follows
+  CloseWindow,
   LeaveWithoutBackup,
   BackupHint,
   BackupNotIntoData,
@@ -101,8 +117,11 @@ enum class Phrase {
   RestoreFailed,  // a reason follows
   RestoreStopped,
   RestoreWantsAlone,
+  RestoreFiles,       // %1 missing, %2 older ones
+  RestoreNewerFiles,  // %1 number, %2 one of them
+  FilesNotRestored,   // %1 number, %2 reason
   RestoreDrill,
-  DrillSound,    // %1 date, %2 patients, %3 records, %4 last examination
+  DrillSound,    // %1 date, %2 patients, %3 records, %4 last examination, %5 files
   DrillFailed,   // %1 date, %2 reason
   NothingFound,  // in front of nothing: a date that is not there
   NoFile,

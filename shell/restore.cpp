@@ -11,6 +11,7 @@
 #include "shell/store_opening.h"
 #include "shell/text_lookup.h"
 #include "stores/backup.h"
+#include "stores/practice_files.h"
 #include "stores/restore.h"
 #include "stores/restore_drill.h"
 
@@ -134,12 +135,58 @@ void yalnizDegil(Station& istasyon) {
                  host::Icon::Critical);
 }
 
+using Files = std::vector<stores::PracticeFile>;
+
+// What the user wants back; a file that is newer here than in the backup has a question of its own.
+Files istenenDosyalar(Station& istasyon, const fs::path& kept) {
+  auto found = stores::compareFiles(stores::practiceFiles(kept), istasyon.UygYolu);
+  const std::size_t missing = found.missing.size();
+  const std::size_t older = found.older.size();
+  Files wanted;
+  if (missing + older > 0 &&
+      istasyon.confirmLoss(doldurulmus(istasyon, Phrase::RestoreFiles,
+                                       {std::to_string(missing), std::to_string(older)}))) {
+    wanted = std::move(found.missing);
+    wanted.insert(wanted.end(), found.older.begin(), found.older.end());
+  }
+  if (found.newer.empty()) return wanted;
+  const std::string count = std::to_string(found.newer.size());
+  const std::string first = found.newer.front().name.string();
+  if (istasyon.confirmLoss(doldurulmus(istasyon, Phrase::RestoreNewerFiles, {count, first})))
+    wanted.insert(wanted.end(), found.newer.begin(), found.newer.end());
+  return wanted;
+}
+
+// One of them may be the file of font records, which is open as the stores are. True when they were
+// closed for it.
+bool dosyalariGeriYukle(Station& istasyon, const fs::path& backup) {
+  const fs::path kept = backup / stores::backupFilesFolder;
+  const Files wanted = istenenDosyalar(istasyon, kept);
+  if (wanted.empty()) return false;
+  stores::CloseStores(istasyon.stores);
+  stores::FileCopies copies;
+  const auto work = [&, program = istasyon.UygYolu](const stores::Progress& progress) {
+    return stores::copyFiles(kept, program, wanted, copies, progress);
+  };
+  const BackgroundResult result = arkadaYap(istasyon, phrase(istasyon, Phrase::FilesBackup), work);
+  depolariAc(istasyon);
+  if (!result.status || copies.failed > 0) {
+    const std::string left =
+        std::to_string(wanted.size() - static_cast<std::size_t>(copies.copied));
+    const dao::Status& fault = result.status ? copies.fault : result.status;
+    istasyon.bilgi(doldurulmus(istasyon, Phrase::FilesNotRestored,
+                               {left, result.stopped ? "" : nedeni(istasyon, fault)}));
+  }
+  return true;
+}
+
 std::string denemeSonucu(Station& istasyon, const stores::DrillReport& report,
                          const std::string& date) {
   const std::string last = report.lastExamination ? text::shortDate(*report.lastExamination)
                                                   : phrase(istasyon, Phrase::NothingFound);
   return doldurulmus(istasyon, Phrase::DrillSound,
-                     {date, std::to_string(report.patients), std::to_string(report.records), last});
+                     {date, std::to_string(report.patients), std::to_string(report.records), last,
+                      std::to_string(report.files)});
 }
 
 }  // namespace
@@ -155,8 +202,9 @@ bool mnugeriyukle_Click(Station& istasyon) {
     if (!result.status)
       istasyon.mesaj(neOldu(istasyon, result), host::Buttons::Ok, host::Icon::Critical);
   }
+  const bool files = dosyalariGeriYukle(istasyon, backup);
   eksikleriSoyle(istasyon, backup);
-  return !wanted.empty();
+  return files || !wanted.empty();
 }
 
 void yedegiDene(Station& istasyon) {

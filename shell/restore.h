@@ -6,7 +6,8 @@
 namespace shell {
 
 // Asks for the Personal and for the Clinical store whether the backup's file is to replace it; the
-// Smoking store follows without a question. All of them are replaced, or, after a fault, none. The
+// Smoking store follows without a question. All of them are replaced, or, after a fault, none. Then
+// the files beside the stores come back, after a question, newer ones after another. The
 // stores of the station are open afterwards. True when they were closed meanwhile: whatever shows
 // their rows is to be filled again.
 bool mnugeriyukle_Click(Station& istasyon);

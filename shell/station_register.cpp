@@ -126,7 +126,7 @@ Result<long> StationRegister::takeSlot() {
   return std::unexpected(Status(Fault::Other, path_));
 }
 
-Result<bool> StationRegister::isElsewhere(std::string_view name) const {
+Result<long> StationRegister::whereElse(std::string_view name) const {
   const std::string wanted = slotName(name);
   const auto count = file_ ? file_->count() : Result<long>(0);
   if (!count) return std::unexpected(count.error());
@@ -134,9 +134,15 @@ Result<bool> StationRegister::isElsewhere(std::string_view name) const {
     if (slot == slot_) continue;
     const auto other = read(slot);
     if (!other) return std::unexpected(other.error());
-    if (other->used != 0 && other->name == wanted && isRunning(slot)) return true;
+    if (other->used != 0 && other->name == wanted && isRunning(slot)) return slot;
   }
-  return false;
+  return 0;
+}
+
+Result<bool> StationRegister::isElsewhere(std::string_view name) const {
+  const auto slot = whereElse(name);
+  if (!slot) return std::unexpected(slot.error());
+  return *slot > 0;
 }
 
 Result<NetRecord> StationRegister::own() const {

@@ -45,7 +45,8 @@ class StationRegister {
 
   // The rest is called under lock().
 
-  // Whether another running station has a patient of that name on its card.
+  // The slot of the other running station that has a patient of that name on its card; 0 for none.
+  [[nodiscard]] platform::Result<long> whereElse(std::string_view name) const;
   [[nodiscard]] platform::Result<bool> isElsewhere(std::string_view name) const;
   [[nodiscard]] platform::Result<files::NetRecord> own() const;
   [[nodiscard]] platform::Status writeOwn(const files::NetRecord& record);

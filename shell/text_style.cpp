@@ -15,6 +15,7 @@ void apply(const forms::Form& form, forms::RichTextBox& text, bool bold) {
     format.italic = font.italic;
     format.underline = font.underline;
     format.strike = font.strikethrough;
+    format.script = richtext::Script::Normal;
     format.colour = font.colour;
     editor.setSelFormat(format);
   });

@@ -1,5 +1,6 @@
 #include "stores/old_fees.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <utility>
@@ -37,40 +38,57 @@ std::string bracketed(std::string_view name) {
   return "[" + std::string(name) + "]";
 }
 
+// The old amounts of a column in the order of their rows.
+class AmountReader {
+ public:
+  AmountReader(dao::Database& clinical, const AmountColumn& at)
+      : clinical_(clinical),
+        select_("SELECT [Count], " + bracketed(at.column) + " FROM " + bracketed(at.table) +
+                " WHERE [Count] > ? AND " + bracketed(at.column) +
+                " <> '' ORDER BY [Count] LIMIT ?") {}
+
+  // Calls with the old ones among the next rows; false at the end.
+  template <class Visit>
+  dao::Result<bool> readPage(const Visit& visit) {
+    auto rows = clinical_.OpenRecordset(select_, {last_, rowsAtOnce});
+    if (!rows) return std::unexpected(rows.error());
+    if (rows->empty()) return false;
+    for (; !rows->Eof(); rows->MoveNext().ignore()) {
+      last_ = rows->Fields(0).Value().integer();
+      const std::string_view amount = rows->Fields(1).view();
+      if (isOldAmount(amount)) visit(last_, amount);
+    }
+    return true;
+  }
+
+ private:
+  dao::Database& clinical_;
+  std::string select_;
+  std::int64_t last_ = std::numeric_limits<std::int64_t>::min();
+};
+
 class ColumnConversion {
  public:
   ColumnConversion(dao::Database& clinical, const AmountColumn& at)
       : clinical_(clinical),
-        column_(bracketed(at.column)),
-        table_(bracketed(at.table)),
-        select_("SELECT [Count], " + column_ + " FROM " + table_ + " WHERE [Count] > ? AND " +
-                column_ + " <> '' ORDER BY [Count] LIMIT ?"),
-        update_("UPDATE " + table_ + " SET " + column_ +
+        reader_(clinical, at),
+        update_("UPDATE " + bracketed(at.table) + " SET " + bracketed(at.column) +
                 " = j.value FROM json_each(?) AS j WHERE [Count] = CAST(j.key AS INTEGER)") {}
 
   dao::Result<std::int64_t> run() {
-    std::int64_t last = std::numeric_limits<std::int64_t>::min();
     for (;;) {
-      auto rows = clinical_.OpenRecordset(select_, {last, rowsAtOnce});
-      if (!rows) return std::unexpected(rows.error());
-      if (rows->empty()) return changed_;
-      last = gather(*rows);
+      const auto more = reader_.readPage(
+          [this](std::int64_t number, std::string_view amount) { gather(number, amount); });
+      if (!more) return std::unexpected(more.error());
+      if (!*more) return changed_;
       if (dao::Status done = writeGathered(); !done) return std::unexpected(done);
     }
   }
 
  private:
-  // The number of the last row.
-  std::int64_t gather(dao::Recordset& rows) {
-    std::int64_t number = 0;
-    for (; !rows.Eof(); rows.MoveNext().ignore()) {
-      number = rows.Fields(0).Value().integer();
-      const std::string_view amount = rows.Fields(1).view();
-      if (!isOldAmount(amount)) continue;
-      gathered_.append(gathered_.empty() ? "{\"" : ",\"").append(std::to_string(number));
-      gathered_.append("\":\"").append(newAmount(amount)).append("\"");
-    }
-    return number;
+  void gather(std::int64_t number, std::string_view amount) {
+    gathered_.append(gathered_.empty() ? "{\"" : ",\"").append(std::to_string(number));
+    gathered_.append("\":\"").append(newAmount(amount)).append("\"");
   }
 
   dao::Status writeGathered() {
@@ -82,13 +100,25 @@ class ColumnConversion {
   }
 
   dao::Database& clinical_;
-  std::string column_;
-  std::string table_;
-  std::string select_;
+  AmountReader reader_;
   std::string update_;
   std::string gathered_;  // new amounts by the number of their row, as the engine's object
   std::int64_t changed_ = 0;
 };
+
+void note(OldAmounts& found, std::string_view table, std::string_view amount) {
+  const auto row = std::ranges::find(found.tables, table, &OldAmounts::Table::name);
+  if (row == found.tables.end()) {
+    found.tables.push_back({table, 1});
+  } else {
+    ++row->amounts;
+  }
+  const auto value = text::number(amount);
+  if (found.amounts == 0 || value > text::number(found.largest)) found.largest = amount;
+  if (found.amounts == 0 || value < text::number(found.smallest)) found.smallest = amount;
+  ++found.amounts;
+  if (amount.find('.') != amount.npos) ++found.pointed;
+}
 
 }  // namespace
 
@@ -99,6 +129,19 @@ bool isOldAmount(std::string_view text) {
 
 std::string newAmount(std::string_view old) {
   return text::amount(text::number(old).value_or(0) / oldLiraPerNew);
+}
+
+dao::Result<OldAmounts> findOldAmounts(ClinicalStore& clinical) {
+  OldAmounts found;
+  for (const AmountColumn& at : amountColumns) {
+    AmountReader reader(clinical.database, at);
+    for (dao::Result<bool> more = true; more != false;) {
+      more = reader.readPage(
+          [&](std::int64_t, std::string_view amount) { note(found, at.table, amount); });
+      if (!more) return std::unexpected(more.error());
+    }
+  }
+  return found;
 }
 
 dao::Result<std::int64_t> ConvertOldFees(ClinicalStore& clinical) {

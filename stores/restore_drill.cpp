@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/files/copy_file.h"
+#include "stores/practice_files.h"
 #include "stores/store_kinds.h"
 #include "stores/visit_ledger.h"
 
@@ -100,7 +101,10 @@ dao::Result<DrillReport> restoreDrill(const fs::path& backup, const fs::path& sc
     const dao::Status good = copyChecked(backup, folder.path(), kind, progress);
     if (!good) return std::unexpected(good);
   }
-  return reportOn(folder.path());
+  auto report = reportOn(folder.path());
+  if (report)
+    report->files = static_cast<std::int64_t>(practiceFiles(backup / backupFilesFolder).size());
+  return report;
 }
 
 std::optional<fs::path> newestBackup(std::span<const fs::path> folders) {

@@ -16,6 +16,7 @@ namespace stores {
 struct DrillReport {
   std::int64_t patients = 0;
   std::int64_t records = 0;  // dated ones of all kinds
+  std::int64_t files = 0;    // letterhead, documents, pictures
   std::optional<text::DateTime> lastExamination;
 };
 

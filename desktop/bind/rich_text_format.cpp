@@ -20,6 +20,18 @@ Qt::Alignment alignmentOf(richtext::Alignment alignment) {
   return Qt::AlignLeft;
 }
 
+QTextCharFormat::VerticalAlignment alignmentOf(richtext::Script script) {
+  switch (script) {
+    case richtext::Script::Super:
+      return QTextCharFormat::AlignSuperScript;
+    case richtext::Script::Sub:
+      return QTextCharFormat::AlignSubScript;
+    case richtext::Script::Normal:
+      break;
+  }
+  return QTextCharFormat::AlignNormal;
+}
+
 }  // namespace
 
 QTextCharFormat charFormat(const richtext::CharFormat& format) {
@@ -30,6 +42,7 @@ QTextCharFormat charFormat(const richtext::CharFormat& format) {
   chars.setFontItalic(format.italic);
   chars.setFontUnderline(format.underline);
   chars.setFontStrikeOut(format.strike);
+  chars.setVerticalAlignment(alignmentOf(format.script));
   if (format.colour) chars.setForeground(QColor::fromRgb(*format.colour));
   return chars;
 }

@@ -13,7 +13,8 @@ constexpr int twipsPerHalfPoint = page::twipsPerPoint / 2;
 QFont made(const page::Font& wanted) {
   QFont font(qs(wanted.font));
   font.setStyleHint(QFont::SansSerif);
-  font.setPixelSize(std::max(1, wanted.halfPoints) * twipsPerHalfPoint);
+  const int size = std::max(1, wanted.halfPoints) * twipsPerHalfPoint;
+  font.setPixelSize(wanted.script == richtext::Script::Normal ? size : size * 2 / 3);
   font.setBold(wanted.bold);
   font.setItalic(wanted.italic);
   font.setUnderline(wanted.underline);

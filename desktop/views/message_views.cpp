@@ -76,6 +76,7 @@ std::unique_ptr<QWidget> messageView(forms::Form& form) {
     fields->add(makeWidget(form, name, *fields));
   fields->addGrowing(makeWidget(form, "txtmesaj", *fields));
   column->addWidget(fields, 1);
+  column->addWidget(makeWidget(form, "Lkalan", *window), 0, Qt::AlignRight);
   QHBoxLayout* const row = acceptingRow(form, *window, "Butgönder");
   row->insertWidget(0, makeWidget(form, "ButLKimden", *window));
   column->addLayout(row);

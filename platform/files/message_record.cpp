@@ -23,12 +23,16 @@ constexpr NumberField<MessageRecord> numberFields[] = {
 
 }  // namespace
 
+RecordBuffer MessageRecord::unwritten() {
+  return asNew<MessageRecord>(RecordBuffer{length}, textFields);
+}
+
 MessageRecord MessageRecord::decode(RecordBuffer buffer) {
   buffer.resize(length);
   MessageRecord record;
   for (const auto& field : textFields) read(record, buffer, field);
   for (const auto& field : numberFields) read(record, buffer, field);
-  record.carried_ = std::move(buffer);
+  record.carried_ = asNew<MessageRecord>(std::move(buffer), textFields);
   return record;
 }
 

@@ -25,13 +25,16 @@ struct MessageRecord {
 
   // A buffer of another length reads as if filled with zeros, or cut.
   static MessageRecord decode(RecordBuffer buffer);
-  // Bytes that belong to no changed field come back as decode() found them.
+  // Bytes that belong to no changed field come back as decode() found them; the texts of a record
+  // that was never written are blanks.
   [[nodiscard]] RecordBuffer encode() const;
   // Whether both are one note, whatever their flags say.
   [[nodiscard]] bool isSameNote(const MessageRecord& other) const;
 
  private:
-  RecordBuffer carried_{length};
+  static RecordBuffer unwritten();
+
+  RecordBuffer carried_ = unwritten();
 };
 
 }  // namespace files

@@ -38,7 +38,7 @@ Result<std::vector<std::string>> readNames(const std::filesystem::path& path) {
 Status addName(const std::filesystem::path& path, std::string_view name) {
   RecordBuffer buffer{nameWidth};
   buffer.setText(0, nameWidth, text::trimmed(name));
-  const std::string kept = text::trim(buffer.textAt(0, nameWidth));
+  const std::string kept = text::trim(keptText(text::trimmed(name), nameWidth));
   if (kept.empty()) return {};
   auto file = RecordFile::open(path, nameWidth);
   if (!file) return file.error();

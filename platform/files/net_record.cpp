@@ -7,7 +7,7 @@
 namespace files {
 namespace {
 
-constexpr TextField<NetRecord> nameField{&NetRecord::name, 0, 40};
+constexpr TextField<NetRecord> nameFields[] = {{&NetRecord::name, 0, 40}};
 
 constexpr NumberField<NetRecord> numberFields[] = {
     {&NetRecord::used, 40},
@@ -17,18 +17,22 @@ constexpr NumberField<NetRecord> numberFields[] = {
 
 }  // namespace
 
+RecordBuffer NetRecord::unwritten() {
+  return asNew<NetRecord>(RecordBuffer{length}, nameFields);
+}
+
 NetRecord NetRecord::decode(RecordBuffer buffer) {
   buffer.resize(length);
   NetRecord record;
-  read(record, buffer, nameField);
+  read(record, buffer, nameFields[0]);
   for (const auto& field : numberFields) read(record, buffer, field);
-  record.carried_ = std::move(buffer);
+  record.carried_ = asNew<NetRecord>(std::move(buffer), nameFields);
   return record;
 }
 
 RecordBuffer NetRecord::encode() const {
   RecordBuffer buffer = carried_;
-  write(*this, buffer, nameField);
+  write(*this, buffer, nameFields[0]);
   for (const auto& field : numberFields) write(*this, buffer, field);
   return buffer;
 }

@@ -3,6 +3,7 @@
 #include <cassert>
 
 #include "platform/text/codepage.h"
+#include "platform/text/nearest.h"
 
 namespace files {
 
@@ -30,9 +31,15 @@ std::string RecordBuffer::textAt(std::size_t offset, std::size_t width) const {
 
 void RecordBuffer::setText(std::size_t offset, std::size_t width, std::string_view text) {
   assert(offset + width <= size());
-  std::string field = text::toTurkishCodePage(text);
+  std::string field = text::toTurkishCodePage(text::nearestTurkish(text));
   field.resize(width, ' ');
   bytes_.replace(offset, width, field);
+}
+
+std::string keptText(std::string_view text, std::size_t width) {
+  RecordBuffer field{width};
+  field.setText(0, width, text);
+  return field.textAt(0, width);
 }
 
 }  // namespace files

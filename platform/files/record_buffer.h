@@ -32,7 +32,8 @@ class RecordBuffer {
     setInt16(offset, static_cast<std::int16_t>(value ? -1 : 0));
   }
 
-  // UTF-8; blanks and NULs at the end are left off at reading, what is too wide is cut at writing.
+  // UTF-8; blanks and NULs at the end are left off at reading. At writing, characters that the code
+  // page lacks become the nearest ones, and what is too wide is cut.
   [[nodiscard]] std::string textAt(std::size_t offset, std::size_t width) const;
   void setText(std::size_t offset, std::size_t width, std::string_view text);
 
@@ -41,5 +42,8 @@ class RecordBuffer {
  private:
   std::string bytes_;
 };
+
+// What comes back from a field of that width when the text was written to it.
+[[nodiscard]] std::string keptText(std::string_view text, std::size_t width);
 
 }  // namespace files

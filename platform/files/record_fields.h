@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "platform/files/record_buffer.h"
@@ -27,6 +28,15 @@ struct FlagField {
   bool Layout::*member;
   std::size_t offset;
 };
+
+// A record as nobody has written it yet: its texts are blank, its numbers 0. One that holds nothing
+// but zeros, as the room that a file gained does, is the same.
+template <class Layout>
+RecordBuffer asNew(RecordBuffer buffer, std::span<const TextField<Layout>> texts) {
+  if (buffer != RecordBuffer{buffer.size()}) return buffer;
+  for (const TextField<Layout>& field : texts) buffer.setText(field.offset, field.width, {});
+  return buffer;
+}
 
 template <class Layout>
 void read(Layout& layout, const RecordBuffer& buffer, const TextField<Layout>& field) {

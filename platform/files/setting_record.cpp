@@ -29,6 +29,10 @@ constexpr FlagField<SettingRecord> flags[] = {
 
 }  // namespace
 
+RecordBuffer SettingRecord::unwritten() {
+  return asNew<SettingRecord>(RecordBuffer{length}, texts);
+}
+
 SettingRecord SettingRecord::decode(RecordBuffer buffer) {
   buffer.resize(length);
   SettingRecord record;
@@ -38,7 +42,7 @@ SettingRecord SettingRecord::decode(RecordBuffer buffer) {
   for (std::size_t i = 0; i < record.numbers.size(); ++i) {
     record.numbers[i] = buffer.int16At(numbersOffset + 2 * i);
   }
-  record.carried_ = std::move(buffer);
+  record.carried_ = asNew<SettingRecord>(std::move(buffer), texts);
   return record;
 }
 

@@ -28,11 +28,14 @@ struct SettingRecord {
 
   // A buffer of another length reads as if filled with zeros, or cut.
   static SettingRecord decode(RecordBuffer buffer);
-  // Bytes that belong to no changed field come back as decode() found them.
+  // Bytes that belong to no changed field come back as decode() found them; the texts of a record
+  // that was never written are blanks.
   [[nodiscard]] RecordBuffer encode() const;
 
  private:
-  RecordBuffer carried_{length};
+  static RecordBuffer unwritten();
+
+  RecordBuffer carried_ = unwritten();
 };
 
 }  // namespace files

@@ -21,6 +21,19 @@ struct WordPiece {
   int width = 0;
 };
 
+// The font that a raised or lowered text belongs to.
+Font onTheLine(Font font) {
+  font.script = richtext::Script::Normal;
+  return font;
+}
+
+// From the base line of the line to that of the piece, downwards.
+int lowered(const Metrics& metrics, const Font& font) {
+  if (font.script == richtext::Script::Normal) return 0;
+  const int ascent = metrics.height(onTheLine(font)).ascent;
+  return font.script == richtext::Script::Super ? -ascent / 3 : ascent / 8;
+}
+
 bool isEmpty(const richtext::Paragraph& paragraph) {
   return paragraph.runs.size() == 1 && paragraph.runs.front().text.empty();
 }
@@ -137,7 +150,7 @@ class LineBreaker {
   }
 
   void raise(const Font& font) {
-    const FontHeight height = metrics_.height(font);
+    const FontHeight height = metrics_.height(onTheLine(font));
     line_.height.ascent = std::max(line_.height.ascent, height.ascent);
     line_.height.line = std::max(line_.height.line, height.line);
   }
@@ -180,7 +193,8 @@ void printLine(Device& device, const FlowLine& line) {
   for (const FlowPiece& piece : line.pieces) {
     device.font = piece.font;
     device.x = device.left + piece.x;
-    device.y = top + line.height.ascent - device.metrics().height(piece.font).ascent;
+    device.y = top + line.height.ascent - device.metrics().height(piece.font).ascent +
+               lowered(device.metrics(), piece.font);
     device.print(piece.text, Then::StayOnLine);
   }
   device.x = device.left;

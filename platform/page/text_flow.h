@@ -29,7 +29,8 @@ struct FlowLine {
 void eachLine(const Metrics& metrics, const richtext::Document& text, int width,
               const std::function<bool(const FlowLine&)>& visit);
 
-// Prints the line from the left edge on, its fonts on one base line, and moves below it.
+// Prints the line from the left edge on, its fonts on one base line but for raised and lowered
+// ones, and moves below it.
 void printLine(Device& device, const FlowLine& line);
 
 }  // namespace page

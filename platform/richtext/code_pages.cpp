@@ -7,6 +7,7 @@
 #include <array>
 #include <utility>
 
+#include "platform/richtext/johab.h"
 #include "platform/richtext/utf8.h"
 #include "platform/text/utf8.h"
 
@@ -35,6 +36,7 @@ constexpr auto kCharsets = std::to_array<std::pair<int, int>>({{2, kSymbolCodePa
                                                                {77, 10000},
                                                                {128, 932},
                                                                {129, 949},
+                                                               {130, kJohabCodePage},
                                                                {134, 936},
                                                                {136, 950},
                                                                {161, 1253},
@@ -107,6 +109,26 @@ int codePageOfCharset(int charset) {
   return known == kCharsets.end() ? 0 : known->second;
 }
 
+bool isLeadByte(int codePage, char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  switch (codePage) {
+    case 932:
+      return (value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC);
+    case 936:
+    case 949:
+    case 950:
+      return value >= 0x81 && value <= 0xFE;
+    case kJohabCodePage:
+      return value >= 0x84 && value <= 0xF9;
+    default:
+      return false;
+  }
+}
+
+bool mayEndInSign(int codePage) {
+  return codePage == 932 || codePage == 936 || codePage == 950 || codePage == kJohabCodePage;
+}
+
 void CodePages::decode(int codePage, std::string_view bytes, std::string& utf8) {
   if (codePage == kSymbolCodePage) {
     for (const char byte : bytes)
@@ -117,10 +139,19 @@ void CodePages::decode(int codePage, std::string_view bytes, std::string& utf8) 
     utf8 += bytes;
     return;
   }
+  if (codePage == kJohabCodePage) return decodeJohab(bytes, utf8);
   UErrorCode error = U_ZERO_ERROR;
   const icu::UnicodeString text(bytes.data(), static_cast<int32_t>(bytes.size()),
                                 converter(codePage), error);
   text.toUTF8String(utf8);
+}
+
+void CodePages::decodeJohab(std::string_view bytes, std::string& utf8) {
+  while (!bytes.empty()) {
+    const JohabCharacter next = takeJohab(bytes);
+    utf8 += next.utf8;
+    decode(949, next.wansung, utf8);
+  }
 }
 
 // ICU carries all the pages of the list; should its data be cut down, Latin-1 is always there.

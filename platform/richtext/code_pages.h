@@ -12,9 +12,15 @@ namespace richtext {
 
 constexpr int kTurkishCodePage = 1254;
 constexpr int kSymbolCodePage = 42;
+constexpr int kJohabCodePage = 1361;
 
 // The Windows code page of a font's character set number; 0 for the sets that follow the document.
 int codePageOfCharset(int charset);
+
+// Whether a character of two bytes begins with this one.
+bool isLeadByte(int codePage, char byte);
+// Whether the second byte of a character may be a brace or a backslash.
+bool mayEndInSign(int codePage);
 
 // Opens each converter once; one object serves one reader.
 class CodePages {
@@ -25,6 +31,7 @@ class CodePages {
   void decode(int codePage, std::string_view bytes, std::string& utf8);
 
  private:
+  void decodeJohab(std::string_view bytes, std::string& utf8);
   struct Closer {
     void operator()(UConverter* converter) const { ucnv_close(converter); }
   };

@@ -12,6 +12,8 @@ namespace richtext {
 // 0xRRGGBB; none is the automatic colour of the surface that the text is drawn on.
 using Colour = std::optional<std::uint32_t>;
 
+enum class Script { Normal, Super, Sub };
+
 struct CharFormat {
   std::string font = "MS Sans Serif";
   int halfPoints = 17;  // size in half points, 1 to 3276
@@ -20,6 +22,7 @@ struct CharFormat {
   bool underline = false;
   bool strike = false;
   Colour colour;
+  Script script = Script::Normal;
 
   bool operator==(const CharFormat&) const = default;
 };

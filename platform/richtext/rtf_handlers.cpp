@@ -25,7 +25,10 @@ bool isLowSurrogate(int unit) {
 }  // namespace
 
 void RtfInterpreter::onTarget(const Call& call) {
-  state_.target = static_cast<Target>(call.value);
+  const auto wanted = static_cast<Target>(call.value);
+  // What stands in a text box within a footnote is the footnote's.
+  if (state_.target == Target::Aside && wanted == Target::Body) return;
+  state_.target = wanted;
   if (state_.target == Target::ListText) listText_.clear();
 }
 
@@ -34,6 +37,7 @@ void RtfInterpreter::onCharacter(const Call& call) {
 }
 
 void RtfInterpreter::onParagraph(const Call& /*call*/) {
+  if (state_.target == Target::Aside) return addText(" ");
   if (inBody() && !state_.hidden) endParagraph();
 }
 
@@ -42,6 +46,7 @@ void RtfInterpreter::onBreak(const Call& /*call*/) {
 }
 
 void RtfInterpreter::onCell(const Call& /*call*/) {
+  if (state_.target == Target::Aside) return addText(" ");
   if (inBody()) builder_.endCell(format(), state_.paragraph);
 }
 
@@ -84,6 +89,14 @@ void RtfInterpreter::onStrike(const Call& call) {
 }
 void RtfInterpreter::onHidden(const Call& call) {
   state_.hidden = call.on();
+}
+void RtfInterpreter::onScript(const Call& call) {
+  formatting().script = call.on() ? static_cast<Script>(call.value) : Script::Normal;
+}
+// Half points above or below the line; how many is not kept.
+void RtfInterpreter::onRaise(const Call& call) {
+  const bool moved = call.parameter.value_or(1) > 0;
+  formatting().script = moved ? static_cast<Script>(call.value) : Script::Normal;
 }
 void RtfInterpreter::onColour(const Call& call) {
   formatting().colour = call.number();
@@ -128,7 +141,9 @@ void RtfInterpreter::onFirstIndent(const Call& call) {
 
 void RtfInterpreter::onDocumentCodePage(const Call& call) {
   const int page = call.value != 0 ? call.value : call.number();
-  if (page > 0) documentCodePage_ = page;
+  if (page <= 0) return;
+  documentCodePage_ = page;
+  pageDeclared_ = true;
 }
 
 void RtfInterpreter::onDefaultFont(const Call& call) {

@@ -27,7 +27,7 @@ bool isBullet(std::string_view listText) {
 }  // namespace
 
 RtfInterpreter::RtfInterpreter(std::string_view bytes, const ReadLimits& limits)
-    : lexer_(bytes), limits_(limits) {}
+    : lexer_(bytes), limits_(limits), rawUtf8_(!::text::isAscii(bytes) && isUtf8(bytes)) {}
 
 platform::Result<Document> RtfInterpreter::run() {
   const RtfToken brace = lexer_.next();
@@ -45,12 +45,13 @@ platform::Result<Document> RtfInterpreter::run() {
           Status(Fault::Damaged, "The rich text is nested too deeply or too big."));
   }
   flushBytes();
+  endAside();
   return builder_.finish(format());
 }
 
 void RtfInterpreter::step(const RtfToken& token) {
   using Kind = RtfToken::Kind;
-  if (token.kind == Kind::Text) return plainBytes(token.text);
+  if (token.kind == Kind::Text) return rawText(token.text);
   if (token.kind == Kind::Symbol) return symbol(token.byte);
   const char byte = static_cast<char>(token.byte);
   if (token.kind == Kind::Byte) return plainBytes({&byte, 1});
@@ -74,6 +75,7 @@ void RtfInterpreter::close() {
   formatKnown_ = false;
   if (closed == Target::ListText && state_.target != closed)
     endListText(std::exchange(listText_, {}));
+  if (closed == Target::Aside && state_.target != closed) endAside();
 }
 
 void RtfInterpreter::word(const RtfToken& token) {
@@ -111,16 +113,44 @@ void RtfInterpreter::symbol(unsigned char character) {
   if (character == '\r' || character == '\n') onParagraph({});
 }
 
+void RtfInterpreter::rawText(std::string_view bytes) {
+  const bool ascii = ::text::isAscii(bytes);
+  if (rawUtf8_ && !pageDeclared_ && !ascii) return utf8Text(bytes);
+  plainBytes(bytes);
+  const bool endsRaw = !bytes.empty() && static_cast<unsigned char>(bytes.back()) >= 0x80;
+  if (leadByteOpen_ && endsRaw && mayEndInSign(codePage())) plainBytes(lexer_.takeSignByte());
+}
+
+// What stands behind \u for other readers is counted in characters.
+void RtfInterpreter::utf8Text(std::string_view text) {
+  optional_ = false;
+  if (state_.target == Target::Skipped) return;
+  flushBytes();
+  std::size_t at = 0;
+  for (; fallbackLeft_ > 0 && at < text.size(); --fallbackLeft_)
+    (void)::text::nextCharacter(text, at);
+  if (at < text.size()) addText(text.substr(at));
+}
+
+// So that the braces and backslashes within characters are known from those of the format.
+void RtfInterpreter::followLeadBytes(std::string_view bytes) {
+  if (!leadByteOpen_ && ::text::isAscii(bytes)) return;
+  const int page = codePage();
+  for (const char byte : bytes) leadByteOpen_ = !leadByteOpen_ && isLeadByte(page, byte);
+}
+
 void RtfInterpreter::plainBytes(std::string_view bytes) {
   optional_ = false;
   if (state_.target == Target::Skipped) return;
   const std::size_t passed = std::min(bytes.size(), static_cast<std::size_t>(fallbackLeft_));
   fallbackLeft_ -= static_cast<int>(passed);
   bytes_ += bytes.substr(passed);
+  followLeadBytes(bytes.substr(passed));
 }
 
 void RtfInterpreter::flushBytes() {
   if (bytes_.empty()) return;
+  leadByteOpen_ = false;
   decoded_.clear();
   codePages_.decode(codePage(), bytes_, decoded_);
   bytes_.clear();
@@ -138,6 +168,9 @@ void RtfInterpreter::addText(std::string_view utf8) {
   switch (state_.target) {
     case Target::Body:
       if (!state_.hidden) builder_.addText(utf8, format(), state_.paragraph);
+      break;
+    case Target::Aside:
+      if (!state_.hidden) asideText_ += utf8;
       break;
     case Target::Fonts:
       fonts_.addName(utf8);
@@ -165,6 +198,16 @@ void RtfInterpreter::endListText(const std::string& text) {
   builder_.addText(std::string_view(text).substr(start), format(), state_.paragraph);
 }
 
+// In brackets at its place; its own formats are left out.
+void RtfInterpreter::endAside() {
+  std::string gathered = std::exchange(asideText_, {});
+  std::ranges::replace(gathered, '\t', ' ');
+  const std::string_view text = ::text::trimmed(gathered);
+  const bool seen = inBody() || state_.target == Target::Aside;
+  if (text.empty() || !seen || state_.hidden) return;
+  builder_.addText("[" + std::string(text) + "]", format(), state_.paragraph);
+}
+
 // A symbol font's own name is in ordinary letters.
 int RtfInterpreter::codePage() const {
   const bool naming = state_.target == Target::Fonts || state_.target == Target::PlainFontName;
@@ -185,12 +228,13 @@ const CharFormat& RtfInterpreter::format() {
   format_.underline = state_.underline;
   format_.strike = state_.strike;
   format_.colour = colours_.at(state_.colour);
+  format_.script = state_.script;
   return format_;
 }
 
 bool RtfInterpreter::overLimit() const {
   return stack_.size() > limits_.depth || groups_ > limits_.groups ||
-         builder_.textBytes() + bytes_.size() > limits_.textBytes ||
+         builder_.textBytes() + bytes_.size() + asideText_.size() > limits_.textBytes ||
          builder_.pieces() > limits_.pieces;
 }
 

@@ -23,7 +23,8 @@ class RtfInterpreter {
   platform::Result<Document> run();
 
  private:
-  enum class Target { Body, Skipped, Fonts, PlainFontName, Colours, ListText };
+  // An aside is text that stands beside the body: a footnote, a text box, what an object shows.
+  enum class Target { Body, Aside, Skipped, Fonts, PlainFontName, Colours, ListText };
 
   // What a group inherits from the group around it and gives back at its end.
   struct State {
@@ -36,6 +37,7 @@ class RtfInterpreter {
     bool underline = false;
     bool strike = false;
     bool hidden = false;
+    Script script = Script::Normal;
     int fallbackLength = 1;  // characters that stand behind each \u for readers without Unicode
     ParagraphFormat paragraph;
   };
@@ -64,11 +66,15 @@ class RtfInterpreter {
   void close();
   void word(const RtfToken& token);
   void symbol(unsigned char character);
+  void rawText(std::string_view bytes);
+  void utf8Text(std::string_view text);
   void plainBytes(std::string_view bytes);
+  void followLeadBytes(std::string_view bytes);
   void flushBytes();
   void addCharacter(char32_t character);
   void addText(std::string_view utf8);
   void endListText(const std::string& text);
+  void endAside();
   [[nodiscard]] bool inBody() const { return state_.target == Target::Body; }
   [[nodiscard]] int codePage() const;
   [[nodiscard]] const CharFormat& format();
@@ -91,6 +97,8 @@ class RtfInterpreter {
   void onNoUnderline(const Call& call);
   void onStrike(const Call& call);
   void onHidden(const Call& call);
+  void onScript(const Call& call);
+  void onRaise(const Call& call);
   void onFont(const Call& call);
   void onSize(const Call& call);
   void onColour(const Call& call);
@@ -116,6 +124,9 @@ class RtfInterpreter {
   std::vector<State> stack_;
   std::size_t groups_ = 0;
   int documentCodePage_ = kTurkishCodePage;
+  bool rawUtf8_;  // the file has bytes beyond ASCII, and all of it is UTF-8
+  bool pageDeclared_ = false;
+  bool leadByteOpen_ = false;  // the plain bytes end within a character of two bytes
   int defaultFont_ = 0;
   bool optional_ = false;       // \* came just before
   int fallbackLeft_ = 0;        // characters still to pass over behind \u
@@ -123,6 +134,7 @@ class RtfInterpreter {
   std::string bytes_;           // plain bytes not yet decoded: a character may span several tokens
   std::string decoded_;
   std::string listText_;
+  std::string asideText_;
   CharFormat format_;  // the state's, while formatKnown_
   bool formatKnown_ = false;
 };

@@ -54,6 +54,33 @@ RtfToken RtfLexer::next() {
   }
 }
 
+// "\\}" behind the first byte of a character is the second one escaped, or a backslash and the end
+// of a group. Which of them, the braces of the file tell: escaped ones leave the others in pairs.
+std::string_view RtfLexer::takeSignByte() {
+  const std::string_view rest = bytes_.substr(offset_, 2);
+  if (rest.empty() || std::string_view("\\{}").find(rest.front()) == rest.npos) return {};
+  const char behind = rest.front() == '\\' && rest.size() == 2 ? rest.back() : '\0';
+  if (behind == '\\' || behind == '\'') return {};
+  if ((behind == '{' || behind == '}') && bracesPair()) return {};
+  ++offset_;
+  return rest.substr(0, 1);
+}
+
+bool RtfLexer::bracesPair() {
+  if (bracesPair_) return *bracesPair_;
+  std::ptrdiff_t open = 0;
+  for (std::size_t at = 0; at < bytes_.size(); ++at) {
+    if (bytes_[at] == '\\')
+      ++at;
+    else if (bytes_[at] == '{')
+      ++open;
+    else if (bytes_[at] == '}')
+      --open;
+  }
+  bracesPair_ = open == 0;
+  return *bracesPair_;
+}
+
 RtfToken RtfLexer::control() {
   if (offset_ == bytes_.size()) return {};
   if (isLetter(bytes_[offset_])) return word();

@@ -22,8 +22,12 @@ class RtfLexer {
   explicit RtfLexer(std::string_view bytes) : bytes_(bytes) {}
 
   RtfToken next();
+  // The brace or backslash that comes next, as the second byte of a character; nothing when
+  // something else comes, or one that is written with a backslash of its own.
+  std::string_view takeSignByte();
 
  private:
+  bool bracesPair();
   RtfToken control();
   RtfToken hexByte();
   RtfToken word();
@@ -32,6 +36,7 @@ class RtfLexer {
 
   std::string_view bytes_;
   std::size_t offset_ = 0;
+  std::optional<bool> bracesPair_;  // once somebody has counted
 };
 
 }  // namespace richtext

@@ -19,9 +19,11 @@ struct ReadLimits {
 };
 
 // Empty input is an empty document. Input that is not rich text, or that goes beyond a limit, is
-// Damaged; a file that was cut off gives what could be read. Bytes without a stated code page are
-// Turkish (1254). Tables become lines of tab-separated cells; pictures, headers, footers, footnotes
-// and hidden text are left out, optional hyphens too.
+// Damaged; a file that was cut off gives what could be read. A mark of UTF-8 or blanks may stand in
+// front. Bytes without a stated code page are UTF-8 when the whole file is, else Turkish (1254).
+// Tables become lines of tab-separated cells; the texts of footnotes, text boxes and embedded
+// objects stand in brackets at their place; pictures, headers, footers and hidden text are left
+// out, optional hyphens too.
 platform::Result<Document> readRtf(std::string_view bytes, const ReadLimits& limits = {});
 
 // UTF-8 with or without its mark; bytes that are not UTF-8 are read as Turkish (1254).

@@ -10,6 +10,10 @@ namespace richtext {
 const RtfInterpreter::Word* RtfInterpreter::findWord(std::string_view name) {
   using I = RtfInterpreter;
   constexpr int kBody = static_cast<int>(Target::Body);
+  constexpr int kAside = static_cast<int>(Target::Aside);
+  constexpr int kNormal = static_cast<int>(Script::Normal);
+  constexpr int kSuper = static_cast<int>(Script::Super);
+  constexpr int kSub = static_cast<int>(Script::Sub);
   constexpr int kSkipped = static_cast<int>(Target::Skipped);
   constexpr int kFonts = static_cast<int>(Target::Fonts);
   constexpr int kPlainFontName = static_cast<int>(Target::PlainFontName);
@@ -37,6 +41,9 @@ const RtfInterpreter::Word* RtfInterpreter::findWord(std::string_view name) {
       {"cpg", &I::onFontCodePage, 0},
       {"deff", &I::onDefaultFont, 0},
       {"deleted", &I::onHidden, 0},
+      {"dn", &I::onRaise, kSub},
+      {"do", &I::onTarget, kBody},
+      {"dptxbxtext", &I::onTarget, kAside},
       {"emdash", &I::onCharacter, 0x2014},
       {"emspace", &I::onCharacter, 0x2003},
       {"endash", &I::onCharacter, 0x2013},
@@ -52,7 +59,7 @@ const RtfInterpreter::Word* RtfInterpreter::findWord(std::string_view name) {
       {"footerf", &I::onTarget, kSkipped},
       {"footerl", &I::onTarget, kSkipped},
       {"footerr", &I::onTarget, kSkipped},
-      {"footnote", &I::onTarget, kSkipped},
+      {"footnote", &I::onTarget, kAside},
       {"fs", &I::onSize, 0},
       {"ftncn", &I::onTarget, kSkipped},
       {"ftnsep", &I::onTarget, kSkipped},
@@ -76,7 +83,12 @@ const RtfInterpreter::Word* RtfInterpreter::findWord(std::string_view name) {
       {"nesttableprops", &I::onTarget, kBody},
       {"nonesttables", &I::onTarget, kSkipped},
       {"nonshppict", &I::onTarget, kSkipped},
-      {"object", &I::onTarget, kSkipped},
+      {"nosupersub", &I::onScript, kNormal},
+      {"objalias", &I::onTarget, kSkipped},
+      {"objclass", &I::onTarget, kSkipped},
+      {"objdata", &I::onTarget, kSkipped},
+      {"objname", &I::onTarget, kSkipped},
+      {"objsect", &I::onTarget, kSkipped},
       {"page", &I::onBreak, 0},
       {"par", &I::onParagraph, 0},
       {"pard", &I::onParagraphDefaults, 0},
@@ -93,6 +105,7 @@ const RtfInterpreter::Word* RtfInterpreter::findWord(std::string_view name) {
       {"qr", &I::onAlignment, kRight},
       {"rdblquote", &I::onCharacter, 0x201D},
       {"red", &I::onColourPart, kRed},
+      {"result", &I::onTarget, kAside},
       {"revtbl", &I::onTarget, kSkipped},
       {"ri", &I::onRightIndent, 0},
       {"row", &I::onRow, 0},
@@ -100,11 +113,16 @@ const RtfInterpreter::Word* RtfInterpreter::findWord(std::string_view name) {
       {"rtlmark", &I::onCharacter, 0x200F},
       {"rxe", &I::onTarget, kSkipped},
       {"sect", &I::onBreak, 0},
+      {"shpinst", &I::onTarget, kBody},
+      {"shprslt", &I::onTarget, kSkipped},
+      {"shptxt", &I::onTarget, kAside},
       {"sn", &I::onTarget, kSkipped},
       {"sp", &I::onTarget, kSkipped},
       {"strike", &I::onStrike, 0},
       {"striked", &I::onStrike, 0},
       {"stylesheet", &I::onTarget, kSkipped},
+      {"sub", &I::onScript, kSub},
+      {"super", &I::onScript, kSuper},
       {"sv", &I::onTarget, kSkipped},
       {"tab", &I::onCharacter, U'\t'},
       {"tc", &I::onTarget, kSkipped},
@@ -130,6 +148,7 @@ const RtfInterpreter::Word* RtfInterpreter::findWord(std::string_view name) {
       {"ululdbwave", &I::onUnderline, 0},
       {"ulw", &I::onUnderline, 0},
       {"ulwave", &I::onUnderline, 0},
+      {"up", &I::onRaise, kSuper},
       {"v", &I::onHidden, 0},
       {"xe", &I::onTarget, kSkipped},
       {"zwbo", &I::onCharacter, 0x200B},

@@ -145,6 +145,11 @@ class Writer {
     return words;
   }
 
+  static const char* scriptWord(Script script) {
+    if (script == Script::Normal) return "\\nosupersub";
+    return script == Script::Super ? "\\super" : "\\sub";
+  }
+
   // Only what differs from the format before.
   std::string formatWords(const CharFormat& format) {
     std::string words;
@@ -157,6 +162,7 @@ class Writer {
     toggle(before.italic, format.italic, "\\i", "\\i0");
     toggle(before.underline, format.underline, "\\ul", "\\ulnone");
     toggle(before.strike, format.strike, "\\strike", "\\strike0");
+    if (format.script != before.script) words += scriptWord(format.script);
     if (!format_ || format.font != before.font)
       words += "\\f" + std::to_string(numberOf(format.font));
     if (!format_ || format.halfPoints != before.halfPoints)

@@ -90,6 +90,21 @@ TEST_F(RichBinding, FormatsAndParagraphsAreShown) {
 }
 
 // Any change of paragraphs ends with the window showing what the editor holds.
+TEST_F(RichBinding, RaisedAndLoweredLettersAreShown) {
+  form.box.edit(
+      [](richtext::Editor& e) { ASSERT_TRUE(e.setTextRTF("{\\rtf1 m{\\super 2}{\\sub n}o}")); });
+  const std::pair<int, QTextCharFormat::VerticalAlignment> cases[] = {
+      {1, QTextCharFormat::AlignNormal},
+      {2, QTextCharFormat::AlignSuperScript},
+      {3, QTextCharFormat::AlignSubScript},
+      {4, QTextCharFormat::AlignNormal}};
+  QTextCursor cursor(edit.document());
+  for (const auto& [position, alignment] : cases) {
+    cursor.setPosition(position);
+    EXPECT_EQ(cursor.charFormat().verticalAlignment(), alignment) << position;
+  }
+}
+
 TEST_F(RichBinding, EveryChangeOfParagraphsIsShown) {
   struct Case {
     const char* before;

@@ -116,6 +116,46 @@ TEST(LayoutRecord, FontsShareTheRoomWhereverItsFieldsMeet) {
   }
 }
 
+// The fonts that come back, by their names; an item without one has no font at all.
+std::vector<std::string> namesThatComeBack(const PageLayout& laid) {
+  files::SettingRecord record;
+  documents::yerlesimYaz(laid, record);
+  PageLayout read = prescription();
+  documents::yerlesimOku(read, stored(record));
+  std::vector<std::string> names;
+  for (std::size_t item = 2; item < 5; ++item) {
+    EXPECT_EQ(read.items()[item].font.size, laid.items()[item].font.size) << item;
+    EXPECT_EQ(read.items()[item].font.bold, laid.items()[item].font.bold) << item;
+    names.push_back(read.items()[item].font.name);
+  }
+  return names;
+}
+
+TEST(LayoutRecord, KeepsLongNamesWholeAndTellsWhichItCannot) {
+  using Names = std::vector<std::string>;
+  const std::string bookman = "Bookman Old Style Condensed";
+  const std::string wide = "Source Code Variable Semibold Condensed";
+  const struct {
+    Names chosen;
+    Names kept;
+    std::vector<std::size_t> unkept;
+  } cases[] = {
+      {{bookman, "Noto Serif Display SemiBold", "DejaVu Sans Condensed Bold"},
+       {bookman, "Noto Serif Display SemiBold", "DejaVu Sans Condensed Bold"},
+       {}},
+      {{wide, wide, wide}, {wide, wide, wide}, {}},
+      {{wide, bookman, wide}, {wide, bookman, ""}, {4}},
+      {{"Źródło", "Arial", "Arial"}, {"Zródlo", "Arial", "Arial"}, {2}},
+  };
+  for (const auto& c : cases) {
+    PageLayout laid = prescription();
+    for (std::size_t i = 0; i < 3; ++i)
+      laid.setFont(i + 2, {.name = c.chosen[i], .size = 12, .bold = i == 2});
+    EXPECT_EQ(namesThatComeBack(laid), c.kept);
+    EXPECT_EQ(documents::unkeptFonts(laid), c.unkept) << c.chosen[0];
+  }
+}
+
 TEST(LayoutRecord, IsKeptEvenWhenNothingIsPrinted) {
   PageLayout laid = prescription();
   for (std::size_t i = 0; i < laid.items().size(); ++i) laid.setShown(i, false);

@@ -183,6 +183,20 @@ TEST(Pattern, TheSampleFollowsTheTemplate) {
   }
 }
 
+TEST(Pattern, TellsWhatOfASignatureCannotBeKept) {
+  PrintDesk desk;
+  documents::FrmPattern pattern(desk.station);
+  pattern.Load();
+  pattern.txtimza.setText("Dr. Łukasz");
+  desk.host.expect("Ł : L", host::Answer::No);
+  pattern.buttamam.press();
+  EXPECT_TRUE(desk.host.closed.empty());
+  EXPECT_EQ(desk.station.SablonImzasi, "");
+  desk.host.expect("Böyle saklansın mı?", host::Answer::Yes);
+  pattern.buttamam.press();
+  EXPECT_EQ(desk.station.SablonImzasi, "Dr. Lukasz") << "on today's pages as on tomorrow's";
+}
+
 TEST(PrinterChoice, RemembersThePrinterAndTheFolder) {
   PrintDesk desk;
   desk.printer.names = {"Muayene", "Bekleme"};

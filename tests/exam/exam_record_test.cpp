@@ -1,3 +1,6 @@
+#include <filesystem>
+#include <optional>
+
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
 #include "tests/exam/exam_fixture.h"
@@ -274,13 +277,45 @@ TEST_F(Exam, AFeeInOldLiraAsksAtEveryLoadUntilItIsConverted) {
     screen->liste.setListIndex(0);
     EXPECT_EQ(screen->txtücret.text(), fee);
   }
-  store("250000");
-  screen->mnuyeni.Click();
-  desk.host.expect("YTL'ye dönüştürmek", host::Answer::Yes);
-  screen->liste.setListIndex(0);
-  EXPECT_EQ(screen->txtücret.text(), "0.25");
-  EXPECT_EQ(desk.stored(1, "Fee"), "0.25");
-  EXPECT_FALSE(screen->mnukaydet.enabled());
+}
+
+// An amount in new lira above the limit shrinks with the others: its user sees that before.
+TEST_F(Exam, OldFeesAreConvertedOnceTheirNumberWasSeenAndABackupOffered) {
+  save("1.1.2026", "bir");
+  save("2.1.2026", "iki");
+  auto& table = desk.station.stores.clinical.PhysicalExam;
+  const auto store = [&](int number, const char* fee) {
+    ASSERT_TRUE(table.Seek("=", number) && table.Edit() && table.Fields("Fee").Set(fee) &&
+                table.Update());
+  };
+  using host::Answer;
+  const std::string told =
+      "Yaklaşık 2 tutar 1.000.000'a bölünecek: 10.000'in üzerindekilerin hepsi, YTL olsalar bile.\n"
+      "Muayene: 2\n\nEn büyüğü: 250000, yenisi 0.25\nEn küçüğü: 15000.50, yenisi 0.02\n"
+      "YTL tutarlarındaki gibi ondalık noktası olanlar: 1\n";
+  const struct {
+    Answer toldAnswer;
+    std::optional<Answer> backup;
+    bool converted;
+  } cases[] = {{Answer::No, {}, false},
+               {Answer::Yes, Answer::Cancel, false},
+               {Answer::Yes, Answer::No, true},
+               {Answer::Yes, Answer::Yes, true}};
+  for (const auto& c : cases) {
+    store(1, "250000");
+    store(2, "15000.50");
+    screen->mnuyeni.Click();
+    desk.host.expect("YTL'ye dönüştürmek", Answer::Yes);
+    desk.host.expect(told, c.toldAnswer);
+    if (c.backup) desk.host.expect("Backup/ klasörüne yedek alınsın mı?", *c.backup);
+    EXPECT_FALSE(std::filesystem::exists(desk.station.dosya("Backup")));
+    screen->liste.setListIndex(0);
+    EXPECT_EQ(screen->txtücret.text(), c.converted ? "0.25" : "250000");
+    EXPECT_EQ(desk.stored(1, "Fee"), c.converted ? "0.25" : "250000");
+    EXPECT_EQ(desk.stored(2, "Fee"), c.converted ? "0.02" : "15000.50");
+    EXPECT_FALSE(screen->mnukaydet.enabled());
+  }
+  EXPECT_TRUE(std::filesystem::exists(desk.station.dosya("Backup/Sanavel.mdb")));
 }
 
 TEST_F(Exam, BadInputIsKeptOrRefusedButNeverHarmful) {

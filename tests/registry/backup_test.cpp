@@ -79,6 +79,26 @@ TEST_F(Backup, TheScreenBacksUpIntoTheOpenFolderButNeverIntoTheStores) {
   EXPECT_EQ(desk.station.ayar("BackUp"), folder / "Copies/");
 }
 
+TEST_F(Backup, TakesPicturesAndPapersAlongAndTellsWhatStaysOut) {
+  fs::create_directory(folder / "Image");
+  std::ofstream(folder / "Image/a.jpg") << "picture";
+  auto& exams = desk.station.stores.clinical.PhysicalExam;
+  ASSERT_TRUE(exams.AddNew() && exams.Fields("Count").Set(1) &&
+              exams.Fields("Picture1").Set("/media/stick/b.jpg") && exams.Update());
+  shell::FrmSave screen(desk.station);
+  screen.Load();
+  EXPECT_EQ(screen.buttamam.caption(), "Kapat");
+  desk.host.expect("1 resim Image ve Documents klasörlerinin dışında", host::Answer::Ok);
+  screen.ButYedekle.press();
+  EXPECT_TRUE(has("Copies/Files/Image/a.jpg"));
+  EXPECT_NE(screen.Lsonyedek.caption().find("Resimler ve belgeler: "), std::string::npos);
+  fs::remove(folder / "Copies/Files/Image/a.jpg");
+  fs::create_directories(folder / "Copies/Files/Image/a.jpg/in the way");
+  desk.station.ayarYaz("closebackup", "1");
+  desk.host.expect("1 resim veya belge kopyalanamadı", host::Answer::No);
+  EXPECT_FALSE(main.QueryUnload());
+}
+
 TEST_F(Backup, FoldersAreMadeAndOnlyEmptyOnesRemoved) {
   shell::FrmSave screen(desk.station);
   screen.Load();
@@ -145,6 +165,47 @@ TEST_F(Restore, BringsTheStoresBackAndEmptiesTheCard) {
     EXPECT_NE(entry.path().extension(), ".old");
   const std::string& question = desk.host.asked.front().text;
   EXPECT_EQ(std::ranges::count(question, '\n'), 3) << question;
+}
+
+TEST_F(Restore, BringsPicturesBackAndAsksBeforeItReplacesNewerOnes) {
+  fs::create_directories(folder / "Copies/Files/Image");
+  fs::create_directory(folder / "Image");
+  const auto write = [&](const std::string& name, const char* content, int hours) {
+    std::ofstream(folder / name.c_str()) << content;
+    fs::last_write_time(folder / name.c_str(),
+                        fs::file_time_type::clock::now() + std::chrono::hours{hours});
+  };
+  for (const char* name : {"a", "b", "c"})
+    write(std::string("Copies/Files/Image/") + name, "backup", 0);
+  write("Image/b", "older", -9);
+  write("Image/c", "newer", 9);
+  const auto contents = [&] {
+    std::string all;
+    for (const char* name : {"Image/a", "Image/b", "Image/c"}) {
+      std::ifstream file(folder / name);
+      all += std::string(std::istreambuf_iterator<char>(file), {}) + ",";
+    }
+    return all;
+  };
+  using host::Answer;
+  const struct {
+    Answer usual, newer;
+    const char* contents;
+  } cases[] = {{Answer::No, Answer::No, ",older,newer,"},
+               {Answer::Yes, Answer::No, "backup,backup,newer,"}};
+  for (const auto& c : cases) {
+    answer(Answer::No, Answer::No);
+    desk.host.expect("1 tanesi burada yok, 1 tanesi burada daha eski", c.usual);
+    desk.host.expect("1 dosya yedeklendikten sonra burada değişmiş; biri: Image/c", c.newer);
+    main.mnugeriyukle.press();
+    EXPECT_EQ(contents(), c.contents);
+    EXPECT_EQ(desk.host.asked.back().stake, host::Stake::Existing);
+  }
+  answer(Answer::No, Answer::No);
+  desk.host.expect("Image/c", Answer::Yes);
+  main.mnugeriyukle.press();
+  EXPECT_EQ(contents(), "backup,backup,backup,");
+  EXPECT_EQ(cards(), 2) << "the stores are open again";
 }
 
 TEST_F(Restore, NoAndNoReplaceTheSmokingStoreAlone) {

@@ -33,6 +33,7 @@ TEST_F(TwoCards, ShowOnePatientOnlyOnce) {
     EXPECT_EQ(two.main.Txtİsim.text(), "Ali Can");
     EXPECT_EQ(two.station.SeciliHasta, "Ali Can");
   }
+  EXPECT_TRUE(two.host.asked.back().text.ends_with("\n(istasyon 1)"));
   EXPECT_EQ(two.host.asked.back().icon, host::Icon::Information);
   EXPECT_EQ(two.host.asked.back().buttons, host::Buttons::Ok);
   one.main.mnuyeni.Click();

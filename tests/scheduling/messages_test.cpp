@@ -199,9 +199,14 @@ TEST_F(Messages, AreSentAndTheirNamesKept) {
     writing.ComKime.setText(" ");
     EXPECT_FALSE(writing.Butgönder.enabled());
     writing.ComKime.setText("Ayşe");
-    writing.txtmesaj.setText(std::string(300, 'a'));
+    writing.txtmesaj.setText(std::string(240, 'a') + "\r\n" + std::string(20, 'b'));
     desk.host.expect("Vazgeçilsin mi?", host::Answer::No);
     EXPECT_FALSE(writing.QueryUnload());
+    desk.host.expect("Mesaj: \"…bbbbbbbbbbbb\" (12)", host::Answer::No);
+    writing.Butgönder.press();
+    EXPECT_EQ(desk.host.asked.back().stake, host::Stake::Existing) << "Enter sends no cut text";
+    EXPECT_TRUE(desk.host.closed.empty()) << "what was typed is still there";
+    desk.host.expect("sığmıyor", host::Answer::Yes);
     writing.Butgönder.press();
   };
   board.mnuyanıtla.press();
@@ -212,6 +217,61 @@ TEST_F(Messages, AreSentAndTheirNamesKept) {
   EXPECT_EQ(sent.text.size(), 250U);
   EXPECT_EQ(sent.isNew, 1);
   EXPECT_EQ(*files::readNames(folder / "Data/List.dat"), (Subjects{"İbrahim", "Ayşe"}));
+}
+
+// Whether the desk of that name sees what was sent to the other one.
+TEST_F(Messages, ReachNamesThatTheFileCannotWrite) {
+  const std::string wide = "Prof. Dr. Abdurrahman Gazi Büyükkarabacakoğlu";
+  const struct {
+    const char* own;
+    std::string sentTo;
+    bool arrives;
+  } cases[] = {{"Łukasz", "Łukasz", true},
+               {"Łukasz", "łukasz", true},
+               {"Łukasz", "Lukasz", true},
+               {"Łukasz", "Đukasz", false},
+               {"Иван", "Иван", true},
+               {"Иван", "Олег", false},
+               {wide.c_str(), wide, true},
+               {"S\u0327ule", "Şule", true},
+               {"İbrahim\u200B", "İbrahim", true}};
+  for (const auto& c : cases) {
+    ASSERT_TRUE(files::deleteAllMessages(mesajDosyasi(desk.station)));
+    desk.station.ayarYaz("msg address", c.own);
+    receive(c.sentTo, "soru");
+    EXPECT_EQ(mesajlar(desk.station, MessageView::All)->size(), c.arrives ? 1U : 0U)
+        << c.own << " <- " << c.sentTo;
+  }
+}
+
+TEST_F(Messages, TellWhichCharactersCannotBeSent) {
+  FrmMsgGon writing(desk.station);
+  writing.Load();
+  writing.ComKime.setText("Łukasz");
+  writing.txtkonu.setText("RR ≥ 140");
+  writing.txtmesaj.setText("K: 3 → 5, 😀");
+  desk.host.expect("Ł : L,   ≥ : >=,   → : ->,   😀 : ?", host::Answer::No);
+  writing.Butgönder.press();
+  EXPECT_EQ(desk.host.asked.back().stake, host::Stake::None) << "Enter sends";
+  EXPECT_TRUE(files::readMessages(mesajDosyasi(desk.station))->empty());
+  EXPECT_EQ(writing.txtmesaj.text(), "K: 3 → 5, 😀");
+  desk.host.expect("Mesaj böyle gönderilsin mi?", host::Answer::Yes);
+  writing.Butgönder.press();
+  EXPECT_EQ(kept(0).addressee, "Lukasz");
+  EXPECT_EQ(kept(0).subject, "RR >= 140");
+  EXPECT_EQ(kept(0).text, "K: 3 -> 5, ?");
+  EXPECT_EQ(*files::readNames(folder / "Data/List.dat"), (Subjects{"İbrahim", "Lukasz"}));
+}
+
+TEST_F(Messages, SayHowMuchRoomTheTextHas) {
+  desk.station.ayarYaz("msg address", "Łukasz");
+  FrmMsgGon writing(desk.station);
+  writing.Load();
+  EXPECT_EQ(writing.ComKimden.text(), "Lukasz") << "as those who answer will find it";
+  writing.txtmesaj.setText("≥");
+  EXPECT_EQ(writing.Lkalan.caption(), "kalan karakter: 248");
+  writing.txtmesaj.setText(std::string(253, 'a'));
+  EXPECT_EQ(writing.Lkalan.caption(), "fazla karakter: 3");
 }
 
 TEST_F(Messages, OpenInTheViewThatWasChosen) {

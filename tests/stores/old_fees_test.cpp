@@ -47,6 +47,12 @@ TEST_F(OldFees, AreConvertedInTheirTablesAndInNoOther) {
     ASSERT_TRUE(table.AddNew() && table.Fields("Count").Set(++number) &&
                 table.Fields(at.column).Set("1250000") && table.Update());
   }
+  const auto found = findOldAmounts(clinical);
+  ASSERT_TRUE(found.has_value());
+  EXPECT_EQ(found->amounts, 12);
+  ASSERT_EQ(found->tables.size(), 9U) << "a table with several columns of amounts is one";
+  EXPECT_EQ(found->tables[3].name, "Lens");
+  EXPECT_EQ(found->tables[3].amounts, 3);
   const auto changed = ConvertOldFees(clinical);
   ASSERT_TRUE(changed.has_value());
   EXPECT_EQ(*changed, 12);
@@ -64,7 +70,9 @@ TEST_F(OldFees, AreConvertedBeyondOnePageOfRowsOrNotAtAll) {
       "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 9000) "
       "INSERT INTO [Physical Exam] ([Count], [Fee]) "
       "SELECT i, CASE i % 3 WHEN 0 THEN '15000.50' WHEN 1 THEN '100.00' END FROM n"));
+  EXPECT_EQ(findOldAmounts(stores_.clinical)->pointed, 3000);
   EXPECT_EQ(ConvertOldFees(stores_.clinical).value_or(-1), 3000);
+  EXPECT_EQ(findOldAmounts(stores_.clinical)->amounts, 0);
   ASSERT_TRUE(stores_.clinical.PhysicalExam.Seek("=", 9000));
   EXPECT_EQ(stores_.clinical.PhysicalExam.Fields("Fee").text(), "0.02");
   // A table that cannot be read leaves the ones before it as they were.

@@ -53,6 +53,9 @@ TEST(MessageRecord, HasItsFieldsAtTheirOffsets) {
   same.text = record.text;
   EXPECT_EQ(same.encode().bytes(), bytes);
   EXPECT_TRUE(same.isSameNote(record));
+  const std::string blank = std::string(380, ' ') + std::string(4, '\0');
+  EXPECT_EQ(MessageRecord().encode().bytes(), blank);
+  EXPECT_EQ(MessageRecord::decode(RecordBuffer{std::string(384, '\0')}).text, "");
 }
 
 TEST(MessageFile, CutsWhatIsTooWideAndPassesOverATornEnd) {

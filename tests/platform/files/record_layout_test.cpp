@@ -53,7 +53,7 @@ TEST(SettingRecord, WritesEveryFieldAtItsOffset) {
   record.colour = "16711680";
   record.fontName = "Tahoma";
   record.signature = "Dr. Ayşe İğ";
-  EXPECT_EQ(record.encode().bytes(), settingBytes().substr(0, 220) + std::string(100, '\0'));
+  EXPECT_EQ(record.encode().bytes(), settingBytes().substr(0, 220) + std::string(100, ' '));
 }
 
 TEST(SettingRecord, CarriesEveryByteThatNobodyChanged) {
@@ -82,7 +82,8 @@ TEST(SettingRecord, AnEmptyRecordBelongsToNobody) {
   const auto record = SettingRecord::decode(RecordBuffer{SettingRecord::length});
   EXPECT_EQ(record.owner, "");
   EXPECT_EQ(record.fontSize, 0);
-  EXPECT_EQ(record.encode().bytes(), std::string(SettingRecord::length, '\0'));
+  EXPECT_EQ(record.encode().bytes(),
+            std::string(30, ' ') + std::string(40, '\0') + std::string(250, ' '));
   EXPECT_EQ(SettingRecord::decode(RecordBuffer{"FrmX"s}).owner, "FrmX");
 }
 

@@ -77,4 +77,21 @@ TEST(TextFlow, StandsOnOneBaseLineAsHighAsTheTallestFont) {
             (std::vector<std::string>{"500,1180 a", "600,1000 B", "500,1960 c"}));
 }
 
+TEST(TextFlow, RaisesAndLowersLettersWithinTheirLine) {
+  const support::FixedMetrics metrics;
+  page::Device device(metrics);
+  page::Font raised = plain;
+  raised.script = richtext::Script::Super;
+  page::Font lowered = plain;
+  lowered.script = richtext::Script::Sub;
+  const Document text({Paragraph{{{"m", plain}, {"2", raised}, {"H", plain}, {"3", lowered}}, {}},
+                       Paragraph{{{"x", plain}}, {}}});
+  page::eachLine(metrics, text, 5000, [&](const page::FlowLine& line) {
+    page::printLine(device, line);
+    return true;
+  });
+  EXPECT_EQ(support::texts(device.endDocument().pages[0]),
+            (std::vector<std::string>{"0,0 m", "100,-60 2", "200,0 H", "300,22 3", "0,240 x"}));
+}
+
 }  // namespace

@@ -22,6 +22,7 @@ TEST(CodePagesTest, DecodesTheBytesOfEachCharset) {
       {134, "\xD6\xD0", "中"},
       {136, "\xA4\xA4", "中"},
       {129, "\xC7\xD1", "한"},
+      {130, "\xD0\x65\x90\xE1\x41\xE0\x31\xD9\x32", "한너A伽、"},
       {222, "\xA1", "ก"},
       {163, "\xD0\xF5", "Đơ"},
       {77, "\x80", "Ä"},

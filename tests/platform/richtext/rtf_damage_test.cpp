@@ -65,6 +65,16 @@ TEST(RtfDamageTest, StrangeContentsStaySound) {
       "{\\rtf1\\b-"s,
       "{\\rtf"s,
       "{\\rtf1}}}}}}"s,
+      "{\\rtf1\\footnote a\\par\\shptxt b}c"s,
+      "{\\rtf1{\\footnote{\\fonttbl{\\f0{\\result x}}}{\\pntext{\\shptxt y}}}}"s,
+      "{\\rtf1\\object\\result\\objdata"s,
+      "{\\rtf1\\up-9\\dn99999999999\\super-1\\sub7 a}"s,
+      "{\\rtf1{\\fonttbl{\\f0\\fcharset128;}}\\f0 \x95"s,
+      "{\\rtf1{\\fonttbl{\\f0\\fcharset130;}}\\f0 \x95\\"s,
+      "{\\rtf1{\\fonttbl{\\f0\\fcharset130;}}\\f0 \xD0\\par}\xD9}"s,
+      "{\\rtf1 ş\\bin1 ş\\u305 ş\\uc3\\u305 ğ}"s,
+      "\xEF\xBB\xBF"s,
+      "\xEF\xBB\xBF{\\rtf1 \xEF\xBB"s,
   };
   for (const std::string& bytes : cases) ASSERT_NO_FATAL_FAILURE(expectSound(bytes)) << bytes;
 }
@@ -105,6 +115,15 @@ TEST(RtfDamageTest, MillionsOfRunsAreReadOrRefused) {
   EXPECT_FALSE(readRtf("{\\rtf1 " + repeated("\\par", 1'200'000) + "}").has_value());
 }
 
+TEST(RtfDamageTest, ManySecondBytesAndAsidesAreReadWithoutDelay) {
+  const std::string head = "{\\rtf1{\\fonttbl{\\f0\\fcharset128;}}\\f0 ";
+  const auto signs = readRtf(head + repeated("\x95\x5C", 500'000) + "}");
+  ASSERT_TRUE(signs.has_value());
+  EXPECT_EQ(signs->length(), 500'000U);
+  EXPECT_TRUE(readRtf(head + repeated("{\\footnote x}", 250'000) + "}").has_value());
+  EXPECT_FALSE(readRtf(head + "{\\footnote " + std::string(80U << 20U, 'x')).has_value());
+}
+
 TEST(RtfDamageTest, HugeTablesAndNamesAreCut) {
   const std::string fonts = repeated("{\\f1 " + std::string(300, 'n') + ";}", 1000);
   const auto named = readRtf("{\\rtf1{\\fonttbl" + fonts + "}\\f1 x}");
@@ -117,11 +136,46 @@ TEST(RtfDamageTest, HugeTablesAndNamesAreCut) {
 
 TEST(RtfDamageTest, BytesByChanceStaySound) {
   std::mt19937 random(20030101);
-  const std::string pieces[] = {"{",        "}",         "\\",      "\\'",    "\\u",   "\\b",
-                                "\\par",    "\\fonttbl", "\\f1",    "\\pict", "\\bin", "\\*",
-                                "-9",       "12",        " ",       ";",      "\\uc",  "fe",
-                                "\xFE",     "\0"s,       "\\cell",  "\\row",  "\\v",   "\\red",
-                                "\\pntext", "\\fs",      "\\plain", "\\mac"};
+  const std::string pieces[] = {"{",
+                                "}",
+                                "\\",
+                                "\\'",
+                                "\\u",
+                                "\\b",
+                                "\\par",
+                                "\\fonttbl",
+                                "\\f1",
+                                "\\pict",
+                                "\\bin",
+                                "\\*",
+                                "-9",
+                                "12",
+                                " ",
+                                ";",
+                                "\\uc",
+                                "fe",
+                                "\xFE",
+                                "\0"s,
+                                "\\cell",
+                                "\\row",
+                                "\\v",
+                                "\\red",
+                                "\\pntext",
+                                "\\fs",
+                                "\\plain",
+                                "\\mac",
+                                "\\footnote",
+                                "\\shptxt",
+                                "\\*\\shpinst",
+                                "\\result",
+                                "\\object",
+                                "\\super",
+                                "\\fcharset128",
+                                "\\fcharset130",
+                                "\x95",
+                                "\xD0\x65",
+                                "ş",
+                                "\\uc2"};
   for (int round = 0; round < 4000; ++round) {
     std::string bytes = "{\\rtf1";
     for (auto left = random() % 60; left > 0; --left)

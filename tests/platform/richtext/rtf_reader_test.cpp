@@ -11,7 +11,7 @@ Document body(std::string_view text) {
       "{\\rtf1\\ansi\\ansicpg1254\\deff0{\\fonttbl{\\f0\\fnil\\fcharset162 Tahoma;}"
       "{\\f1\\fcharset204{\\*\\fname Courier New;}Courier New CYR;}{\\f2\\fcharset2 Symbol;}"
       "{\\f3\\fcharset128 Gothic;}{\\f4\\fswiss\\cpg1250 Arial CE;}{\\f5\\fcharset162 Arial TUR;}"
-      "{\\f6\\fcharset0 Times;}}{\\colortbl "
+      "{\\f6\\fcharset0 Times;}{\\f7\\fcharset130 Batang;}{\\f8\\fcharset129 Gulim;}}{\\colortbl "
       ";\\red255\\green128\\blue1;\\red0\\green0\\blue0;}\\uc1";
   const auto document = readRtf(head + std::string(text) + "}");
   EXPECT_TRUE(document.has_value()) << text;
@@ -53,13 +53,22 @@ TEST(RtfReaderTest, ReadsText) {
       {" \\f2 abc\\'b7", "αβχ•"},
       {" \\f3\\'93\\'fa\\'96{\\'7b}", "日\uFFFD{"},
       {" \\f3\\'93\\'fa\\'96\\{", "日本"},
+      // a second byte that is a brace or a backslash, as it is, escaped and spelt
+      {" \\f3 \x95\x5Cx\x96{\x83}y", "表x本マy"},
+      {" \\f3\\'95\\\\\x96\\{\x83\\'5d", "表本ゾ"},
+      {" {\\f3 \x95\x5C}z", "表z"},
+      {" \\f8 \xC7\xD1}", "한"},
+      {" {\\f3 \x95}}z", "扶z"},
+      {" {\\f3 \x95\\}}z", "扶z"},
+      {" \\f7\\'d0\\'65 \xD0\x65\x88\x61\xD9\x31\xE0\x31", "한 한가\u3000伽"},
+      {" \\f7 \x88\x41\x84\x61\x88\x72\\'ff\\'ff", "ㄱㅏ\uFFFD\uFFFD"},
       {" \\f4\\'b3", "ł"},
       {" \\f6\\'fe", "ş"},
       {" a{\\v gizli\\par}b{\\deleted x}c\\v0 d", "abcd"},
       {" a{\\*\\bilinmeyen b{c}d}e", "ae"},
       {" a{\\*\\b bold}e", "ae"},
-      {" a{\\pict\\wmetafile8 0102}b{\\object{\\result x}}c{\\header h}{\\footerf f}d", "abcd"},
-      {" a{\\info{\\title t}}{\\stylesheet{\\s0 Normal;}}b{\\footnote n}c", "abc"},
+      {" a{\\pict\\wmetafile8 0102}b{\\header h}{\\footerf f}d", "abd"},
+      {" a{\\info{\\title t}}{\\stylesheet{\\s0 Normal;}}bc", "abc"},
       {"{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt{\\ul link}}}", "link"},
       {"{\\field{\\fldinst DATE}{\\fldrslt 4.5.2001}}", "4.5.2001"},
       {" a\\bin3 {{{b", "ab"},
@@ -73,6 +82,31 @@ TEST(RtfReaderTest, ReadsText) {
       {"{\\pntext\\f2\\'b7\\tab}bir\\par{\\pntext\\f0 2.\\tab}iki", "bir\n2.\tiki"},
   };
   for (const auto& c : cases) EXPECT_EQ(body(c.rtf).plainText(), c.text) << c.rtf;
+}
+
+TEST(RtfReaderTest, KeepsTheTextThatStandsBesideTheBody) {
+  const struct {
+    const char* rtf;
+    const char* text;
+  } cases[] = {
+      {" a{\\super\\chftn}{\\footnote\\pard\\plain{\\super\\chftn} n\\par m}b", "a[n m]b"},
+      {" a{\\footnote\\ftnalt {\\b end}note}b", "a[endnote]b"},
+      {" a{\\footnote }{\\v{\\footnote x}}b", "ab"},
+      {" a{\\shp{\\*\\shpinst\\shpleft5{\\sp{\\sn shapeType}{\\sv 202}}{\\shptxt\\pard "
+       "box\\par}}{\\shprslt{\\*\\do\\dptxbx{\\dptxbxtext box}}}}b",
+       "a[box]b"},
+      {" a{\\*\\do\\dobxcolumn\\dptxbx{\\dptxbxtext\\pard old}\\dpx0}b", "a[old]b"},
+      {" a{\\object\\objemb{\\*\\objclass Sheet}{\\*\\objdata 01}{\\result{\\pict "
+       "02}\\trowd 1\\cell 2\\cell\\row}}b",
+       "a[1 2]b"},
+      {" a{\\object{\\result{\\pict 02}}}b", "ab"},
+      {" a{\\footnote n{\\*\\shpinst{\\shptxt box}} m}b", "a[nbox m]b"},
+      {" a{\\header{\\footnote n}}{\\fonttbl{\\footnote n}}b", "ab"},
+      {" a{\\footnote cut off", "a[cut off]"},
+      {"\\trowd a{\\footnote n\\cell}\\cell b\\cell\\row c", "a[n]\tb\nc"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(body(c.rtf).plainText(), c.text) << c.rtf;
+  EXPECT_FALSE(body(" {\\footnote\\b n}").formatAt(1).bold) << "in the format of its place";
 }
 
 TEST(RtfReaderTest, ReadsCharacterFormats) {
@@ -113,7 +147,14 @@ TEST(RtfReaderTest, ReadsCharacterFormats) {
       {"\\f99 x", with([](CharFormat& f) { f.font = CharFormat().font; })},
       {"\\b\\i\\ul\\strike\\cf1\\f1\\fs99\\plain x", base},
       {"{\\b\\cf1}x", base},
-      {"{\\super\\sub\\caps x}", base},
+      {"\\super x", with([](CharFormat& f) { f.script = Script::Super; })},
+      {"\\super\\sub x", with([](CharFormat& f) { f.script = Script::Sub; })},
+      {"\\up6 x", with([](CharFormat& f) { f.script = Script::Super; })},
+      {"\\dn x", with([](CharFormat& f) { f.script = Script::Sub; })},
+      {"{\\super}\\sub\\nosupersub\\caps x", base},
+      {"\\super\\super0 x", base},
+      {"\\up6\\up0 x", base},
+      {"\\super\\plain x", base},
   };
   for (const auto& c : cases) EXPECT_EQ(body(c.rtf).formatAt(0), c.format) << c.rtf;
 }
@@ -168,6 +209,22 @@ TEST(RtfReaderTest, TakesBytesByTheDocumentsCodePage) {
     ASSERT_TRUE(document.has_value());
     EXPECT_EQ(document->plainText(), c.text) << c.head;
   }
+}
+
+TEST(RtfReaderTest, ReadsAMarkOrBlanksInFrontAndUtf8ThatNobodyDeclared) {
+  const struct {
+    const char* bytes;
+    const char* text;
+  } cases[] = {{"\xEF\xBB\xBF{\\rtf1\\ansi a}", "a"},
+               {" \r\n\t{\\rtf1 a}", "a"},
+               {"\xEF\xBB\xBF\r\n{\\rtf1\\ansi ışık\\'fe}", "ışıkş"},
+               {"{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset162 Yazı;}}\\f0 ≥ ş\\u287 ğğx}", "≥ şğğx"},
+               {"{\\rtf1\\ansi\\ansicpg1254 ş}", "\u00C5\u0178"},
+               {"{\\rtf1\\mac \xC3\xA9}", "√©"},
+               {"{\\rtf1\\ansi ş \xFE}", "ÅŸ ş"}};
+  for (const auto& c : cases)
+    EXPECT_EQ(readRtf(c.bytes).value_or(Document()).plainText(), c.text) << c.bytes;
+  EXPECT_EQ(readRtf("{\\rtf1{\\fonttbl{\\f0 Yazı;}}x}")->formatAt(0).font, "Yazı");
 }
 
 TEST(RtfReaderTest, ReadsFontTablesWithoutGroups) {

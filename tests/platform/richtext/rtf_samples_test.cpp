@@ -59,7 +59,7 @@ TEST(RtfSamplesTest, ReadsFieldsFootnotesAndHiddenText) {
   const Document summary = read("summary.rtf");
   EXPECT_EQ(summary.plainText(),
             "MUAYENE ÖZETİ\n"
-            "Kenar boşluğu olan paragraf sürüyor.\n"
+            "Kenar boşluğu olan paragraf[dipnot metni] sürüyor.\n"
             "Tarih alanı: 5/4/01\tsekme\n"
             "yeni satır\n"
             "görünür metin\n"

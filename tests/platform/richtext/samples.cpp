@@ -49,6 +49,7 @@ CharFormat randomFormat(std::mt19937& random) {
   format.italic = coin(random);
   format.underline = coin(random);
   format.strike = coin(random);
+  format.script = static_cast<Script>(below(random, 3));
   if (coin(random)) format.colour = static_cast<std::uint32_t>(below(random, 3)) * 0x7F0180U;
   return format;
 }

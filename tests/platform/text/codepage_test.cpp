@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/text/nearest.h"
+
 namespace {
 
 TEST(TurkishCodePage, HoldsTheTurkishLetters) {
@@ -31,6 +33,27 @@ TEST(TurkishCodePage, AsksWhatItCannotHold) {
   EXPECT_EQ(text::toTurkishCodePage("Жа 漢 😀"), "?? ? ?");
   EXPECT_EQ(text::toTurkishCodePage("ðÐ"), "??");  // Icelandic letters that Turkish ones replace
   EXPECT_EQ(text::toTurkishCodePage("\xff"), "?");
+}
+
+TEST(TurkishCodePage, OffersTheNearestOfWhatItLacks) {
+  const struct {
+    std::string_view text;
+    std::string_view nearest;
+  } cases[] = {{"Ayşe Yılmaz €", "Ayşe Yılmaz €"},
+               {"Łukasz Dvořák", "Lukasz Dvorák"},
+               {"s\u0327 i\u0307", "ş i"},  // a letter and its mark; one that has no such mark
+               {"≥ ≤ → ← − ≠", ">= <= -> <- - <>"},
+               {"ðÐÞ ə", "dDTh e"},
+               {"x⁴ H₂O ℃ ﬁ", "x4 H2O °C fi"},
+               {"Иван Αθηνά", "Ivan Athena"},
+               {"a\u200Bb\uFEFF", "ab"},
+               {"😀\uFE0F \xff", "? ?"}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(text::nearestTurkish(c.text), c.nearest) << c.text;
+    EXPECT_EQ(text::nearestTurkish(c.nearest), c.nearest) << "once is enough";
+  }
+  EXPECT_EQ(text::substitutesIn("Ł→Ł\u200B şs\u0327"),
+            (std::vector<text::Substitute>{{"Ł", "L"}, {"→", "->"}}));
 }
 
 }  // namespace
