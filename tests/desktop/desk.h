@@ -22,6 +22,9 @@
 
 namespace support {
 
+// The platform without a screen has a small one.
+inline constexpr QSize usualRoom{1920, 1040};
+
 // Everything that was posted has happened, and what that posted.
 inline void settle() {
   for (int pass = 0; pass < 5; ++pass) {
