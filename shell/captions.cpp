@@ -1,6 +1,7 @@
 #include "shell/captions.h"
 
 #include "platform/forms/menu.h"
+#include "platform/forms/text_control.h"
 #include "shell/caption_rows.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
@@ -57,8 +58,15 @@ void basliklariyaz(Station& istasyon, forms::Form& form) {
 }
 
 void alanBasliklari(Station& istasyon, forms::Form& form, std::span<const FieldRow> fields) {
-  for (const FieldRow& row : fields)
+  for (const FieldRow& row : fields) {
     row.control(form).setCaption(metinbul(istasyon, row.captionKey));
+    auto* const field = dynamic_cast<forms::TextControl*>(&row.control(form));
+    if (field != nullptr) field->setUnit(unitOf(istasyon, row));
+  }
+}
+
+std::string unitOf(Station& istasyon, const FieldRow& row) {
+  return row.unit == perMinute ? phrase(istasyon, Phrase::PerMinute) : std::string(row.unit);
 }
 
 }  // namespace shell

@@ -113,7 +113,12 @@ enum class Phrase {
   PrintWizard,
   PageItems,     // and their properties
   PrintedItems,  // of a page
-  Patients
+  Patients,
+  PerMinute,   // behind a measurement
+  ThisScreen,  // in front of NotInThisVersion
+  LanguageBox,
+  ToolbarWords,
+  Warning  // a text follows
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

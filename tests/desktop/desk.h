@@ -95,6 +95,7 @@ struct WindowDesk {
     // Without it the message screen asks for it.
     station.ayarYaz("msg address", "Dr. Işık Çağlayan");
     host.setWords([this](std::string_view key) { return shell::metinbul(station, key); });
+    host.setTurkish([this] { return station.turkce(); });
   }
 
   TemporaryFolder folder;
