@@ -22,7 +22,7 @@ constexpr auto names = std::to_array<IconName>({
     {"Delete", "edit-delete"},
     {"Print", "document-print"},
     {"previve", "document-preview"},
-    {"Exit", "application-exit"},
+    {"Exit", "system-log-out"},
     {"small", "zoom-out"},
     {"big", "zoom-in"},
     {"Undo", "edit-undo"},
@@ -85,6 +85,7 @@ constexpr auto names = std::to_array<IconName>({
     {"yanit", "mail-reply-sender"},
     {"al", "mail-receive"},
     {"sil", "edit-delete"},
+    {"warning", "dialog-warning"},
     {"ayar", "configure"},
 });
 

@@ -6,6 +6,7 @@
 #include <QTranslator>
 #include <QWidget>
 #include <array>
+#include <optional>
 #include <string_view>
 
 namespace desktop {
@@ -67,9 +68,12 @@ class Catalogues : public QObject {
   }
 
   void speak(Tongue tongue) {
-    if (known_ && tongue == tongue_) return;
-    known_ = true;
-    tongue_ = tongue;
+    // English weeks begin on Monday as the practice's do.
+    const QLocale locale = tongue == Tongue::Turkish
+                               ? QLocale(QLocale::Turkish, QLocale::Turkey)
+                               : QLocale(QLocale::English, QLocale::UnitedKingdom);
+    if (spoken_ == tongue && QLocale() == locale) return;
+    spoken_ = tongue;
     QCoreApplication::removeTranslator(&own_);
     QCoreApplication::removeTranslator(&toolkit_);
     if (tongue == Tongue::Turkish) {
@@ -78,10 +82,6 @@ class Catalogues : public QObject {
         QCoreApplication::installTranslator(&toolkit_);
       QCoreApplication::installTranslator(&own_);  // asked first
     }
-    // English weeks begin on Monday as the practice's do.
-    const QLocale locale = tongue == Tongue::Turkish
-                               ? QLocale(QLocale::Turkish, QLocale::Turkey)
-                               : QLocale(QLocale::English, QLocale::UnitedKingdom);
     QLocale::setDefault(locale);
     for (QWidget* window : QApplication::topLevelWidgets()) window->setLocale(locale);
   }
@@ -90,8 +90,7 @@ class Catalogues : public QObject {
   using QObject::QObject;
   QTranslator toolkit_;
   OwnWords own_;
-  Tongue tongue_ = Tongue::English;
-  bool known_ = false;
+  std::optional<Tongue> spoken_;
 };
 
 }  // namespace

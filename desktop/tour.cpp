@@ -99,6 +99,9 @@ class Tour {
 
   void nameList(const QString& suffix) {
     main_.Lstdat.clear();
+    main_.Lstdat.noteOf = [](const std::string& name) {
+      return name == "Ayşe Yıldız" ? "" : name.ends_with('*') ? "1955 · 2019/7" : "1991";
+    };
     main_.Lstdat.appendItems({"Ayşe Yıldırım", "Ayşe Yıldırım*", "Ayşe Yıldız"});
     main_.Lstdat.setVisibleRows(3);
     main_.Lstdat.setVisible(true);

@@ -142,6 +142,7 @@ void FrmMain::dilDegisti() {
   ComCinsiyet.setListIndex(sex);
   yasGoster();
   ButtonsForPatient();
+  yeniMesaj(bekleyenMesaj_);
   if (!changed) Eskialanmain();
 }
 

@@ -32,6 +32,7 @@ constexpr forms::Colour maleColour = forms::fromBgr(0xFFC0C0);
 void FrmMain::kartiBagla() {
   Txtİsim.LostFocus.connect([this] { isimBitti(); });
   Txtİsim.KeyUp.connect([this](forms::Key) { isimYazildi(); });
+  Lstdat.noteOf = [this](const std::string& name) { return adasNotu(name); };
   Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
   TxtEskiİsim.Change.connect([this] { baskiTuslari(); });
   TxtDTarihi.GotFocus.connect([this] { shell::hepsinisec(*this); });

@@ -41,14 +41,29 @@ void captionControls(Station& istasyon, forms::Form& form) {
   }
 }
 
+constexpr auto wordsSetting = "toolbar words";
+
+void captionButtons(Station& istasyon, forms::Toolbar& toolbar) {
+  for (const KeyedCaption& row : toolTipRows()) {
+    toolbar.setButtonToolTip(row.key, metinbul(istasyon, row.textKey));
+    if (!row.wordKey.empty()) toolbar.setButtonWord(row.key, metinbul(istasyon, row.wordKey));
+  }
+  const bool shown = istasyon.ayar(wordsSetting, "1") == "1";
+  toolbar.setWords(shown ? forms::ButtonWords::Shown : forms::ButtonWords::Hidden,
+                   {.caption = phrase(istasyon, Phrase::ToolbarWords),
+                    .keep = [&istasyon](forms::ButtonWords words) {
+                      istasyon.ayarYaz(wordsSetting,
+                                       words == forms::ButtonWords::Shown ? "1" : "0");
+                    }});
+}
+
 }  // namespace
 
 void basliklariyaz(Station& istasyon, forms::Form& form) {
   captionControls(istasyon, form);
   for (forms::Control* control : form.controls()) {
     if (auto* toolbar = dynamic_cast<forms::Toolbar*>(control)) {
-      for (const KeyedCaption& row : toolTipRows())
-        toolbar->setButtonToolTip(row.key, metinbul(istasyon, row.textKey));
+      captionButtons(istasyon, *toolbar);
     }
     if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) {
       for (const KeyedCaption& row : tabRows())

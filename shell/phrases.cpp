@@ -175,7 +175,6 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::ThisScreen, "This screen", "Bu ekran"},
     {Phrase::LanguageBox, "Language", "Dil"},
     {Phrase::ToolbarWords, "Words on the buttons", "Düğmelerde yazı"},
-    {Phrase::Warning, "Warning: ", "Uyarı: "},
 });
 
 }  // namespace

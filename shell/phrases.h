@@ -117,8 +117,7 @@ enum class Phrase {
   PerMinute,   // behind a measurement
   ThisScreen,  // in front of NotInThisVersion
   LanguageBox,
-  ToolbarWords,
-  Warning  // a text follows
+  ToolbarWords
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
