@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 
 #include "desktop/bind/bind_label.h"
-#include "desktop/icons.h"
 #include "desktop/layout.h"
 #include "desktop/text.h"
 
@@ -13,15 +12,18 @@ namespace desktop {
 namespace {
 
 constexpr forms::Colour amber = 0xFFC83D;  // black on it reads well in light and dark
-constexpr int signSize = 22;
+constexpr auto sign = u"\u26A0";
+constexpr double signScale = 1.5;
 
 }  // namespace
 
 WarningLabel::WarningLabel(forms::Label& control, QWidget* parent)
     : QFrame(parent), words_(new QLabel(this)) {
   setFrameShape(QFrame::StyledPanel);
-  auto* const sign = new QLabel(this);
-  sign->setPixmap(icon("warning").pixmap(signSize));
+  auto* const mark = new QLabel(QString::fromUtf16(sign), this);
+  QFont large = mark->font();
+  large.setPointSizeF(large.pointSizeF() * signScale);
+  mark->setFont(large);
   QFont bold;
   bold.setBold(true);
   words_->setFont(bold);
@@ -31,7 +33,7 @@ WarningLabel::WarningLabel(forms::Label& control, QWidget* parent)
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(gap::normal, gap::small, gap::normal, gap::small);
   row->setSpacing(gap::normal);
-  row->addWidget(sign, 0, Qt::AlignTop);
+  row->addWidget(mark);
   row->addWidget(words_, 1);
   setBackColour(*this, amber);
   attach(*this, control, Follow::All, [this, &control](forms::Aspect) { refresh(control); });

@@ -7,6 +7,7 @@
 #include "platform/dao/prefix_search.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/patient_warning.h"
 #include "shell/phrases.h"
 #include "shell/snapshot.h"
 #include "shell/text_lookup.h"
@@ -61,6 +62,7 @@ void FrmDrug::Load() {
   NamedRecordScreen::Load();
   tbToolBar.setButtonToolTip("sihirbaz", phrase(istasyon, shell::Phrase::PrintWizard));
   lblisim.setCaption(sisim(istasyon.SeciliHasta));
+  shell::uyariGoster(istasyon, istasyon.SeciliHasta, lbluyarı);
   sırano.setCaption("0");
   İlaçlistele();
   alanlaribosalt();

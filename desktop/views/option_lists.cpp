@@ -71,7 +71,8 @@ class ListRow : public QObject {
   }
 
   void refresh() {
-    for (QPushButton* button : {change_, remove_}) button->setEnabled(combo_.listIndex() >= 0);
+    const bool chosen = combo_.listIndex() >= 0 && !combo_.text().empty();
+    for (QPushButton* button : {change_, remove_}) button->setEnabled(chosen);
   }
 
   shell::FrmOption& form_;

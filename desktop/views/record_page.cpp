@@ -12,7 +12,7 @@ namespace desktop {
 
 namespace {
 
-constexpr int widthForTwoSides = 760;
+constexpr int widthForTwoSides = 620;
 
 bool isLong(const forms::Control& control) {
   const auto* const box = dynamic_cast<const forms::TextBox*>(&control);
@@ -77,7 +77,7 @@ void RecordPage::resizeEvent(QResizeEvent* event) {
 }
 
 void RecordPage::arrange() {
-  const bool wide = width() >= std::max(widthForTwoSides, characters(*this, 100));
+  const bool wide = width() >= std::max(widthForTwoSides, characters(*this, 86));
   for (const Block& at : blocks_) {
     const bool both = at.longs != nullptr && at.shorts != nullptr;
     at.sides->setDirection(both && wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);

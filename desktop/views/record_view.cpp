@@ -20,7 +20,7 @@ namespace {
 
 constexpr QSize usualSize{1180, 740};
 constexpr int dateListCharacters = 18;
-constexpr int usualDateListCharacters = 32;  // with the first words of what was found
+constexpr int usualDateListCharacters = 36;  // with the first words of what was found
 
 template <class Control>
 Control* as(forms::Control* control) {
