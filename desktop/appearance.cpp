@@ -87,6 +87,8 @@ Shade wantedShade() {
 
 void applyAppearance(Shade shade) {
   const bool dark = shade == Shade::Dark;
+  // The desk's own dialogs speak the language of the desk, not the user's.
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication::setStyle(new RoomyStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
   QPalette palette = dark ? darkPalette() : lightPalette();
   palette.setColor(QPalette::Highlight, QColor::fromRgb(dark ? accentOnDark : accentOnLight));

@@ -5,10 +5,11 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QScreen>
+#include <utility>
 
 #include "desktop/bind/binding.h"
 #include "desktop/caption_marks.h"
+#include "desktop/screen_room.h"
 #include "desktop/text.h"
 #include "platform/forms/button.h"
 #include "platform/forms/menu.h"
@@ -103,13 +104,17 @@ void FormFrame::moveFocus() {
 
 void FormFrame::focusChanged(QWidget* now) {
   if (now == nullptr || closed_ || !window_.isAncestorOf(now) || now->window() != &window_) return;
+  // What the mouse went to is seen already, and must not move under it.
+  if (QApplication::mouseButtons() == Qt::NoButton) bringIntoView(*now);
   if (forms::Control* const control = controlOf(now)) form_.focusMoved(control);
 }
 
 void FormFrame::show() {
-  const QSize available = window_.screen()->availableSize();
-  if (form_.width > 0 && form_.height > 0)
-    window_.resize(QSize(form_.width, form_.height).boundedTo(available));
+  fitToScreen(window_);
+  const bool kept = form_.width > 0 && form_.height > 0;
+  const QSize wanted = kept ? QSize(form_.width, form_.height) : window_.size();
+  if (kept || window_.testAttribute(Qt::WA_Resized))
+    window_.resize(wanted.boundedTo(contentRoom(window_)));
   switch (form_.windowState) {
     case forms::WindowState::Maximised:
       window_.showMaximized();
@@ -121,6 +126,7 @@ void FormFrame::show() {
       window_.show();
       break;
   }
+  keepOnScreen(window_);
   window_.activateWindow();
   moveFocus();
 }
@@ -144,6 +150,7 @@ bool FormFrame::eventFilter(QObject* watched, QEvent* event) {
       static_cast<QCloseEvent*>(event)->setAccepted(close());
       return true;
     case QEvent::WindowActivate:
+      firstActivated();
       form_.Activate();
       return false;
     case QEvent::Resize:
@@ -155,6 +162,11 @@ bool FormFrame::eventFilter(QObject* watched, QEvent* event) {
     default:
       return false;
   }
+}
+
+// The frame around a window is known once it stands on the screen.
+void FormFrame::firstActivated() {
+  if (!std::exchange(wasActive_, true)) keepOnScreen(window_);
 }
 
 // Keys that no widget wanted arrive here.

@@ -23,7 +23,8 @@ class FormFrame : public QObject {
 
   [[nodiscard]] forms::Form& form() const { return form_; }
   [[nodiscard]] QWidget& window() const { return window_; }
-  // Shows the window with the size and state that the form asks for.
+  // Shows the window with the size and state that the form asks for, and never larger than its
+  // screen: what does not fit scrolls.
   void show();
   // As the user does; false when the form vetoed.
   bool close();
@@ -43,11 +44,13 @@ class FormFrame : public QObject {
   bool keyPressed(const QKeyEvent& event);
   bool escape();
   void sizeChanged();
+  void firstActivated();
 
   QWidget& window_;
   forms::Form& form_;
   EscapeKey escape_;
   bool closed_ = false;
+  bool wasActive_ = false;
 };
 
 }  // namespace desktop

@@ -8,10 +8,6 @@ namespace desktop {
 // Writes the tool-tip of a view without rows into its room.
 void paintHint(QAbstractItemView& view);
 
-// The hint is the list's tool-tip.
-// Draws the tool-tip of a view that has no rows into its middle.
-void paintHint(QAbstractItemView& view);
-
 class HintList : public QListView {
   Q_OBJECT
  public:

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QStandardPaths>
@@ -22,7 +23,6 @@ constexpr auto names = std::to_array<IconName>({
     {"Delete", "edit-delete"},
     {"Print", "document-print"},
     {"previve", "document-preview"},
-    {"Exit", "application-exit"},
     {"small", "zoom-out"},
     {"big", "zoom-in"},
     {"Undo", "edit-undo"},
@@ -119,6 +119,36 @@ QIcon filled(const QIcon& outline) {
   return icon;
 }
 
+// An open door and an arrow that leads out of it; the theme has nothing that looks like leaving.
+class ExitSign : public QIconEngine {
+ public:
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    constexpr double drawnFor = 22;
+    constexpr double stroke = 1.4;
+    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const double scale = std::min(rect.width(), rect.height()) / drawnFor;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(rect.topLeft());
+    painter->scale(scale, scale);
+    painter->setPen(QPen(QGuiApplication::palette().color(group, QPalette::WindowText), stroke));
+    painter->drawPolyline(
+        QPolygonF({{12.5, 7}, {12.5, 3}, {3.5, 3}, {3.5, 19}, {12.5, 19}, {12.5, 15}}));
+    painter->drawLine(QPointF(8, 11), QPointF(19, 11));
+    painter->drawPolyline(QPolygonF({{15.5, 7.5}, {19, 11}, {15.5, 14.5}}));
+    painter->restore();
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap drawn(size);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    paint(&painter, drawn.rect(), mode, state);
+    return drawn;
+  }
+  [[nodiscard]] QIconEngine* clone() const override { return new ExitSign(*this); }
+  bool isNull() override { return false; }
+};
+
 QStringList themeFolders() {
   QStringList folders = QIcon::themeSearchPaths();
   for (const QString& folder :
@@ -140,6 +170,7 @@ void useIconTheme(bool dark) {
 }
 
 QIcon icon(std::string_view image) {
+  if (image == "Exit") return QIcon(new ExitSign);
   for (const IconName& row : names) {
     if (row.image == image) return QIcon::fromTheme(QLatin1String(row.theme));
   }

@@ -61,6 +61,7 @@ int main(int argc, char** argv) {
   desktop::QtPrinter printer;
   station.yazici = &printer;
   application.host().setWords([&](std::string_view key) { return metinbul(station, key); });
+  application.host().setTurkish([&] { return station.turkce(); });
   return line->tour.empty() ? serve(application, station)
                             : takePictures(application, station, {line->tour, line->only});
 }

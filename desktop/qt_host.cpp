@@ -18,6 +18,7 @@
 #include "desktop/picture_frame.h"
 #include "desktop/send_keys.h"
 #include "desktop/text.h"
+#include "desktop/toolkit_words.h"
 
 namespace desktop {
 
@@ -114,6 +115,16 @@ QString QtHost::word(std::string_view key, const char* otherwise) const {
   return words_ ? qs(words_(key)) : QLatin1String(otherwise);
 }
 
+void QtHost::setTurkish(Turkish turkish) {
+  turkish_ = std::move(turkish);
+  followLanguage();
+}
+
+// The user may switch the language while the program runs, also at another desk.
+void QtHost::followLanguage() const {
+  if (turkish_) speak(turkish_() ? Tongue::Turkish : Tongue::English);
+}
+
 // Typed text is kept by Enter as by Esc; what exists is destroyed by neither.
 void QtHost::addButtons(QMessageBox& box, const host::Message& message) const {
   const auto add = [&](QMessageBox::StandardButton button, const QString& text) {
@@ -135,6 +146,7 @@ void QtHost::addButtons(QMessageBox& box, const host::Message& message) const {
 }
 
 host::Answer QtHost::messageBox(const host::Message& message) {
+  followLanguage();
   const KeyboardLoan loan;
   QMessageBox box(QApplication::activeWindow());
   box.setIcon(iconOf(message.icon));
@@ -147,6 +159,7 @@ host::Answer QtHost::messageBox(const host::Message& message) {
 
 std::string QtHost::inputBox(std::string_view prompt, std::string_view title,
                              std::string_view value) {
+  followLanguage();
   const KeyboardLoan loan;
   QInputDialog dialog(QApplication::activeWindow());
   dialog.setWindowTitle(qs(title));
@@ -158,21 +171,25 @@ std::string QtHost::inputBox(std::string_view prompt, std::string_view title,
 }
 
 std::optional<std::string> QtHost::openFile(const host::FileRequest& request) {
+  followLanguage();
   return chosen(QFileDialog::getOpenFileName(QApplication::activeWindow(), qs(request.title),
                                              qs(request.folder), filterOf(request.filters)));
 }
 
 std::optional<std::string> QtHost::saveFile(const host::FileRequest& request) {
+  followLanguage();
   return chosen(QFileDialog::getSaveFileName(QApplication::activeWindow(), qs(request.title),
                                              qs(request.folder), filterOf(request.filters)));
 }
 
 std::optional<std::string> QtHost::chooseFolder(std::string_view title, std::string_view folder) {
+  followLanguage();
   return chosen(
       QFileDialog::getExistingDirectory(QApplication::activeWindow(), qs(title), qs(folder)));
 }
 
 std::optional<forms::Font> QtHost::chooseFont(const forms::Font& current) {
+  followLanguage();
   bool accepted = false;
   const QFont font = QFontDialog::getFont(&accepted, fontOf(current), QApplication::activeWindow());
   if (!accepted) return std::nullopt;
@@ -186,12 +203,14 @@ std::optional<forms::Font> QtHost::chooseFont(const forms::Font& current) {
 }
 
 std::optional<forms::Colour> QtHost::chooseColour(forms::Colour current) {
+  followLanguage();
   const QColor colour =
       QColorDialog::getColor(QColor::fromRgb(current), QApplication::activeWindow());
   return colour.isValid() ? std::optional(colour.rgb() & 0xFFFFFFU) : std::nullopt;
 }
 
 FormFrame& QtHost::open(forms::Form& form, Qt::WindowModality modality) {
+  followLanguage();
   QWidget* const window = views_.build(form).release();
   window->setWindowModality(modality);
   auto* const frame = new FormFrame(*window, form, escapeOf(form));
@@ -208,6 +227,7 @@ void QtHost::forget(forms::Form& form) {
   QWidget& window = found->second->window();
   frames_.erase(found);
   window.deleteLater();
+  followLanguage();
   if (onClosed) onClosed(form);
 }
 

@@ -20,8 +20,12 @@ class QtHost : public host::Host {
   explicit QtHost(ViewRegistry views);
   ~QtHost() override;
 
+  using Turkish = std::function<bool()>;
   // How the buttons of questions get the user's language: `Evet`, `hayir`, `Tamam`, `iptal`.
   void setWords(Words words) { words_ = std::move(words); }
+  // Whether the user works in Turkish, now: the toolkit's own words follow whenever a window opens
+  // or closes.
+  void setTurkish(Turkish turkish);
   // The window that shows the form; null when there is none.
   [[nodiscard]] QWidget* windowOf(const forms::Form& form) const;
   // Called after a window was closed.
@@ -50,10 +54,12 @@ class QtHost : public host::Host {
   FormFrame& open(forms::Form& form, Qt::WindowModality modality);
   void forget(forms::Form& form);
   [[nodiscard]] QString word(std::string_view key, const char* otherwise) const;
+  void followLanguage() const;
   void addButtons(QMessageBox& box, const host::Message& message) const;
 
   ViewRegistry views_;
   Words words_;
+  Turkish turkish_;
   std::map<const forms::Form*, FormFrame*> frames_;
 };
 

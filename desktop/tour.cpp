@@ -6,6 +6,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/form_frame.h"
+#include "desktop/screen_room.h"
 #include "desktop/text.h"
 #include "desktop/tour_album.h"
 #include "desktop/tour_exam.h"
@@ -25,6 +26,7 @@ namespace desktop {
 namespace {
 
 constexpr const char* languages[] = {"tr", "eng"};
+constexpr QSize largeDesk{1920, 1040};
 constexpr QSize usualSize{1240, 780};
 constexpr QSize smallestSize{1024, 700};
 constexpr QSize findSize{1100, 720};
@@ -38,6 +40,7 @@ class Tour {
   bool run() {
     if (!album_.good())
       return complain(QStringLiteral("Cannot make the folder of the tour")), false;
+    setScreenRoom(largeDesk);
     main_.windowState = forms::WindowState::Normal;
     main_.width = usualSize.width();
     main_.height = usualSize.height();
@@ -45,6 +48,7 @@ class Tour {
     host_.windowOf(main_)->resize(usualSize);
     for (const char* language : languages) inLanguage(language);
     host_.close(main_);
+    setScreenRoom({});
     return album_.good();
   }
 
@@ -95,6 +99,9 @@ class Tour {
 
   void nameList(const QString& suffix) {
     main_.Lstdat.clear();
+    main_.Lstdat.noteOf = [](const std::string& name) {
+      return name == "Ayşe Yıldız" ? "" : name.ends_with('*') ? "1955 · 2019/7" : "1991";
+    };
     main_.Lstdat.appendItems({"Ayşe Yıldırım", "Ayşe Yıldırım*", "Ayşe Yıldız"});
     main_.Lstdat.setVisibleRows(3);
     main_.Lstdat.setVisible(true);

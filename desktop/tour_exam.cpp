@@ -3,6 +3,7 @@
 #include <array>
 
 #include "shell/speciality.h"
+#include "shell/text_lookup.h"
 #include "stores/visit_ledger.h"
 
 namespace desktop {
@@ -64,8 +65,16 @@ constexpr auto patient = "Ayşe Yıldırım";
 
 std::vector<forms::ListItem> sampleDates() {
   std::vector<forms::ListItem> dates;
-  for (const char* date : {"17.09.2019", "02.03.2021", "11.06.2024", "17.09.2025", "03.02.2026"})
-    dates.push_back({date, static_cast<long>(dates.size()) + 1});
+  struct Day {
+    const char* date;
+    const char* diagnosis;
+  };
+  for (const Day& day : {Day{"17.09.2019", "Akut bronşit"}, Day{"02.03.2021", ""},
+                         Day{"11.06.2024", "Demir eksikliği anemisi"},
+                         Day{"17.09.2025", "Esansiyel hipertansiyon, evre 1"},
+                         Day{"03.02.2026", "Esansiyel hipertansiyon"}})
+    dates.push_back(
+        {.text = day.date, .data = static_cast<long>(dates.size()) + 1, .note = day.diagnosis});
   return dates;
 }
 
@@ -107,6 +116,7 @@ void SampleExam::write() {
   form_->ChkHT.setValue(true);
   form_->txtp1.setText("retina.jpg");
   form_->liste.setItems(sampleDates());
+  form_->lbluyarı.setToolTip(metinbul(istasyon_, "warning"));
   form_->lbluyarı.setCaption("Penisilin alerjisi var.");
   form_->lbluyarı.setVisible(true);
 }

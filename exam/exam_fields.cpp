@@ -30,7 +30,7 @@ constexpr std::array<FieldRow, 2> pastRows{{
 }};
 
 constexpr std::array<FieldRow, 4> measuredRows{{
-    {controlOf<&FrmExam::txtnabız>, "Pulse", "nabiz", 0, Text, {}, "/dk"},
+    {controlOf<&FrmExam::txtnabız>, "Pulse", "nabiz", 0, Text, {}, shell::perMinute},
     {controlOf<&FrmExam::txtsistol>, "Systol", "Sistol", 0, Text, {}, "mmHg"},
     {controlOf<&FrmExam::txtdiastol>, "Diastol", "Diastol", 0, Text, {}, "mmHg"},
     {controlOf<&FrmExam::txtateş>, "Fever", "ates", 0, Text, {}, "°C"},
@@ -103,7 +103,7 @@ constexpr std::array<FieldRow, 5> riskRows{{
     {controlOf<&FrmExam::ChkHT>, "HT", "Hipertansiyon", 0, Mark},
     {controlOf<&FrmExam::ChkDM>, "DM", "Diabetes Mellitus", 0, Mark},
     {controlOf<&FrmExam::ChkHiperlipemi>, "HL", "Hiperlipemi", 0, Mark},
-    {controlOf<&FrmExam::Chksigara>, "Smoke", "sigara", 0, Mark},
+    {controlOf<&FrmExam::Chksigara>, "Smoke", "Sigara", 0, Mark},
     {controlOf<&FrmExam::Chkstres>, "Stress", "Stres", 0, Mark},
 }};
 

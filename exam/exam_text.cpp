@@ -3,6 +3,7 @@
 #include "exam/exam_fields.h"
 #include "exam/frm_exam.h"
 #include "platform/text/number.h"
+#include "shell/captions.h"
 #include "shell/text_lookup.h"
 
 namespace exam {
@@ -54,14 +55,15 @@ class Composer {
       line.append(line.empty() ? "" : ", ").append(word + " " + measured + " ").append(unit);
     };
     const auto joinRow = [&](const shell::FieldRow& row) {
-      join(caption(row), textOf_(row), row.unit);
+      join(caption(row), textOf_(row), unitOf(istasyon, row));
     };
     const MeasuredFields measured = measuredFields();
     joinRow(measured.pulse);
     const std::string systole = textOf_(measured.systole);
     const std::string diastole = textOf_(measured.diastole);
     if (!systole.empty() || !diastole.empty())
-      join(metinbul(istasyon, "Tansiyon"), systole + "/" + diastole, measured.systole.unit);
+      join(metinbul(istasyon, "Tansiyon"), systole + "/" + diastole,
+           unitOf(istasyon, measured.systole));
     joinRow(measured.fever);
     joinRow(measured.height);
     joinRow(measured.weight);

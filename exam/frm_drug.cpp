@@ -5,6 +5,7 @@
 #include "documents/frm_wizard_drug.h"
 #include "platform/text/number.h"
 #include "platform/text/utf8.h"
+#include "shell/patient_warning.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
@@ -60,6 +61,7 @@ void FrmDrug::Load() {
   CatalogueScreen::Load();
   tbToolBar.setButtonToolTip("sihirbaz", phrase(istasyon, shell::Phrase::PrintWizard));
   lblisim.setCaption(sisim(istasyon.SeciliHasta));
+  shell::uyariGoster(istasyon, istasyon.SeciliHasta, lbluyarı);
   sırano.setCaption("0");
   İlaçlistele();
   alanlaribosalt();

@@ -39,6 +39,7 @@ class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
 
   forms::Label lblRp{*this, "lblRp"};
   forms::Label lblisim{*this, "lblisim"};
+  forms::Label lbluyarı{*this, "lbluyarı"};  // the patient's warning
   forms::TextBox txtrecete{*this, "txtrecete", forms::TextLines::Multiple};
   forms::Label sırano{*this, "sırano"};  // of the last drug of the prescription
   forms::CommandButton buttamam{*this, "buttamam"};

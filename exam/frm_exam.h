@@ -161,6 +161,7 @@ class FrmExam : public shell::DatedRecordScreen, public documents::PrintedRecord
   void listelereEkle() override;
   [[nodiscard]] bool secimdenOnce() override;
   void tarihBitti() override;
+  [[nodiscard]] std::string_view listeNotu() const override { return "Diagnosis"; }
   void listeDegisti() override;
   void hastaDegisti() override;
   void basliklariYenile() override;

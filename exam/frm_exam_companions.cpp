@@ -3,6 +3,7 @@
 
 #include "exam/frm_exam.h"
 #include "platform/text/utf8.h"
+#include "shell/patient_warning.h"
 #include "shell/picture_archive.h"
 #include "shell/visit_buttons.h"
 
@@ -128,13 +129,8 @@ void FrmExam::hesapAc() {
 // --- The patient's warning
 
 void FrmExam::uyariOku() {
-  constexpr int nameWidth = 50;
-  dao::Recordset& warnings = istasyon.stores.clinical.tblWarn;
-  const std::string name = text::left(lblisim.caption(), nameWidth);
-  const bool warned = !name.empty() && warnings.Seek("=", name) && !warnings.NoMatch();
-  lbluyarı.setCaption(warned ? warnings.Fields("warn").text() : std::string());
-  lbluyarı.setVisible(!lbluyarı.caption().empty());
-  mnuwarn.setEnabled(warned);
+  mnuwarn.setEnabled(shell::uyariGoster(istasyon, lblisim.caption(), lbluyarı) ==
+                     shell::Warned::Yes);
 }
 
 void FrmExam::uyariAc() {

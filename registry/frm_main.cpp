@@ -145,6 +145,7 @@ void FrmMain::dilDegisti() {
   ComCinsiyet.setListIndex(sex);
   yasGoster();
   ButtonsForPatient();
+  yeniMesaj(bekleyenMesaj_);
   tuskontrol();
 }
 

@@ -138,6 +138,7 @@ class FrmMain : public shell::RecordScreen,
   forms::TextBox txtnot{*this, "txtnot", forms::TextLines::Multiple};
 
   // --- Beside the card
+  forms::Label lbluyarı{*this, "lbluyarı"};  // the patient's warning
   forms::Panel Panofoto{*this, "Panofoto"};
   forms::Picture ImgFoto{*this, "ImgFoto"};
   forms::TextBox txtfoto{*this, "txtfoto"};
@@ -290,6 +291,7 @@ class FrmMain : public shell::RecordScreen,
   void listeyiSurdur();
   void listeyiSay();
   void listeyiKapat();
+  [[nodiscard]] std::string adasNotu(const std::string& name);
   void isimleriAc(bool unlocked);
   void isimSifresi();
   // The accounts open for whoever knows their password, when one is asked for.
@@ -358,6 +360,7 @@ class FrmMain : public shell::RecordScreen,
   bool sayildi_ = false;        // this run stands in the setting NS
   platform::Status yalnizlik_;  // why this station has no slot
   NameSearch isimler_;
+  NamesakeNotes adasNotlari_;
   // Tasks that were put off look whether the card is still there.
   std::shared_ptr<bool> yasiyor_ = std::make_shared<bool>(true);
   bool listeBekliyor_ = false;
@@ -368,6 +371,7 @@ class FrmMain : public shell::RecordScreen,
   text::DateTime bugun_;             // today, when it was last looked at
   unsigned vurus_ = 0;               // ticks since the program came up
   Extent panofoto_;
+  long bekleyenMesaj_ = 0;
   long baskaIstasyon_ = 0;       // that has the patient who was asked for last; 0 for none
   int cinsiyet_ = 2;             // the row of the sex that was chosen last
   bool birthUnchecked_ = false;  // while the program leaves the birth field

@@ -36,6 +36,7 @@ void FrmMain::kartiBagla() {
     tuskontrol();
   });
   Txtİsim.KeyUp.connect([this](forms::Key) { isimYazildi(); });
+  Lstdat.noteOf = [this](const std::string& name) { return adasNotu(name); };
   Lstdat.Click.connect([this] { hastaSec(Lstdat.text()); });
   TxtEskiİsim.Change.connect([this] { baskiTuslari(); });
   TxtDTarihi.GotFocus.connect([this] { shell::hepsinisec(*this); });

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "registry/frm_main.h"
+#include "shell/patient_warning.h"
 #include "shell/restore.h"
 #include "shell/speciality.h"
 #include "shell/text_lookup.h"
@@ -147,6 +148,7 @@ bool FrmMain::tusBas(std::string_view key) {
 }
 
 void FrmMain::yeniMesaj(long count) {
+  bekleyenMesaj_ = count;
   tbToolBar.setButtonImage("mesaj", count > 0 ? "mesajv" : "mesaj");
   const std::string caption = shell::metinbul(istasyon, count > 0 ? "yenimesajlar" : "Mesaj");
   tbToolBar.setButtonToolTip("mesaj",
@@ -164,6 +166,7 @@ void FrmMain::muayenetus() {
 
 void FrmMain::ButtonsForPatient() {
   const std::string& patient = TxtEskiİsim.text();
+  shell::uyariGoster(istasyon, patient, lbluyarı);
   const bool any = !patient.empty() &&
                    stores::hasLedgerRow(
                        istasyon.stores.clinical.Visit,

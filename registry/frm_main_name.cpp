@@ -14,7 +14,6 @@ namespace registry {
 
 namespace {
 
-constexpr int mostRowsShown = 5;
 constexpr std::size_t nameWidth = 40;
 
 // The name with one more mark; a name that fills its field gives up its last letter for it.
@@ -101,7 +100,7 @@ void FrmMain::listeyiSurdur() {
   listeBekliyor_ = false;
   const bool done = isimler_.step();
   Lstdat.appendItems(isimler_.take());
-  Lstdat.setVisibleRows(std::min(static_cast<int>(Lstdat.count()), mostRowsShown));
+  Lstdat.setVisibleRows(static_cast<int>(Lstdat.count()));
   Lstdat.setVisible(Lstdat.count() > 0);
   if (done) return listeyiSay();
   listeBekliyor_ = true;
@@ -120,11 +119,17 @@ void FrmMain::listeyiSay() {
 
 void FrmMain::listeyiKapat() {
   isimler_.stop();
+  adasNotlari_.forget();
   listeBekliyor_ = false;
   aranan_.clear();
   idk.setCaption("6");
   Lstdat.clear();
   Lstdat.setVisible(false);
+}
+
+std::string FrmMain::adasNotu(const std::string& name) {
+  const auto hidden = gizliMi(hiddenMark) ? HiddenPatients::PassedOver : HiddenPatients::Shown;
+  return adasNotlari_.of(istasyon.stores.personal.database, name, hidden);
 }
 
 void FrmMain::hastaSec(const std::string& name) {

@@ -1,8 +1,11 @@
 #include "registry/name_search.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "platform/text/date.h"
 #include "platform/text/utf8.h"
+#include "shell/record_screen.h"
 
 namespace registry {
 
@@ -34,6 +37,57 @@ bool NameSearch::step() {
 
 std::vector<std::string> NameSearch::take() {
   return std::exchange(found_, {});
+}
+
+namespace {
+
+constexpr std::size_t namesakesSought = 4;
+
+// The name without marks and with each number of them up to one more than its own.
+std::vector<dao::Value> namesakesOf(const std::string& name) {
+  const std::string bare = shell::RecordScreen::sisim(name);
+  const std::size_t most = std::max(name.size() - bare.size() + 2, namesakesSought);
+  std::vector<dao::Value> names;
+  for (std::size_t marks = 0; marks < most; ++marks)
+    names.emplace_back(bare + std::string(marks, '*'));
+  return names;
+}
+
+std::string selectNamed(std::size_t names) {
+  std::string places;
+  for (std::size_t i = 0; i < names; ++i) places += i == 0 ? "?" : ", ?";
+  return "SELECT [Name], [Key], [Date of Birth], [Year of Birth], [Option2] FROM [IDCard] "
+         "WHERE [Name] IN (" +
+         places + ")";
+}
+
+std::string noteOn(dao::Recordset& card) {
+  const auto date = card.Fields("Date of Birth").Value().date();
+  std::string note = date ? text::shortDate(*date).substr(6) : card.Fields("Year of Birth").text();
+  const std::string file = text::trim(card.Fields("Option2").text());
+  if (!note.empty() && !file.empty()) note += " · ";
+  return note + file;
+}
+
+}  // namespace
+
+const std::string& NamesakeNotes::of(dao::Database& personal, const std::string& name,
+                                     HiddenPatients hidden) {
+  const auto [known, fresh] = known_.try_emplace(name);
+  if (!fresh) return known->second;
+  const std::vector<dao::Value> names = namesakesOf(name);
+  auto cards = personal.OpenRecordset(selectNamed(names.size()), names);
+  if (!cards) return known->second;
+  int seen = 0;
+  std::string note;
+  for (; !cards->Eof(); cards->MoveNext().ignore()) {
+    const bool marked = text::trimmed(cards->Fields("Key").text()) == hiddenMark;
+    if (marked && hidden == HiddenPatients::PassedOver) continue;
+    ++seen;
+    if (cards->Fields("Name").text() == name) note = noteOn(*cards);
+  }
+  if (seen > 1) known->second = note;
+  return known->second;
 }
 
 }  // namespace registry

@@ -1,6 +1,7 @@
 // The list of names under the name field: all patients whose name begins with what was typed.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,18 @@ class NameSearch {
   std::size_t taken_ = 0;
   HiddenPatients hidden_ = HiddenPatients::PassedOver;
   std::vector<std::string> found_;
+};
+
+// What tells namesakes apart behind their names: the year of birth and the file number.
+class NamesakeNotes {
+ public:
+  // Of the card of that name; empty where no other card that may be seen has the same name but for
+  // its marks. Looked up once until it is forgotten.
+  const std::string& of(dao::Database& personal, const std::string& name, HiddenPatients hidden);
+  void forget() { known_.clear(); }
+
+ private:
+  std::map<std::string, std::string> known_;
 };
 
 // The mark in `IDCard.Key` that hides a patient.

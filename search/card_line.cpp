@@ -13,7 +13,7 @@ constexpr std::array<std::string_view, 10> lineColumns{
     "Name",       "Date of Birth", "Year of Birth", "Sex",        "Place of Birth",
     "Profession", "email",         "Telephone1",    "Telephone2", "Notes"};
 constexpr std::array headingKeys{"isim",   "dogumtarihi", "Cinsiyet", "dogumyeri",
-                                 "Meslek", "email",       "Telefon",  "Notlar"};
+                                 "Meslek", "e-mail",      "Telefon",  "Notlar"};
 
 std::string birth(dao::Recordset& card) {
   const auto date = text::parseIso(card.Fields("Date of Birth").view());

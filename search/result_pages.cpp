@@ -49,7 +49,7 @@ ResultPages::ResultPages(shell::Station& istasyon, const documents::Report& repo
       headFont_(font_),
       head_{metinbul(istasyon, "isim"),
             both(metinbul(istasyon, "dogumtarihi"), metinbul(istasyon, "Cinsiyet")),
-            metinbul(istasyon, "dogumyeri"), metinbul(istasyon, "email"),
+            metinbul(istasyon, "dogumyeri"), metinbul(istasyon, "e-mail"),
             metinbul(istasyon, "Telefon")},
       bottom_(sheet_.bodyEnd()) {
   headFont_.bold = true;

@@ -101,6 +101,10 @@ constexpr std::array cardRows{
 constexpr std::array optionRows{
     CaptionRow{"FrmOption", "secenek", Window},
     CaptionRow{"PAyarlar", "genelayarlar"},
+    CaptionRow{"birthdayBox", "dogumgunu"},
+    CaptionRow{"appointmentBox", "Randevular"},
+    CaptionRow{"passwordBox", "sifreler"},
+    CaptionRow{"otherBox", "diger"},
     CaptionRow{"OptTR", "turkce"},
     CaptionRow{"OptGB", "ingilizce"},
     CaptionRow{"dghatirlat", "dogumgunuhatitlat"},

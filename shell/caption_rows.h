@@ -29,6 +29,7 @@ struct CaptionRow {
 struct KeyedCaption {
   std::string_view key;
   std::string_view textKey;
+  std::string_view wordKey = {};  // a shorter one, for the button itself
 };
 [[nodiscard]] std::span<const KeyedCaption> toolTipRows();
 [[nodiscard]] std::span<const KeyedCaption> tabRows();

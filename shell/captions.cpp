@@ -1,6 +1,7 @@
 #include "shell/captions.h"
 
 #include "platform/forms/menu.h"
+#include "platform/forms/text_control.h"
 #include "shell/caption_rows.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
@@ -40,14 +41,29 @@ void captionControls(Station& istasyon, forms::Form& form) {
   }
 }
 
+constexpr auto wordsSetting = "toolbar words";
+
+void captionButtons(Station& istasyon, forms::Toolbar& toolbar) {
+  for (const KeyedCaption& row : toolTipRows()) {
+    toolbar.setButtonToolTip(row.key, metinbul(istasyon, row.textKey));
+    if (!row.wordKey.empty()) toolbar.setButtonWord(row.key, metinbul(istasyon, row.wordKey));
+  }
+  const bool shown = istasyon.ayar(wordsSetting, "1") == "1";
+  toolbar.setWords(shown ? forms::ButtonWords::Shown : forms::ButtonWords::Hidden,
+                   {.caption = phrase(istasyon, Phrase::ToolbarWords),
+                    .keep = [&istasyon](forms::ButtonWords words) {
+                      istasyon.ayarYaz(wordsSetting,
+                                       words == forms::ButtonWords::Shown ? "1" : "0");
+                    }});
+}
+
 }  // namespace
 
 void basliklariyaz(Station& istasyon, forms::Form& form) {
   captionControls(istasyon, form);
   for (forms::Control* control : form.controls()) {
     if (auto* toolbar = dynamic_cast<forms::Toolbar*>(control)) {
-      for (const KeyedCaption& row : toolTipRows())
-        toolbar->setButtonToolTip(row.key, metinbul(istasyon, row.textKey));
+      captionButtons(istasyon, *toolbar);
     }
     if (auto* strip = dynamic_cast<forms::TabStrip*>(control)) {
       for (const KeyedCaption& row : tabRows())
@@ -57,8 +73,15 @@ void basliklariyaz(Station& istasyon, forms::Form& form) {
 }
 
 void alanBasliklari(Station& istasyon, forms::Form& form, std::span<const FieldRow> fields) {
-  for (const FieldRow& row : fields)
+  for (const FieldRow& row : fields) {
     row.control(form).setCaption(metinbul(istasyon, row.captionKey));
+    auto* const field = dynamic_cast<forms::TextControl*>(&row.control(form));
+    if (field != nullptr) field->setUnit(unitOf(istasyon, row));
+  }
+}
+
+std::string unitOf(Station& istasyon, const FieldRow& row) {
+  return row.unit == perMinute ? phrase(istasyon, Phrase::PerMinute) : std::string(row.unit);
 }
 
 }  // namespace shell

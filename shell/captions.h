@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "shell/field_row.h"
@@ -13,7 +14,9 @@ namespace shell {
 // is passed over. Called first thing in a form's load, and again when the language changes.
 void basliklariyaz(Station& istasyon, forms::Form& form);
 
-// The captions of the fields of a record screen.
+// The captions and units of the fields of a record screen.
 void alanBasliklari(Station& istasyon, forms::Form& form, std::span<const FieldRow> fields);
+// The field's unit in the user's language.
+[[nodiscard]] std::string unitOf(Station& istasyon, const FieldRow& row);
 
 }  // namespace shell

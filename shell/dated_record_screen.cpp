@@ -235,13 +235,32 @@ dao::Status DatedRecordScreen::vizitYaz(const Records& records) {
   return written.fault() == dao::Fault::TooLong ? dao::Status() : written;
 }
 
+// One read for all rows. Notes that cannot be read are not worth a message: the dates are there.
+std::map<std::int64_t, std::string> DatedRecordScreen::listeNotlari() {
+  std::map<std::int64_t, std::string> notes;
+  if (listeNotu().empty() || kayitlar_.empty()) return notes;
+  std::vector<std::int64_t> numbers;
+  for (const stores::DatedRecord& record : kayitlar_) numbers.push_back(record.number);
+  auto rows = stores::openListed(istasyon.stores.clinical.database, kind_,
+                                 "[Count], [" + std::string(listeNotu()) + "]", numbers);
+  if (!rows) return notes;
+  for (; !rows->Eof(); rows->MoveNext().ignore()) {
+    const std::string text = text::trim(rows->Fields(1).text());
+    notes.emplace(rows->Fields(0).Value().integer(), text.substr(0, text.find_first_of("\r\n")));
+  }
+  return notes;
+}
+
 void DatedRecordScreen::listele(Records records) {
   kayitlar_ = std::move(records);
+  std::map<std::int64_t, std::string> notes = listeNotlari();
   std::vector<forms::ListItem> dates;
   std::vector<forms::ListItem> numbers;
   for (const stores::DatedRecord& record : kayitlar_) {
-    dates.push_back({text::shortDate(record.date), record.number});
-    numbers.push_back({std::to_string(record.number), record.number});
+    dates.push_back({.text = text::shortDate(record.date),
+                     .data = record.number,
+                     .note = notes[record.number]});
+    numbers.push_back({.text = std::to_string(record.number), .data = record.number});
   }
   liste.setItems(std::move(dates));
   Lstkn.setItems(std::move(numbers));

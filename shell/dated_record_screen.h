@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,6 +76,8 @@ class DatedRecordScreen : public RecordScreen {
   [[nodiscard]] virtual bool secimdenOnce() { return kayitkontrol(); }
   // The user left a valid date.
   virtual void tarihBitti() {}
+  // The column whose first words stand beside the dates; empty for none.
+  [[nodiscard]] virtual std::string_view listeNotu() const { return {}; }
   // The list of dates has other rows.
   virtual void listeDegisti() {}
   // Another patient is on the screen.
@@ -96,6 +99,7 @@ class DatedRecordScreen : public RecordScreen {
   [[nodiscard]] std::string anahtar() const;
   dao::Status vizitYaz(const Records& records);
   void listele(Records records);
+  [[nodiscard]] std::map<std::int64_t, std::string> listeNotlari();
   void dugmeleriYenile();
   void satiriSec();
   void tarihSecildi();

@@ -33,6 +33,9 @@ struct FieldRow {
   std::string_view unit = {};
 };
 
+// The one unit that is a word: it is shown in the user's language.
+inline constexpr std::string_view perMinute = "/dk";
+
 namespace detail {
 template <class Screen, class Control>
 Screen screenOf(Control Screen::*);

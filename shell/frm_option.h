@@ -22,18 +22,23 @@ class FrmOption : public forms::Form {
 
   forms::Panel PAyarlar{*this, "PAyarlar"};
   forms::Label LblDil{*this, "LblDil"};  // the language that is chosen on the screen
+  forms::Panel languageBox{*this, "languageBox"};
   forms::OptionButton OptTR{*this, "OptTR", "dil"};
   forms::OptionButton OptGB{*this, "OptGB", "dil"};
+  forms::Panel birthdayBox{*this, "birthdayBox"};
   forms::CheckBox dghatirlat{*this, "dghatirlat"};
   forms::ComboBox Comgönce{*this, "Comgönce", forms::ComboStyle::ListOnly};
+  forms::Panel appointmentBox{*this, "appointmentBox"};
   forms::TextBox txtbtime{*this, "txtbtime"};
   forms::TextBox txtintapp{*this, "txtintapp"};
   forms::CheckBox chkrandevuaçılış{*this, "chkrandevuaçılış"};
   forms::CheckBox chkrandevukapanış{*this, "chkrandevukapanış"};
+  forms::Panel passwordBox{*this, "passwordBox"};
   forms::CheckBox acilistasifresor{*this, "acilistasifresor"};
   forms::OptionButton optaçma{*this, "optaçma", "acilis"};
   forms::OptionButton optkısıtlıaç{*this, "optkısıtlıaç", "acilis"};
   forms::CheckBox hesaplardasifre{*this, "hesaplardasifre"};
+  forms::Panel otherBox{*this, "otherBox"};
   forms::CheckBox chkçıkyedek{*this, "chkçıkyedek"};
   forms::CheckBox chsigarabrakma{*this, "chsigarabrakma"};
 
@@ -68,6 +73,8 @@ class FrmOption : public forms::Form {
   void ListeleriKaydet();
   void ListKaydet();
   void ListSeçKaldır();
+  // The list that is added to, changed and deleted from.
+  void listeSec(forms::ComboBox& combo);
   void BaşlıkKaydet();
 
   // Fonts that the window offers for the letterhead.
@@ -83,7 +90,6 @@ class FrmOption : public forms::Form {
   void sifreIle(forms::CheckBox& box, std::string_view key, bool& eaten);
   [[nodiscard]] bool yedekKlasoru();
 
-  void listeSec(forms::ComboBox& combo);
   void listeyiDoldur(forms::ComboBox& combo);
   void degerEkle();
   void degerDegistir();

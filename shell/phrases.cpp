@@ -252,6 +252,10 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::PageItems, "Layout of the page", "Sayfa düzeni"},
     {Phrase::PrintedItems, "Printed", "Yazdırılacaklar"},
     {Phrase::Patients, "Patients", "Hastalar"},
+    {Phrase::PerMinute, "/min", "/dk"},
+    {Phrase::ThisScreen, "This screen", "Bu ekran"},
+    {Phrase::LanguageBox, "Language", "Dil"},
+    {Phrase::ToolbarWords, "Words on the buttons", "Düğmelerde yazı"},
 });
 
 }  // namespace

@@ -145,7 +145,11 @@ enum class Phrase {
   PrintWizard,
   PageItems,     // and their properties
   PrintedItems,  // of a page
-  Patients
+  Patients,
+  PerMinute,   // behind a measurement
+  ThisScreen,  // in front of NotInThisVersion
+  LanguageBox,
+  ToolbarWords
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -66,10 +66,7 @@ bool RecordScreen::tusBas(std::string_view key) {
 }
 
 void RecordScreen::alanlariBagla() {
-  for (const FieldRow& row : alanlar()) {
-    kontroluBagla(row.control(*this));
-    if (!row.unit.empty()) kontrol(row).setUnit(row.unit);
-  }
+  for (const FieldRow& row : alanlar()) kontroluBagla(row.control(*this));
 }
 
 void RecordScreen::kontroluBagla(forms::Control& control) {

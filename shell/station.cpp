@@ -81,7 +81,7 @@ void Station::bilgi(std::string_view text) {
 void Station::ekranAc(std::string_view name, std::string_view entry, const Prepare& prepare) {
   const auto form = screens.make(name, *this);
   if (form == nullptr) {
-    std::string asked(entry.empty() ? name : entry);
+    std::string asked = entry.empty() ? phrase(*this, Phrase::ThisScreen) : std::string(entry);
     std::erase(asked, '&');
     return bilgi(asked + phrase(*this, Phrase::NotInThisVersion));
   }

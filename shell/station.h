@@ -104,7 +104,7 @@ struct Station {
   void bilgi(std::string_view text);
   // Opens a screen by its name and waits until it is closed. `prepare` sets up the loaded screen
   // before it is seen. When this version has no such screen, says so under the caption of the menu
-  // entry that asked for it, else under the screen's name.
+  // entry that asked for it, where there is one.
   using Prepare = std::function<void(forms::Form&)>;
   void ekranAc(std::string_view name, std::string_view entry = {}, const Prepare& prepare = {});
 };

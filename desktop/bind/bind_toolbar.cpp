@@ -1,6 +1,9 @@
 #include "desktop/bind/bind_toolbar.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
 #include <QToolButton>
 
 #include "desktop/icons.h"
@@ -31,6 +34,7 @@ void addActions(QToolBar& bar, const forms::Toolbar& control) {
 void refreshButton(QToolBar& bar, QAction& action, const ToolButton& button) {
   const QString name = qs(button.toolTip);
   action.setText(name);
+  action.setIconText(button.word.empty() ? name : qs(button.word));
   action.setToolTip(name);
   action.setIcon(icon(button.image));
   action.setEnabled(button.enabled);
@@ -66,6 +70,35 @@ void refreshBar(QToolBar& bar, const forms::Toolbar& control) {
   refreshSeparators(actions);
 }
 
+// Bars among other controls, such as those over a text, have no room for words.
+void refreshWords(QToolBar& bar, const forms::Toolbar& control) {
+  const bool shown = control.words() == forms::ButtonWords::Shown &&
+                     qobject_cast<QMainWindow*>(bar.parentWidget()) != nullptr;
+  bar.setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+}
+
+// The user's choice holds for the bars of all windows.
+void chooseWords(forms::ButtonWords words, const forms::Toolbar& chosenOn) {
+  for (QWidget* widget : QApplication::allWidgets()) {
+    const Binding* const binding =
+        qobject_cast<QToolBar*>(widget) == nullptr ? nullptr : bindingOf(*widget);
+    auto* const bar =
+        binding == nullptr ? nullptr : dynamic_cast<forms::Toolbar*>(&binding->control());
+    if (bar != nullptr) bar->setWords(words);
+  }
+  if (chosenOn.wordsChoice().keep) chosenOn.wordsChoice().keep(words);
+}
+
+void offerWords(const QToolBar& bar, QPoint at, const forms::Toolbar& control) {
+  if (control.wordsChoice().caption.empty()) return;
+  QMenu menu;
+  QAction* const words = menu.addAction(qs(control.wordsChoice().caption));
+  words->setCheckable(true);
+  words->setChecked(control.words() == forms::ButtonWords::Shown);
+  if (menu.exec(bar.mapToGlobal(at)) != words) return;
+  chooseWords(words->isChecked() ? forms::ButtonWords::Shown : forms::ButtonWords::Hidden, control);
+}
+
 void refreshTabs(QTabBar& bar, const forms::TabStrip& control) {
   for (int i = 0; std::cmp_less(i, control.tabs().size()); ++i) {
     const forms::Tab& tab = control.tabs()[static_cast<std::size_t>(i)];
@@ -80,10 +113,14 @@ void refreshTabs(QTabBar& bar, const forms::TabStrip& control) {
 }  // namespace
 
 void bind(QToolBar& bar, forms::Toolbar& control) {
-  attach(bar, control, Follow::All, [&](Aspect aspect) {
+  Binding& binding = attach(bar, control, Follow::All, [&](Aspect aspect) {
     if (aspect == Aspect::Items) addActions(bar, control);
+    if (aspect == Aspect::Paint) refreshWords(bar, control);
     refreshBar(bar, control);
   });
+  bar.setContextMenuPolicy(Qt::CustomContextMenu);
+  QObject::connect(&bar, &QWidget::customContextMenuRequested, &binding,
+                   [&](QPoint at) { offerWords(bar, at, control); });
 }
 
 void bind(QTabBar& bar, forms::TabStrip& control) {

@@ -8,7 +8,12 @@ QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(mapped(index.row()));
   if (row >= list_.count()) return {};
   const forms::ListItem& item = list_.items()[row];
-  if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) return qs(item.text);
+  if (role == Qt::DisplayRole) return qs(item.text);
+  if (role == noteRole) return qs(list_.note(row));
+  if (role == Qt::AccessibleTextRole) {
+    const std::string note = list_.note(row);
+    return qs(note.empty() ? item.text : item.text + ", " + note);
+  }
   if (role == Qt::CheckStateRole && list_.choice() == forms::ListChoice::Several)
     return item.selected ? Qt::Checked : Qt::Unchecked;
   return {};

@@ -9,6 +9,9 @@
 
 namespace desktop {
 
+// The quieter text behind a row's own.
+inline constexpr int noteRole = Qt::UserRole;
+
 // Whether the first row of a list stands at the top or at the bottom.
 enum class RowOrder { AsListed, Reversed };
 

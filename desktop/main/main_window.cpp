@@ -15,6 +15,7 @@
 #include "desktop/main/photo_panel.h"
 #include "desktop/main/side_panels.h"
 #include "desktop/text.h"
+#include "desktop/warning_label.h"
 #include "registry/frm_main.h"
 
 namespace desktop {
@@ -29,6 +30,7 @@ QWidget* cardOf(registry::FrmMain& form, QWidget& parent) {
   auto* const layout = new QVBoxLayout(card);
   layout->setContentsMargins(gap::large, gap::large, gap::large, gap::normal);
   layout->setSpacing(gap::large);
+  layout->addWidget(new WarningLabel(form.lbluyarı, card));
   layout->addWidget(cardHeader(form, *card));
   layout->addWidget(cardTabs(form, *card), 1);
   return card;
@@ -68,7 +70,6 @@ QSplitter* content(registry::FrmMain& form, QMainWindow& window) {
 QToolBar* toolbar(registry::FrmMain& form, QMainWindow& window) {
   auto* const bar = new QToolBar(&window);
   bar->setMovable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);
   bind(*bar, form.tbToolBar);
   return bar;
 }

@@ -1,20 +1,16 @@
 #include "desktop/main/name_list.h"
 
 #include <QKeyEvent>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 #include "desktop/bind/binding.h"
 #include "desktop/bind/list_models.h"
 #include "desktop/layout.h"
+#include "desktop/noted_rows.h"
 #include "desktop/text.h"
 
 namespace desktop {
-
-namespace {
-
-constexpr int defaultRows = 5;
-
-}  // namespace
 
 NameList::NameList(forms::ListBox& list, QLineEdit& field)
     : QFrame(field.window()),
@@ -31,6 +27,7 @@ NameList::NameList(forms::ListBox& list, QLineEdit& field)
   view_->setUniformItemSizes(true);
   view_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   view_->setModel(model_);
+  view_->setItemDelegate(new NotedRows(view_));
   count_->setContentsMargins(gap::small, 2, gap::small, 2);
   count_->setForegroundRole(QPalette::PlaceholderText);
   auto* const layout = new QVBoxLayout(this);
@@ -51,15 +48,25 @@ void NameList::refresh(forms::Aspect aspect) {
 }
 
 void NameList::place() {
-  const int rows = list_.visibleRows() > 0 ? list_.visibleRows() : defaultRows;
   const int row = std::max(view_->sizeHintForRow(0), fontMetrics().height());
   if (parentWidget() != field_.window()) setParent(field_.window());
-  view_->setFixedHeight(rows * row + 2);
   const QPoint below = field_.mapTo(field_.window(), QPoint(0, field_.height()));
-  setGeometry(
-      QRect(below, QSize(field_.width(), rows * row + 2 + count_->sizeHint().height() + 2)));
+  rowsShown_ = rowsThatFit(below.y(), row);
+  const int height = rowsShown_ * row + 2;
+  view_->setFixedHeight(height);
+  setGeometry(QRect(below, QSize(field_.width(), height + count_->sizeHint().height() + 2)));
   raise();
   setVisible(list_.visible());
+}
+
+// As many as are wanted, and as the window has room for above its status line.
+int NameList::rowsThatFit(int below, int row) const {
+  const int wanted =
+      list_.visibleRows() > 0 ? list_.visibleRows() : static_cast<int>(list_.count());
+  const auto* const status = field_.window()->findChild<QStatusBar*>();
+  const int end = field_.window()->height() - (status == nullptr ? 0 : status->height());
+  const int room = end - below - count_->sizeHint().height() - 2 * gap::small;
+  return std::clamp(room / row, 1, std::max(wanted, 1));
 }
 
 bool NameList::eventFilter(QObject* watched, QEvent* event) {
@@ -101,9 +108,9 @@ bool NameList::steer(int key) {
     case Qt::Key_Up:
       return mark(marked - 1);
     case Qt::Key_PageDown:
-      return mark(marked + list_.visibleRows());
+      return mark(marked + rowsShown_);
     case Qt::Key_PageUp:
-      return mark(marked - list_.visibleRows());
+      return mark(marked - rowsShown_);
     case Qt::Key_Escape:
       list_.setVisible(false);
       return true;

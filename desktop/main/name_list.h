@@ -26,6 +26,7 @@ class NameList : public QFrame {
  private:
   void refresh(forms::Aspect aspect);
   void place();
+  [[nodiscard]] int rowsThatFit(int below, int row) const;
   bool steer(int key);
   bool keyPressed(int key);
   bool keyReleased(int key);
@@ -36,6 +37,7 @@ class NameList : public QFrame {
   HintList* view_;
   QLabel* count_;
   ListBoxModel* model_;
+  int rowsShown_ = 1;
   int eatenKey_ = 0;  // its release belongs to this list too
 };
 

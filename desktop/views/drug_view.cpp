@@ -18,6 +18,7 @@
 #include "desktop/elided_label.h"
 #include "desktop/hint_list.h"
 #include "desktop/layout.h"
+#include "desktop/warning_label.h"
 #include "exam/frm_drug.h"
 
 namespace desktop {
@@ -68,6 +69,7 @@ QWidget* prescription(exam::FrmDrug& form, QWidget& parent) {
   bold.setBold(true);
   patient->setFont(bold);
   column->addWidget(patient);
+  column->addWidget(new WarningLabel(form.lbluyarı, side));
   QWidget* const text = makeWidget(form.txtrecete, *side);
   column->addWidget(makeLabel(form.lblRp, *side));
   column->addWidget(text, 1);

@@ -18,10 +18,10 @@ namespace {
 constexpr int shortField = 10;
 constexpr int indentation = 22;  // under the words of a check box
 
-// A box around what belongs together; its first control says by itself what the box is about.
-QVBoxLayout* box(QWidget& page) {
-  auto* const group = new QFrame(&page);
-  group->setFrameShape(QFrame::StyledPanel);
+// A box around what belongs together, with its title.
+QVBoxLayout* box(QWidget& page, forms::Panel& panel) {
+  auto* const group = new QGroupBox(&page);
+  bind(*group, panel);
   auto* const column = new QVBoxLayout(group);
   column->setContentsMargins(gap::large, gap::normal, gap::large, gap::normal);
   column->setSpacing(gap::small);
@@ -84,20 +84,20 @@ QWidget* settingsPage(shell::FrmOption& form, QWidget& parent) {
   auto* const column = new QVBoxLayout(page);
   column->setContentsMargins(gap::large, gap::large, gap::large, gap::large);
   column->setSpacing(gap::normal);
-  box(*page)->addWidget(languages(form, *page));
-  QVBoxLayout* const birthdays = box(*page);
+  box(*page, form.languageBox)->addWidget(languages(form, *page));
+  QVBoxLayout* const birthdays = box(*page, form.birthdayBox);
   addTo(*birthdays, form.dghatirlat);
   addShortFields(*birthdays, {&form.Comgönce}, indentation);
-  QVBoxLayout* const appointments = box(*page);
+  QVBoxLayout* const appointments = box(*page, form.appointmentBox);
   addShortFields(*appointments, {&form.txtbtime, &form.txtintapp});
   addTo(*appointments, form.chkrandevuaçılış);
   addTo(*appointments, form.chkrandevukapanış);
-  QVBoxLayout* const passwords = box(*page);
+  QVBoxLayout* const passwords = box(*page, form.passwordBox);
   addTo(*passwords, form.acilistasifresor);
   addTo(*passwords, form.optaçma, indentation);
   addTo(*passwords, form.optkısıtlıaç, indentation);
   addTo(*passwords, form.hesaplardasifre);
-  QVBoxLayout* const others = box(*page);
+  QVBoxLayout* const others = box(*page, form.otherBox);
   addTo(*others, form.chkçıkyedek);
   addTo(*others, form.chsigarabrakma);
   column->addStretch(1);

@@ -13,7 +13,7 @@ namespace desktop {
 
 namespace {
 
-constexpr QSize usualSize{860, 640};
+constexpr QSize usualSize{860, 780};
 
 QHBoxLayout* endButtons(shell::FrmOption& form, QWidget& parent) {
   auto* const row = new QHBoxLayout;

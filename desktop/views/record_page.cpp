@@ -12,9 +12,7 @@ namespace desktop {
 
 namespace {
 
-constexpr int widthForTwoSides = 760;
-constexpr int longShare = 3;
-constexpr int shortShare = 2;
+constexpr int widthForTwoSides = 620;
 
 bool isLong(const forms::Control& control) {
   const auto* const box = dynamic_cast<const forms::TextBox*>(&control);
@@ -60,7 +58,7 @@ void RecordPage::add(forms::Control& control) {
   FieldColumns*& fields = large ? at.longs : at.shorts;
   if (fields == nullptr) {
     fields = new FieldColumns(at.home);
-    at.sides->insertWidget(large ? 0 : -1, fields, large ? longShare : shortShare);
+    at.sides->insertWidget(large ? 0 : -1, fields, large ? 1 : 0);
   }
   QWidget* const widget = makeWidget(control, *fields);
   if (widget == nullptr) return;
@@ -79,7 +77,7 @@ void RecordPage::resizeEvent(QResizeEvent* event) {
 }
 
 void RecordPage::arrange() {
-  const bool wide = width() >= std::max(widthForTwoSides, characters(*this, 100));
+  const bool wide = width() >= std::max(widthForTwoSides, characters(*this, 86));
   for (const Block& at : blocks_) {
     const bool both = at.longs != nullptr && at.shorts != nullptr;
     at.sides->setDirection(both && wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);

@@ -12,6 +12,7 @@
 #include "desktop/bind/bind_toolbar.h"
 #include "desktop/elided_label.h"
 #include "desktop/layout.h"
+#include "desktop/warning_label.h"
 #include "platform/forms/menu.h"
 
 namespace desktop {
@@ -59,11 +60,7 @@ QWidget* recordBanner(const forms::Form& form, QWidget& parent) {
   patient->setFont(large);
   row->addWidget(patient, 1);
   if (auto* const warning = dynamic_cast<forms::Label*>(form.find("lbluyarı"))) {
-    QLabel* const shown = bannerLabel(*warning, *strip);
-    shown->setWordWrap(true);
-    shown->setFrameShape(QFrame::StyledPanel);
-    shown->setMargin(gap::small);
-    row->addWidget(shown, 1);
+    row->addWidget(new WarningLabel(*warning, strip), 1);
   }
   return strip;
 }

@@ -9,6 +9,7 @@
 #include "desktop/bind/bind_toolbar.h"
 #include "desktop/hint_list.h"
 #include "desktop/layout.h"
+#include "desktop/noted_rows.h"
 #include "desktop/views/record_page.h"
 #include "desktop/views/record_parts.h"
 #include "shell/dated_record_screen.h"
@@ -19,6 +20,7 @@ namespace {
 
 constexpr QSize usualSize{1180, 740};
 constexpr int dateListCharacters = 18;
+constexpr int usualDateListCharacters = 36;  // with the first words of what was found
 
 template <class Control>
 Control* as(forms::Control* control) {
@@ -33,6 +35,7 @@ QWidget* dates(shell::DatedRecordScreen& form, QWidget& parent) {
   list->setMinimumWidth(characters(*list, dateListCharacters));
   // What was written last is wanted first.
   bind(*list, form.liste, RowOrder::Reversed);
+  list->setItemDelegate(new NotedRows(list));
   column->addWidget(captionFor(*list), 0, Qt::AlignLeft);
   column->addWidget(list, 1);
   return side;
@@ -120,6 +123,8 @@ std::unique_ptr<QWidget> recordView(forms::Form& form) {
   splitter->addWidget(dates(record, *splitter));
   splitter->addWidget(Pages(record, *splitter).fill());
   splitter->setStretchFactor(1, 1);
+  const int left = characters(*splitter, usualDateListCharacters);
+  splitter->setSizes({left, usualSize.width() - left});
   column->addWidget(splitter, 1);
   window->setCentralWidget(body);
   return window;

@@ -12,7 +12,7 @@ std::size_t ListBox::addItem(std::string_view text, long data) {
                                   [](const ListItem& i) { return std::string_view(i.text); });
   }
   const auto row = static_cast<std::size_t>(at - items_.begin());
-  items_.insert(at, ListItem{std::string(text), data, false});
+  items_.insert(at, ListItem{.text = std::string(text), .data = data});
   if (listIndex_ >= 0 && std::cmp_less_equal(row, listIndex_)) ++listIndex_;
   notify(Aspect::Items);
   return row;
@@ -20,7 +20,7 @@ std::size_t ListBox::addItem(std::string_view text, long data) {
 
 void ListBox::appendItems(std::vector<std::string> texts) {
   // No reserve: growing to the exact size each time would move all rows at every call.
-  for (std::string& text : texts) items_.push_back({std::move(text), 0, false});
+  for (std::string& text : texts) items_.push_back({.text = std::move(text)});
   notify(Aspect::Items);
 }
 
@@ -63,6 +63,11 @@ void ListBox::showFromRow(int row) {
 
 std::string ListBox::text() const {
   return listIndex_ < 0 ? std::string() : items_[static_cast<std::size_t>(listIndex_)].text;
+}
+
+std::string ListBox::note(std::size_t row) const {
+  const ListItem& item = items_.at(row);
+  return noteOf ? noteOf(item.text) : item.note;
 }
 
 void ListBox::setSelected(std::size_t row, bool selected) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,6 +17,7 @@ struct ListItem {
   std::string text;
   long data = 0;
   bool selected = false;
+  std::string note = {};  // shown quietly behind the text
 };
 
 enum class ListOrder { AsAdded, Sorted };
@@ -56,6 +58,12 @@ class ListBox : public Control {
   // How many rows the drop-down shows without scrolling; 0 leaves it to the window.
   [[nodiscard]] int visibleRows() const { return visibleRows_; }
   void setVisibleRows(int rows);
+
+  // What stands behind the text of a row: its own note, or what `noteOf` answers.
+  [[nodiscard]] std::string note(std::size_t row) const;
+  // For notes that are too dear to be known of every row: asked with the text of a row that is
+  // shown.
+  std::function<std::string(const std::string& text)> noteOf;
 
   Event<> Click;
   Event<> DblClick;

@@ -58,6 +58,19 @@ void Toolbar::setButtonToolTip(std::string_view key, std::string_view toolTip) {
   change(key, &ToolButton::toolTip, toolTip, Aspect::ToolTip);
 }
 
+void Toolbar::setButtonWord(std::string_view key, std::string_view word) {
+  change(key, &ToolButton::word, word, Aspect::Caption);
+}
+
+void Toolbar::setWords(ButtonWords words) {
+  if (std::exchange(words_, words) != words) notify(Aspect::Paint);
+}
+
+void Toolbar::setWords(ButtonWords words, WordsChoice choice) {
+  wordsChoice_ = std::move(choice);
+  setWords(words);
+}
+
 void Toolbar::press(std::string_view key) const {
   const ToolButton* const pressed = button(key);
   if (pressed != nullptr && pressed->enabled && pressed->visible) ButtonClick(key);

@@ -50,6 +50,7 @@ class MenuItem : public Control {
 };
 
 enum class ButtonKind { Button, Separator };
+enum class ButtonWords { Shown, Hidden };
 
 // One button of a toolbar, found by its key.
 struct ToolButton {
@@ -57,6 +58,7 @@ struct ToolButton {
   ButtonKind kind = ButtonKind::Button;
   std::string image;
   std::string toolTip;
+  std::string word = {};  // under the image; the tool-tip where it is empty
   bool enabled = true;
   bool visible = true;
 };
@@ -75,6 +77,18 @@ class Toolbar : public Control {
   void setButtonVisible(std::string_view key, bool visible);
   void setButtonImage(std::string_view key, std::string_view image);
   void setButtonToolTip(std::string_view key, std::string_view toolTip);
+  void setButtonWord(std::string_view key, std::string_view word);
+
+  // Whether words stand under the images. The user switches it with an entry of that caption, and
+  // `keep` remembers it.
+  struct WordsChoice {
+    std::string caption = {};
+    std::function<void(ButtonWords)> keep = {};
+  };
+  [[nodiscard]] ButtonWords words() const { return words_; }
+  [[nodiscard]] const WordsChoice& wordsChoice() const { return wordsChoice_; }
+  void setWords(ButtonWords words);
+  void setWords(ButtonWords words, WordsChoice choice);
 
   // As the user does: a disabled or hidden button does nothing.
   void press(std::string_view key) const;
@@ -85,6 +99,8 @@ class Toolbar : public Control {
   void change(std::string_view key, Member member, const Value& value, Aspect aspect);
 
   std::vector<ToolButton> buttons_;
+  ButtonWords words_ = ButtonWords::Shown;
+  WordsChoice wordsChoice_;
 };
 
 struct Tab {

@@ -1,12 +1,16 @@
 // The main path through the real windows: register, save, find, change, delete; and the switch of
 // the language.
 #include <QComboBox>
+#include <QInputDialog>
 #include <QListView>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTimer>
 #include <QToolBar>
 
 #include "desktop/main/name_list.h"
+#include "desktop/warning_label.h"
+#include "shell/frm_option.h"
 #include "tests/desktop/desk.h"
 
 namespace {
@@ -184,6 +188,106 @@ TEST_F(Card, TheLanguageChangesWhereItStands) {
   desk.station.ayarYaz("Language", "eng");
   desk.card.dilDegisti();
   EXPECT_EQ(words(), (QStringList{"Save", "Save", "Address", "Mother's Name"}));
+}
+
+TEST_F(Card, WaitingMessagesAreToldInTheNewLanguage) {
+  desk.card.yeniMesaj(2);
+  desk.station.ayarYaz("Language", "eng");
+  desk.card.dilDegisti();
+  EXPECT_EQ(desk.find<QAction>("mesaj").toolTip(), QStringLiteral("New Messages (2)"));
+}
+
+TEST_F(Card, AWarningHasColourSignAndWords) {
+  registerPatient("Ayşe Yıldız", "1991", "k");
+  auto& warning = desk.find<desktop::WarningLabel>("lbluyarı");
+  EXPECT_TRUE(warning.isHidden());
+  auto& warnings = desk.station.stores.clinical.tblWarn;
+  ASSERT_TRUE(warnings.AddNew() && warnings.Fields("name").Set("Ayşe Yıldız") &&
+              warnings.Fields("warn").Set("Penisilin alerjisi") && warnings.Update());
+  press(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_TRUE(warning.isHidden());
+  search("ay");
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  ASSERT_TRUE(warning.isVisible());
+  EXPECT_EQ(warning.accessibleName(), QStringLiteral("Uyarı: Penisilin alerjisi"));
+  const QList<QLabel*> parts = warning.findChildren<QLabel*>();
+  EXPECT_TRUE(parts.front()->text() == QStringLiteral("⚠") ||
+              parts.back()->text() == QStringLiteral("⚠"));
+  EXPECT_NE(warning.palette().color(QPalette::Window),
+            desk.window().palette().color(QPalette::Window));
+}
+
+// Chooses the only entry of the bar's menu, as a right click and Enter do.
+void switchWords(QToolBar& bar) {
+  QTimer::singleShot(0, [] {
+    QWidget* const menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+  });
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3), bar.mapToGlobal(QPoint(3, 3)));
+  QCoreApplication::sendEvent(&bar, &event);
+  settle();
+}
+
+TEST_F(Card, ButtonsHaveWordsUntilTheUserWantsNone) {
+  desk.window().resize(1024, 700);
+  settle();
+  auto& bar = desk.find<QToolBar>("tbToolBar");
+  EXPECT_EQ(bar.toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+  EXPECT_EQ(desk.find<QAction>("Save").iconText(), QStringLiteral("Kaydet"));
+  EXPECT_TRUE(bar.widgetForAction(&desk.find<QAction>("Exit"))->isVisible());
+  switchWords(bar);
+  EXPECT_EQ(bar.toolButtonStyle(), Qt::ToolButtonIconOnly);
+  EXPECT_EQ(desk.station.ayar("toolbar words"), "0");
+  const auto exam = desk.screens.make("FrmExam", desk.station);
+  exam->Load();
+  desk.host.show(*exam);
+  auto& other = *desk.host.windowOf(*exam)->findChild<QToolBar*>();
+  EXPECT_EQ(other.toolButtonStyle(), Qt::ToolButtonIconOnly);
+  switchWords(other);
+  EXPECT_EQ(bar.toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+  desk.host.close(*exam);
+  settle();
+}
+
+// Beside each list, by the mouse.
+TEST_F(Card, EachListOfTheOptionsHasItsOwnButtons) {
+  shell::FrmOption options(desk.station);
+  options.Load();
+  options.TabStrip1.select("TSListeler");
+  desk.host.show(options);
+  settle();
+  const QWidget& window = *desk.host.windowOf(options);
+  const auto button = [&](const char* name) -> QPushButton& {
+    for (QPushButton* each : window.findChildren<QPushButton*>()) {
+      if (each->accessibleName() == QString::fromUtf8(name)) return *each;
+    }
+    throw std::runtime_error(name);
+  };
+  const auto click = [&](const char* name, const char* answer) {
+    QTimer::singleShot(0, [answer] {
+      auto* const dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      auto& line = *dialog->findChild<QLineEdit*>();
+      line.selectAll();
+      type(line, QString::fromUtf8(answer));
+      QTest::keyClick(&line, Qt::Key_Return);
+    });
+    QTest::mouseClick(&button(name), Qt::LeftButton);
+    settle();
+  };
+  EXPECT_FALSE(button("Meslek: Sil").isEnabled());
+  click("Meslek: Ekle", "Hemşire");
+  EXPECT_EQ(options.ComMeslek.text(), "Hemşire");
+  click("Meslek: Düzen", "Ebe");
+  EXPECT_EQ(options.ComMeslek.items(), std::vector<std::string>{"Ebe"});
+  EXPECT_FALSE(button("Hitap: Sil").isEnabled());
+  click("Meslek: Sil", "");
+  EXPECT_TRUE(options.ComMeslek.items().empty());
+  desk.host.close(options);
+  settle();
 }
 
 // Every caption is as wide as its words need, in both languages and at the smallest size.

@@ -22,6 +22,9 @@
 
 namespace support {
 
+// The platform without a screen has a small one.
+inline constexpr QSize usualRoom{1920, 1040};
+
 // Everything that was posted has happened, and what that posted.
 inline void settle() {
   for (int pass = 0; pass < 5; ++pass) {
@@ -101,6 +104,7 @@ struct WindowDesk {
     // Without it the message screen asks for it.
     station.ayarYaz("msg address", "Dr. Işık Çağlayan");
     host.setWords([this](std::string_view key) { return shell::metinbul(station, key); });
+    host.setTurkish([this] { return station.turkce(); });
   }
 
   TemporaryFolder folder;

@@ -50,6 +50,35 @@ TEST_F(NameListTest, DropsUnderTheFieldWithoutTakingTheFocus) {
   EXPECT_EQ(list->findChild<QLabel*>()->text(), QStringLiteral("İsim: 3"));
 }
 
+TEST_F(NameListTest, TakesTheRoomUnderTheField) {
+  std::vector<std::string> many;
+  for (int i = 0; i < 40; ++i) many.push_back("Ali " + std::to_string(i));
+  form.names.appendItems(many);
+  form.names.setVisibleRows(40);
+  form.names.setVisible(true);
+  EXPECT_LE(list->geometry().bottom(), window.height());
+  EXPECT_GT(list->geometry().bottom(), window.height() - 40);
+  window.resize(400, 600);
+  form.names.setVisibleRows(39);
+  EXPECT_GT(list->geometry().bottom(), 560);
+  form.names.setVisibleRows(2);
+  EXPECT_LT(list->height(), 100);
+}
+
+TEST_F(NameListTest, ARowSaysItsNoteAndHandsBackItsText) {
+  form.names.noteOf = [](const std::string& name) { return name == "Ayşe" ? "1991" : ""; };
+  form.drop();
+  const QAbstractItemModel& rows = *list->findChild<QListView*>()->model();
+  EXPECT_EQ(rows.index(1, 0).data(Qt::AccessibleTextRole).toString(), QStringLiteral("Ayşe, 1991"));
+  const QImage with = list->grab().toImage();
+  form.names.noteOf = nullptr;
+  EXPECT_NE(list->grab().toImage(), with);
+  QTest::keyClick(&field, Qt::Key_Down);
+  QTest::keyClick(&field, Qt::Key_Down);
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(form.taken, std::vector<std::string>{"Ayşe"});
+}
+
 TEST_F(NameListTest, KeysMarkAndEnterTakes) {
   form.drop();
   QTest::keyClick(&field, Qt::Key_Down);

@@ -46,6 +46,18 @@ TEST_F(Drug, APrescriptionIsNumberedAndTakesTwoLinesADrug) {
             "3 - İbufen şurup   2  S: 2x1");
 }
 
+TEST_F(Drug, TheWarningIsSeenWherePrescribing) {
+  EXPECT_FALSE(screen.lbluyarı.visible());
+  auto& warnings = desk.station.stores.clinical.tblWarn;
+  ASSERT_TRUE(warnings.AddNew() && warnings.Fields("name").Set("Ayşe Yıldız") &&
+              warnings.Fields("warn").Set("Penisilin alerjisi") && warnings.Update());
+  desk.station.SeciliHasta = "Ayşe Yıldız";
+  screen.Load();
+  EXPECT_TRUE(screen.lbluyarı.visible());
+  EXPECT_EQ(screen.lbluyarı.toolTip() + ": " + screen.lbluyarı.caption(),
+            "Uyarı: Penisilin alerjisi");
+}
+
 TEST(Accepted, DropsALineBreakThatTwoBlanksFollow) {
   const std::pair<const char*, const char*> cases[] = {
       {"", ""}, {"a\n  ", "a"}, {"a\n b", "a\n b"}, {"a\n   b", "a b"}, {"\n  \n  ", ""}};

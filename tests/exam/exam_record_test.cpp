@@ -97,6 +97,18 @@ TEST_F(Exam, WhatTheSpecialityWritesMakesARecord) {
   }
 }
 
+TEST_F(Exam, TheDiagnosisStandsBesideItsDate) {
+  save("1.1.2026", "öksürük");
+  screen->txtteşhis.setText("  Akut bronşit\nSinüzit?");
+  screen->mnukaydet.press();
+  EXPECT_EQ(screen->liste.items().back().text, "01.01.2026");
+  EXPECT_EQ(screen->liste.note(0), "Akut bronşit");
+  screen = desk.open();
+  save("2.1.2026", "kontrol");
+  EXPECT_EQ(screen->liste.note(0), "Akut bronşit");
+  EXPECT_EQ(screen->liste.note(1), "");
+}
+
 TEST_F(Exam, OneColumnHoldsTheNeckOrTheContraception) {
   as("ENT");
   save("1.1.2026", "boyunda şişlik");

@@ -121,4 +121,15 @@ TEST_F(ExamText, TheListingHoldsEveryStoredRecordAndReplacesNoFile) {
   EXPECT_FALSE(std::filesystem::exists(parent));  // stopped: no file
 }
 
+TEST_F(ExamText, WordsOfOurOwnAreEnglishForEnglishReaders) {
+  desk.station.ayarYaz("Language", "eng");
+  screen = desk.open();
+  EXPECT_EQ(screen->txtnabız.unit(), "/min");
+  EXPECT_EQ(screen->Chksigara.caption(), "Smoking");
+  screen->txtnabız.setText("88");
+  EXPECT_NE(text().plainText().find("Pulse 88 /min"), std::string::npos);
+  desk.host.expect("This screen is not part of this version yet.", host::Answer::Ok);
+  desk.station.ekranAc("frmnone");
+}
+
 }  // namespace

@@ -46,7 +46,7 @@ TEST_F(NameField, ListsPrefixesAfterThePauseInTableOrder) {
   }
 }
 
-TEST_F(NameField, ShowsAtMostFiveRowsAndClosesWhenEmptied) {
+TEST_F(NameField, AsksForRoomForAllRowsAndClosesWhenEmptied) {
   for (int i = 0; i < 8; ++i)
     desk.newPatient("Ahmet " + std::string(1, static_cast<char>('A' + i)), "1980");
   main.mnuyeni.Click();
@@ -54,11 +54,41 @@ TEST_F(NameField, ShowsAtMostFiveRowsAndClosesWhenEmptied) {
   main.Txtİsim.KeyUp(forms::Key{.code = 'H'});
   desk.tick();
   EXPECT_EQ(main.Lstdat.count(), 8U);
-  EXPECT_EQ(main.Lstdat.visibleRows(), 5);
+  EXPECT_EQ(main.Lstdat.visibleRows(), 8);
   main.Txtİsim.setText("");
   main.Txtİsim.KeyUp(forms::Key{.code = forms::key_code::Backspace});
   EXPECT_FALSE(main.Lstdat.visible());
   EXPECT_EQ(main.Lstdat.count(), 0U);
+}
+
+TEST_F(NameField, NamesakesAreToldApartBehindTheirNames) {
+  const auto patient = [&](const char* name, const char* birth, const char* file) {
+    main.mnuyeni.Click();
+    main.Txtİsim.setText(name);
+    main.TxtDTarihi.setText(birth);
+    main.txtdosyano.setText(file);
+    main.kayityap();
+  };
+  patient("Ali Can", "12.03.1991", "2026/114");
+  patient("Ali Can Demir", "1955", "7");
+  patient("Ali Can*", "1960", "");
+  patient("Ali Kaya", "1970", "8");
+  patient("Ali Kaya*", "1971", "9");
+  dao::Recordset& cards = desk.station.stores.personal.IDCard;
+  ASSERT_TRUE(cards.Seek("=", "Ali Kaya*") && cards.Edit());
+  ASSERT_TRUE(cards.Fields("Key").Set("¬") && cards.Update());
+  main.mnuyeni.Click();
+  main.Txtİsim.setText("ali");
+  main.datlisteleTUR();
+  desk.host.runTasks();
+  std::vector<std::string> notes;
+  for (std::size_t row = 0; row < main.Lstdat.count(); ++row)
+    notes.push_back(main.Lstdat.items()[row].text + "|" + main.Lstdat.note(row));
+  // A hidden namesake shows nothing, not even that there is one.
+  EXPECT_EQ(notes, (std::vector<std::string>{"Ali Can|1991 · 2026/114", "Ali Can Demir|",
+                                             "Ali Can*|1960", "Ali Kaya|"}));
+  main.Lstdat.setListIndex(2);
+  EXPECT_EQ(main.TxtEskiİsim.text(), "Ali Can*");
 }
 
 TEST_F(NameField, AKeyThatLeavesTheTextAsksForNoList) {

@@ -60,7 +60,7 @@ TEST_F(FindPrint, TheHeadIsBoldUnderlinedAndWhole) {
   const std::pair<int, const char*> heads[]{{200, "İsim"},
                                             {2000, "Doğum Tarihi/Cinsiyet"},
                                             {3800, "Doğum Yeri"},
-                                            {5000, "email"},
+                                            {5000, "E-posta"},
                                             {6200, "Telefon"}};
   for (std::size_t column = 0; column < std::size(heads); ++column) {
     EXPECT_EQ(texts[column].x, heads[column].first);

@@ -132,6 +132,7 @@ TEST_F(Find, ARowShowsTheCard) {
   finder.Load();
   finder.TümListe();
   EXPECT_EQ(finder.BulList.columns().front(), "İsim");
+  EXPECT_EQ(finder.BulList.columns()[5], "E-posta");
   const char* cells[]{"Ayşe Yıldız", "12.03.1991", "K", "", "", "", "417", "Uzun bir not"};
   for (std::size_t column = 0; column < std::size(cells); ++column)
     EXPECT_EQ(finder.BulList.cell(0, column), cells[column]) << column;
