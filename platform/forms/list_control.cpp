@@ -55,6 +55,11 @@ void ListBox::setListIndex(int row) {
   if (index >= 0) Click();
 }
 
+void ListBox::press(int row) {
+  if (row < 0 || row != listIndex_) return setListIndex(row);
+  Click();
+}
+
 std::string ListBox::text() const {
   return listIndex_ < 0 ? std::string() : items_[static_cast<std::size_t>(listIndex_)].text;
 }
@@ -95,6 +100,11 @@ void ListView::setSelectedRow(int row) {
   if (std::exchange(selectedRow_, index) == index) return;
   notify(Aspect::Selection);
   if (index >= 0) ItemClick();
+}
+
+void ListView::press(int row) {
+  if (row < 0 || row != selectedRow_) return setSelectedRow(row);
+  ItemClick();
 }
 
 std::string ListView::selectedKey() const {
