@@ -110,6 +110,7 @@ void FormFrame::show() {
   }
   window_.activateWindow();
   moveFocus();
+  markCaptions(window_);
 }
 
 bool FormFrame::close() {
