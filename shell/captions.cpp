@@ -1,6 +1,7 @@
 #include "shell/captions.h"
 
 #include "platform/forms/menu.h"
+#include "platform/forms/text_control.h"
 #include "shell/caption_rows.h"
 #include "shell/phrases.h"
 #include "shell/text_lookup.h"
@@ -53,6 +54,8 @@ void basliklariyaz(Station& istasyon, forms::Form& form) {
       for (const KeyedCaption& row : tabRows())
         strip->setTabCaption(row.key, metinbul(istasyon, row.textKey));
     }
+    if (auto* date = dynamic_cast<forms::DateBox*>(control))
+      date->setCalendarWord(phrase(istasyon, Phrase::Calendar));
   }
 }
 
