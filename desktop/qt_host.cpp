@@ -86,6 +86,11 @@ void leaveByCancel(QMessageBox& box) {
   cancel->hide();
 }
 
+// The window from which a dialog was opened gets the keyboard back, whatever the desk does.
+void giveKeyboardTo(const QPointer<QWidget>& opener) {
+  if (opener != nullptr && opener->isVisible()) opener->activateWindow();
+}
+
 }  // namespace
 
 QtHost::QtHost(ViewRegistry views) : views_(std::move(views)) {}
@@ -124,24 +129,30 @@ void QtHost::addButtons(QMessageBox& box, const host::Message& message) const {
 }
 
 host::Answer QtHost::messageBox(const host::Message& message) {
-  QMessageBox box(QApplication::activeWindow());
+  const QPointer opener = QApplication::activeWindow();
+  QMessageBox box(opener);
   box.setIcon(iconOf(message.icon));
   box.setWindowTitle(qs(message.title));
   box.setTextFormat(Qt::PlainText);
   box.setText(withLineBreaks(message.text));
   addButtons(box, message);
-  return answerOf(box.exec());
+  const host::Answer answer = answerOf(box.exec());
+  giveKeyboardTo(opener);
+  return answer;
 }
 
 std::string QtHost::inputBox(std::string_view prompt, std::string_view title,
                              std::string_view value) {
-  QInputDialog dialog(QApplication::activeWindow());
+  const QPointer opener = QApplication::activeWindow();
+  QInputDialog dialog(opener);
   dialog.setWindowTitle(qs(title));
   dialog.setLabelText(withLineBreaks(prompt));
   dialog.setTextValue(qs(value));
   dialog.setOkButtonText(word("Tamam", "OK"));
   dialog.setCancelButtonText(word("iptal", "Cancel"));
-  return dialog.exec() == QDialog::Accepted ? utf8(dialog.textValue()) : std::string();
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  giveKeyboardTo(opener);
+  return accepted ? utf8(dialog.textValue()) : std::string();
 }
 
 std::optional<std::string> QtHost::openFile(const host::FileRequest& request) {
@@ -207,13 +218,12 @@ void QtHost::show(forms::Form& form) {
   open(form, Qt::NonModal);
 }
 
-// The window from which the form was opened gets the keyboard back.
 void QtHost::showModal(forms::Form& form) {
   const QPointer<QWidget> opener = QApplication::activeWindow();
   QEventLoop loop;
   QObject::connect(&open(form, Qt::ApplicationModal), &FormFrame::closed, &loop, &QEventLoop::quit);
   loop.exec();
-  if (opener != nullptr && opener->isVisible()) opener->activateWindow();
+  giveKeyboardTo(opener);
 }
 
 void QtHost::close(forms::Form& form) {

@@ -122,6 +122,9 @@ void FrmMain::klasorleriAc() {
 
 void FrmMain::basliklariYenile() {
   RecordScreen::basliklariYenile();
+  tbToolBar.setButtonToolTip("keyclose", mnuShowHidden.caption());
+  tbToolBar.setButtonToolTip("keyopen", mnuLockHidden.caption());
+  tbToolBar.setButtonToolTip("idpass", mnuChooseHidden.caption());
   hakkindaYaz();
   gunlukBaslik();
   netDurumu();

@@ -32,9 +32,13 @@ bool FrmMain::gizliMi(std::string_view key) const {
 }
 
 void FrmMain::isimleriAc(bool unlocked) {
-  tbToolBar.setButtonVisible("keyclose", !unlocked);
-  tbToolBar.setButtonVisible("keyopen", unlocked);
-  tbToolBar.setButtonVisible("idpass", unlocked && istasyon.screens.has("Frmkey"));
+  const auto show = [this](forms::MenuItem& entry, std::string_view key, bool visible) {
+    entry.setVisible(visible);
+    tbToolBar.setButtonVisible(key, visible);
+  };
+  show(mnuShowHidden, "keyclose", !unlocked);
+  show(mnuLockHidden, "keyopen", unlocked);
+  show(mnuChooseHidden, "idpass", unlocked && istasyon.screens.has("Frmkey"));
   listeyiKapat();
   gunlukListele();
   // Whoever is hidden leaves the screen with the lock.

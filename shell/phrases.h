@@ -113,7 +113,13 @@ enum class Phrase {
   PrintWizard,
   PageItems,     // and their properties
   PrintedItems,  // of a page
-  Patients
+  Patients,
+  Calendar,
+  ShowHidden,    // patients, behind their password
+  LockHidden,    // again
+  ChooseHidden,  // who is hidden
+  HiddenAsked,   // what the password is good for
+  HiddenNotSet   // and that there is none yet
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -17,9 +17,6 @@ constexpr std::array toolTips{
     KeyedCaption{"ileri", "ileri"},
     KeyedCaption{"Find", "Bul"},
     KeyedCaption{"smok", "sigarabrakmaprogramı"},
-    KeyedCaption{"keyclose", "isimgizle"},
-    KeyedCaption{"keyopen", "isimsifrele"},
-    KeyedCaption{"idpass", "listeduzenle"},
     KeyedCaption{"Exit", "cik"},
     KeyedCaption{"exitt", "cik"},
     KeyedCaption{"print", "yazdir"},
@@ -106,6 +103,9 @@ constexpr std::array phrases{
     PhraseRow{"TxtGrid", Phrase::PageItems},
     PhraseRow{"LstGörüntüle", Phrase::PrintedItems},
     PhraseRow{"LstTüm", Phrase::Patients},
+    PhraseRow{"mnuShowHidden", Phrase::ShowHidden},
+    PhraseRow{"mnuLockHidden", Phrase::LockHidden},
+    PhraseRow{"mnuChooseHidden", Phrase::ChooseHidden},
 };
 
 }  // namespace
