@@ -1,5 +1,6 @@
 #include "desktop/appearance.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
@@ -50,7 +51,8 @@ QPalette darkPalette() {
   return palette;
 }
 
-// Rows of lists with room to read them.
+// Rows of lists with room to read them; texts of several lines and lists show the focus as single
+// lines do.
 class RoomyStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
@@ -58,6 +60,12 @@ class RoomyStyle : public QProxyStyle {
                                        const QSize& size, const QWidget* widget) const override {
     const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
     return type == CT_ItemViewItem ? usual + QSize(0, rowGap) : usual;
+  }
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    const bool focused = element == PE_Frame && option->state.testFlag(State_HasFocus) &&
+                         qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+    QProxyStyle::drawPrimitive(focused ? PE_FrameLineEdit : element, option, painter, widget);
   }
 };
 

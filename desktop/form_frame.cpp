@@ -129,6 +129,7 @@ void FormFrame::show() {
   keepOnScreen(window_);
   window_.activateWindow();
   moveFocus();
+  markCaptions(window_);
 }
 
 bool FormFrame::close() {

@@ -154,7 +154,8 @@ host::Answer QtHost::messageBox(const host::Message& message) {
   box.setTextFormat(Qt::PlainText);
   box.setText(withLineBreaks(message.text));
   addButtons(box, message);
-  return answerOf(box.exec());
+  const host::Answer answer = answerOf(box.exec());
+  return answer;
 }
 
 std::string QtHost::inputBox(std::string_view prompt, std::string_view title,
@@ -167,7 +168,8 @@ std::string QtHost::inputBox(std::string_view prompt, std::string_view title,
   dialog.setTextValue(qs(value));
   dialog.setOkButtonText(word("Tamam", "OK"));
   dialog.setCancelButtonText(word("iptal", "Cancel"));
-  return dialog.exec() == QDialog::Accepted ? utf8(dialog.textValue()) : std::string();
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  return accepted ? utf8(dialog.textValue()) : std::string();
 }
 
 std::optional<std::string> QtHost::openFile(const host::FileRequest& request) {

@@ -24,16 +24,30 @@ QString withoutMnemonic(QString caption) {
   return caption.replace(QChar(1), QLatin1Char('&'));
 }
 
+QString keyLetters(QString text) {
+  for (QChar& letter : text) {
+    if (letter == QChar(0x130) || letter == QChar(0x131)) letter = QLatin1Char('I');
+  }
+  return text.toUpper();
+}
+
+QString withMnemonicAt(const QString& words, qsizetype at) {
+  const auto doubled = [](QString part) {
+    return part.replace(QLatin1Char('&'), QLatin1String("&&"));
+  };
+  return at < 0 ? doubled(words)
+                : doubled(words.left(at)) + QLatin1Char('&') + doubled(words.mid(at));
+}
+
 QString withMnemonic(const QString& caption, QSet<QChar>& taken) {
   const QString words = withoutMnemonic(caption);
-  qsizetype mark = 0;
-  while (mark < words.size() &&
-         (!words[mark].isLetterOrNumber() || taken.contains(words[mark].toUpper())))
-    ++mark;
-  if (mark < words.size()) taken.insert(words[mark].toUpper());
-  QString before = words.left(mark).replace(QLatin1Char('&'), QLatin1String("&&"));
-  QString after = words.mid(mark).replace(QLatin1Char('&'), QLatin1String("&&"));
-  return mark < words.size() ? before + QLatin1Char('&') + after : before;
+  for (qsizetype at = 0; at < words.size(); ++at) {
+    const QChar letter = keyLetters(words[at])[0];
+    if (!letter.isLetterOrNumber() || taken.contains(letter)) continue;
+    taken.insert(letter);
+    return withMnemonicAt(words, at);
+  }
+  return withMnemonicAt(words, -1);
 }
 
 QString withLineBreaks(std::string_view text) {

@@ -22,6 +22,11 @@ namespace desktop {
 
 // The caption as a screen reader says it: without the mark of its mnemonic.
 [[nodiscard]] QString withoutMnemonic(QString caption);
+// The text in the letters of the keys that type it: a key tells the dotted i from the dotless one
+// on a Turkish board only, and then in one of its two cases only.
+[[nodiscard]] QString keyLetters(QString text);
+// Of words without a mark: with one at that place, or still without when it lies before them.
+[[nodiscard]] QString withMnemonicAt(const QString& words, qsizetype at);
 // With the mark at the first letter that is not taken, which then is; without one when all are.
 [[nodiscard]] QString withMnemonic(const QString& caption, QSet<QChar>& taken);
 // The two lines of a message are parted by "\n\r"; a window wants one line break.

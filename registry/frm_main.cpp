@@ -123,6 +123,10 @@ void FrmMain::klasorleriAc() {
 
 void FrmMain::basliklariYenile() {
   RecordScreen::basliklariYenile();
+  tbToolBar.setButtonToolTip("keyclose", mnuShowHidden.caption());
+  tbToolBar.setButtonWord("keyclose", phrase(istasyon, shell::Phrase::HiddenNames));
+  tbToolBar.setButtonToolTip("keyopen", mnuLockHidden.caption());
+  tbToolBar.setButtonToolTip("idpass", mnuChooseHidden.caption());
   hakkindaYaz();
   gunlukBaslik();
   netDurumu();

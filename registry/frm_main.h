@@ -67,6 +67,10 @@ class FrmMain : public shell::RecordScreen,
   forms::MenuItem mnulensstok{MnuListeler, "mnulensstok"};
   forms::MenuItem mnubekdoğum{MnuListeler, "mnubekdoğum"};
   forms::MenuItem mnuhesaplar{MnuListeler, "mnuhesaplar"};
+  forms::MenuItem hiddenLine{MnuListeler, "hiddenLine", forms::MenuKind::Separator};
+  forms::MenuItem mnuShowHidden{MnuListeler, "mnuShowHidden"};
+  forms::MenuItem mnuLockHidden{MnuListeler, "mnuLockHidden"};
+  forms::MenuItem mnuChooseHidden{MnuListeler, "mnuChooseHidden"};
 
   forms::MenuItem mnuara{*this, "mnuara"};
   forms::MenuItem mnubul{mnuara, "mnubul"};

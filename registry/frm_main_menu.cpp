@@ -93,6 +93,11 @@ void FrmMain::menuleriBagla() {
     ekranAc(mnuraporara, pathology ? "frmsearchpat" : "frmsearchrad");
   });
   mnuhesaplar.Click.connect([this] { hesaplariAc(); });
+  mnuShowHidden.Click.connect([this] { isimSifresi(); });
+  mnuLockHidden.Click.connect([this] { isimleriAc(false); });
+  mnuChooseHidden.Click.connect([this] { gizlileriSec(); });
+  mnuShowHidden.setShortcut("Ctrl+L");
+  mnuLockHidden.setShortcut("Ctrl+L");
   mnuyeni.Click.connect([this] {
     if (kayitkontrol()) Yeni();
   });
@@ -141,9 +146,9 @@ bool FrmMain::tusBas(std::string_view key) {
   if (key == "muayene") return muayenetus(), true;
   if (key == "smok") return mnusigarabp.press(), true;
   if (key == "mesaj") return mnumesajlar.press(), true;
-  if (key == "keyclose") return isimSifresi(), true;
-  if (key == "keyopen") return isimleriAc(false), true;
-  if (key == "idpass") return gizlileriSec(), true;
+  if (key == "keyclose") return mnuShowHidden.press(), true;
+  if (key == "keyopen") return mnuLockHidden.press(), true;
+  if (key == "idpass") return mnuChooseHidden.press(), true;
   return false;
 }
 

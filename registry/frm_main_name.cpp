@@ -36,9 +36,13 @@ void FrmMain::isimleriAc(bool unlocked) {
   const bool leaves = !unlocked && text::trimmed(txtkey.text()) == hiddenMark;
   const bool mayLeave = !leaves || secimdenOnce();
   if (!mayLeave && unanswered()) return;
-  tbToolBar.setButtonVisible("keyclose", !unlocked);
-  tbToolBar.setButtonVisible("keyopen", unlocked);
-  tbToolBar.setButtonVisible("idpass", unlocked && istasyon.screens.has("Frmkey"));
+  const auto show = [this](forms::MenuItem& entry, std::string_view key, bool visible) {
+    entry.setVisible(visible);
+    tbToolBar.setButtonVisible(key, visible);
+  };
+  show(mnuShowHidden, "keyclose", !unlocked);
+  show(mnuLockHidden, "keyopen", unlocked);
+  show(mnuChooseHidden, "idpass", unlocked && istasyon.screens.has("Frmkey"));
   listeyiKapat();
   gunlukListele();
   if (leaves && mayLeave) Yeni();

@@ -69,6 +69,8 @@ void basliklariyaz(Station& istasyon, forms::Form& form) {
       for (const KeyedCaption& row : tabRows())
         strip->setTabCaption(row.key, metinbul(istasyon, row.textKey));
     }
+    if (auto* date = dynamic_cast<forms::DateBox*>(control))
+      date->setCalendarWord(phrase(istasyon, Phrase::Calendar));
   }
 }
 

@@ -1,11 +1,13 @@
 #include "shell/frm_pass.h"
 
 #include "shell/captions.h"
+#include "shell/phrases.h"
 #include "shell/text_lookup.h"
 
 namespace shell {
 
 FrmPass::FrmPass(Station& station) : Form("frmpass"), istasyon(station) {
+  purpose.setVisible(false);
   lblpass.setVisible(false);
   lblsifre.setVisible(false);
   lblsifre.Change.connect([this] {
@@ -23,6 +25,15 @@ void FrmPass::Load() {
   istasyon.SifreSonucu = 0;
   LŞifbilgi.setCaption(metinbul(istasyon, "msgyenisifregir"));
   txtsifre.setFocus();
+}
+
+void FrmPass::about(std::string_view key) {
+  lblpass.setCaption(std::string(key));
+  lblsifre.setCaption(istasyon.ayar(key));
+  purpose.setVisible(key == password::names);
+  if (!purpose.visible()) return;
+  const bool known = !lblsifre.caption().empty();
+  purpose.setCaption(phrase(istasyon, known ? Phrase::HiddenAsked : Phrase::HiddenNotSet));
 }
 
 // A first entry becomes the value to be matched by a second one; a wrong entry ends the dialog.
@@ -52,6 +63,7 @@ void FrmPass::degistir() {
   lblsifre.setCaption("");
   txtsifre.setText("");
   LŞifbilgi.setCaption(metinbul(istasyon, "msgyenisifregir"));
+  txtsifre.setFocus();
 }
 
 void FrmPass::yanlisSifre() {
@@ -61,8 +73,7 @@ void FrmPass::yanlisSifre() {
 bool sifreSor(Station& istasyon, std::string_view key, PasswordChange change) {
   FrmPass dialog(istasyon);
   dialog.Load();
-  dialog.lblpass.setCaption(std::string(key));
-  dialog.lblsifre.setCaption(istasyon.ayar(key));
+  dialog.about(key);
   if (change == PasswordChange::Withheld) dialog.ButŞifreDeğiştir.setVisible(false);
   istasyon.host.showModal(dialog);
   return istasyon.SifreSonucu == 1;

@@ -14,6 +14,7 @@ class FrmPass : public forms::Form {
  public:
   explicit FrmPass(Station& istasyon);
 
+  forms::Label purpose{*this, "purpose"};      // what the password is good for
   forms::Label LŞifbilgi{*this, "LŞifbilgi"};  // the prompt
   forms::TextBox txtsifre{*this, "txtsifre", forms::TextLines::Single, forms::TextEcho::Password};
   forms::CommandButton buttamam{*this, "buttamam"};
@@ -23,6 +24,8 @@ class FrmPass : public forms::Form {
   forms::Label lblsifre{*this, "lblsifre"};  // the stored value; empty when none is set
 
   void Load() override;
+  // Which password it is about, what is stored of it, and what a person has to know about it.
+  void about(std::string_view key);
 
  private:
   void tamam();

@@ -10,7 +10,7 @@ namespace shell {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 28> icons{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 31> icons{{
     {"mnuyeni", "New"},
     {"mnukaydet", "Save"},
     {"mnusil", "Delete"},
@@ -39,6 +39,9 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 28> icons{{
     {"mnutümmesajlarısil", "Delete"},
     {"mnuayar", "ayar"},
     {"mnusihirbaz", "sihirbaz"},
+    {"mnuShowHidden", "keyclose"},
+    {"mnuLockHidden", "keyopen"},
+    {"mnuChooseHidden", "idpass"},
 }};
 
 }  // namespace

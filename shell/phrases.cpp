@@ -256,6 +256,21 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::ThisScreen, "This screen", "Bu ekran"},
     {Phrase::LanguageBox, "Language", "Dil"},
     {Phrase::ToolbarWords, "Words on the buttons", "Düğmelerde yazı"},
+    {Phrase::Calendar, "Calendar", "Takvim"},
+    {Phrase::HiddenNames, "Hidden names", "Gizli isimler"},
+    {Phrase::ShowHidden, "Show hidden patients (password)", "Gizli hastaları göster (şifre)"},
+    {Phrase::LockHidden, "Hide hidden patients again", "Gizli hastaları yeniden gizle"},
+    {Phrase::ChooseHidden, "Choose hidden patients", "Gizlenecek hastaları seç"},
+    {Phrase::HiddenAsked,
+     "This password shows the hidden patients until they are hidden again or the program is "
+     "closed.",
+     "Bu şifre gizli hastaları gösterir; yeniden gizlenene ya da program kapanana kadar "
+     "görünürler."},
+    {Phrase::HiddenNotSet,
+     "There is no password for hidden patients yet. The one that you choose now will be asked for "
+     "whenever they are to be shown.",
+     "Gizli hastalar için henüz şifre yok. Şimdi seçeceğiniz şifre, gizli hastalar gösterilmek "
+     "istendiğinde sorulacak."},
 });
 
 }  // namespace

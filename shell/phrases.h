@@ -149,7 +149,14 @@ enum class Phrase {
   PerMinute,   // behind a measurement
   ThisScreen,  // in front of NotInThisVersion
   LanguageBox,
-  ToolbarWords
+  ToolbarWords,
+  Calendar,
+  HiddenNames,
+  ShowHidden,    // patients, behind their password
+  LockHidden,    // again
+  ChooseHidden,  // who is hidden
+  HiddenAsked,   // what the password is good for
+  HiddenNotSet   // and that there is none yet
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -17,9 +17,8 @@ constexpr std::array toolTips{
     KeyedCaption{"ileri", "ileri"},
     KeyedCaption{"Find", "Bul"},
     KeyedCaption{"smok", "sigarabrakmaprogramı", "sigara"},
-    KeyedCaption{"keyclose", "isimgizle"},
-    KeyedCaption{"keyopen", "isimsifrele"},
-    KeyedCaption{"idpass", "listeduzenle"},
+    KeyedCaption{"keyopen", "isimsifrele", "isimsifrele"},
+    KeyedCaption{"idpass", "listeduzenle", "listeduzenle"},
     KeyedCaption{"Exit", "cik"},
     KeyedCaption{"exitt", "cik"},
     KeyedCaption{"print", "yazdir"},
@@ -107,6 +106,9 @@ constexpr std::array phrases{
     PhraseRow{"LstGörüntüle", Phrase::PrintedItems},
     PhraseRow{"LstTüm", Phrase::Patients},
     PhraseRow{"languageBox", Phrase::LanguageBox},
+    PhraseRow{"mnuShowHidden", Phrase::ShowHidden},
+    PhraseRow{"mnuLockHidden", Phrase::LockHidden},
+    PhraseRow{"mnuChooseHidden", Phrase::ChooseHidden},
 };
 
 }  // namespace

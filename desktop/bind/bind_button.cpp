@@ -1,5 +1,7 @@
 #include "desktop/bind/bind_button.h"
 
+#include <QButtonGroup>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include "desktop/text.h"
@@ -34,12 +36,43 @@ void userToggled(QCheckBox& box, forms::CheckBox& control) {
   if (alive != nullptr) showChecked(box, control.value());
 }
 
+// Enter presses the button that has the focus, whichever one the dialog would stand for.
+class EnterPresses : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    static_cast<QAbstractButton*>(watched)->click();
+    return true;
+  }
+};
+
+// The option buttons of one group are one for the arrow keys and for a screen reader too.
+QButtonGroup& groupOf(QRadioButton& button, const forms::OptionButton& control) {
+  const QString name = qs(control.group()) + QStringLiteral(".group");
+  QWidget& window = *button.window();
+  if (auto* const known = window.findChild<QButtonGroup*>(name)) return *known;
+  auto* const group = new QButtonGroup(&window);
+  group->setObjectName(name);
+  return *group;
+}
+
+// A group of the toolkit does not let go of its last choice by itself; a form may have none.
+void showOption(QRadioButton& button, QButtonGroup& group, bool chosen) {
+  group.setExclusive(chosen);
+  showChecked(button, chosen);
+  group.setExclusive(true);
+}
+
 }  // namespace
 
 void bind(QPushButton& button, forms::CommandButton& control) {
   button.setAutoDefault(false);
   Binding& binding = attach(button, control, Follow::All,
                             [&](Aspect aspect) { refreshButton(button, control, aspect); });
+  button.installEventFilter(new EnterPresses(&binding));
   QObject::connect(&button, &QPushButton::clicked, &binding, [&] { control.press(); });
 }
 
@@ -49,6 +82,7 @@ void bind(QToolButton& button, forms::CommandButton& control) {
       button.setToolTip(qs(control.caption()));
     refreshButton(button, control, aspect);
   });
+  button.installEventFilter(new EnterPresses(&binding));
   QObject::connect(&button, &QToolButton::clicked, &binding, [&] { control.press(); });
 }
 
@@ -59,13 +93,15 @@ void bind(QCheckBox& box, forms::CheckBox& control) {
 }
 
 void bind(QRadioButton& button, forms::OptionButton& control) {
-  // The groups are the controls' own: that of the toolkit cannot show that none is chosen.
-  button.setAutoExclusive(false);
-  Binding& binding = attach(button, control, Follow::All,
-                            [&](Aspect aspect) { refreshButton(button, control, aspect); });
+  QButtonGroup& group = groupOf(button, control);
+  group.addButton(&button);
+  Binding& binding = attach(button, control, Follow::All, [&](Aspect aspect) {
+    if (aspect == Aspect::Caption) button.setText(qs(control.caption()));
+    if (aspect == Aspect::Selection) showOption(button, group, control.value());
+  });
   QObject::connect(&button, &QRadioButton::clicked, &binding, [&] {
     control.setValue(true);
-    showChecked(button, control.value());
+    showOption(button, group, control.value());
   });
 }
 

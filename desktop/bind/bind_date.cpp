@@ -1,8 +1,8 @@
 #include "desktop/bind/bind_date.h"
 
-#include <QAction>
 #include <QCalendarWidget>
 #include <QMenu>
+#include <QToolButton>
 #include <QWidgetAction>
 
 #include "desktop/bind/bind_text.h"
@@ -17,14 +17,21 @@ constexpr auto shown = "dd.MM.yyyy";
 
 }  // namespace
 
-DateEdit::DateEdit(QWidget* parent) : QLineEdit(parent) {
-  QAction* const open = addAction(icon("appointment"), QLineEdit::TrailingPosition);
-  open->setShortcut(Qt::ALT | Qt::Key_Down);
-  open->setShortcutContext(Qt::WidgetShortcut);
-  connect(open, &QAction::triggered, this, &DateEdit::showCalendar);
+DateEdit::DateEdit(QWidget* parent)
+    : QLineEdit(parent), open_(addAction(icon("appointment"), QLineEdit::TrailingPosition)) {
+  open_->setShortcut(Qt::ALT | Qt::Key_Down);
+  open_->setShortcutContext(Qt::WidgetShortcut);
+  connect(open_, &QAction::triggered, this, &DateEdit::showCalendar);
+}
+
+void DateEdit::nameCalendar(const QString& word) {
+  open_->setText(word);
+  open_->setToolTip(word + QStringLiteral(" (Alt+\u2193)"));
+  for (QToolButton* button : findChildren<QToolButton*>()) button->setAccessibleName(word);
 }
 
 void DateEdit::showCalendar() {
+  if (isReadOnly()) return;
   setFocus();
   QMenu menu(this);
   auto* const calendar = new QCalendarWidget(&menu);
@@ -46,8 +53,11 @@ void DateEdit::showCalendar() {
 }
 
 void bind(DateEdit& edit, forms::DateBox& box) {
-  Binding& binding =
-      attach(edit, box, Follow::All, [&](forms::Aspect aspect) { refreshLine(edit, box, aspect); });
+  Binding& binding = attach(edit, box, Follow::All, [&](forms::Aspect aspect) {
+    refreshLine(edit, box, aspect);
+    if (aspect == forms::Aspect::ToolTip || aspect == forms::Aspect::Caption)
+      edit.nameCalendar(qs(box.calendarWord()));
+  });
   listenToLine(binding, edit, box);
   QObject::connect(&edit, &DateEdit::chosen, &binding,
                    [&](const QString& date) { box.setText(utf8(date)); });

@@ -1,8 +1,10 @@
 #include "desktop/bind/bind_grid.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 
 #include "desktop/bind/grid_model.h"
+#include "desktop/bind/row_choice.h"
 
 namespace desktop {
 
@@ -37,8 +39,9 @@ void showChosen(GridTable& table, const GridModel& model, const Grid& grid) {
 }
 
 // The corner of the marked range where the grid stands is the one that stays.
-void takeMarked(const GridTable& table, const GridModel& model, Grid& grid) {
-  if (!table.selectionModel()->hasSelection()) return;
+void takeMarked(GridTable& table, const GridModel& model, Grid& grid) {
+  // A click beside the cells lets the toolkit's mark go, not the grid's cell.
+  if (!table.selectionModel()->hasSelection()) return showChosen(table, model, grid);
   const QItemSelectionRange marked = table.selectionModel()->selection().first();
   Grid::Place start = model.placeOf(marked.topLeft());
   Grid::Place end = model.placeOf(marked.bottomRight());
@@ -59,6 +62,32 @@ void refreshGrid(GridTable& table, GridModel& model, const Grid& grid, Aspect as
   if (aspect == Aspect::Items || aspect == Aspect::Selection) showChosen(table, model, grid);
 }
 
+// Enter opens a cell as a double click does. A cell that was only framed when the focus came is the
+// first one that an arrow key goes to.
+class GridKeys : public QObject {
+ public:
+  GridKeys(GridTable& table, Grid& grid, QObject* parent)
+      : QObject(parent), table_(table), grid_(grid) {
+    table.installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool arrow = key == Qt::Key_Down || key == Qt::Key_Up;
+    const QModelIndex framed = framedOnly(table_);
+    if (framed.isValid() && (enter || arrow)) table_.setCurrentIndex(framed);
+    if (!enter) return arrow && framed.isValid();
+    if (!table_.currentIndex().isValid() || !grid_.DblClick.heard()) return false;
+    grid_.DblClick();
+    return true;
+  }
+
+ private:
+  GridTable& table_;
+  Grid& grid_;
+};
+
 }  // namespace
 
 void bind(GridTable& table, Grid& grid) {
@@ -73,7 +102,9 @@ void bind(GridTable& table, Grid& grid) {
   QObject::connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, &binding,
                    [&table, &grid, model] { takeMarked(table, *model, grid); });
   QObject::connect(&table, &QTableView::clicked, &binding, [&grid] { grid.Click(); });
-  QObject::connect(&table, &QTableView::activated, &binding, [&grid] { grid.DblClick(); });
+  QObject::connect(&table, &QTableView::doubleClicked, &binding, [&grid] { grid.DblClick(); });
+  takeLeftButtonOnly(table, binding);
+  new GridKeys(table, grid, &binding);
 }
 
 }  // namespace desktop

@@ -1,8 +1,12 @@
 #include "desktop/bind/bind_menu.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMenu>
+#include <algorithm>
 
 #include "desktop/bind/binding.h"
+#include "desktop/caption_marks.h"
 #include "desktop/icons.h"
 #include "desktop/text.h"
 #include "platform/forms/menu.h"
@@ -39,8 +43,9 @@ bool hasVisibleEntry(const forms::MenuItem& item) {
          });
 }
 
-void refreshAction(QAction& action, const forms::MenuItem& item) {
-  action.setText(qs(item.caption()));
+// A text that is set anew has lost the mark that the other entries left it.
+void refreshAction(QAction& action, const forms::MenuItem& item, Aspect aspect) {
+  if (aspect == Aspect::Caption) action.setText(qs(item.caption()));
   action.setEnabled(item.enabled());
   action.setVisible(item.visible() && hasVisibleEntry(item));
   action.setIcon(icon(item.icon()));
@@ -51,18 +56,41 @@ void refreshAction(QAction& action, const forms::MenuItem& item) {
   }
 }
 
+// In an open menu the key of the letter I takes the entry that is marked at a dotted one.
+class DottedEntries : public QObject {
+ public:
+  explicit DottedEntries(QWidget& menu) : QObject(&menu) { menu.installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    const QList<QAction*> actions = static_cast<QWidget*>(watched)->actions();
+    const bool marked = std::ranges::any_of(actions, [](const QAction* action) {
+      return action->isVisible() && marksDottedI(action->text());
+    });
+    if (!marked || key.text() == dotted || keyLetters(key.text()) != QLatin1String("I"))
+      return false;
+    QKeyEvent asMarked(QEvent::KeyPress, dotted[0].unicode(), key.modifiers(), dotted);
+    QCoreApplication::sendEvent(watched, &asMarked);
+    return true;
+  }
+
+ private:
+  const QString dotted{QChar(0x130)};
+};
+
 class MenuBuilder {
  public:
   static void fill(QWidget& menu, const std::vector<forms::MenuItem*>& items) {
     for (forms::MenuItem* item : items) add(menu, *item);
     markMnemonics(menu.actions());
+    new DottedEntries(menu);
   }
 
  private:
   static void add(QWidget& menu, forms::MenuItem& item) {
     QAction* const action = makeAction(menu, item);
     auto* const binding = new Binding(*action, item, [action, &item, &menu](Aspect aspect) {
-      refreshAction(*action, item);
+      refreshAction(*action, item, aspect);
       if (aspect == Aspect::Caption || aspect == Aspect::Visible) refreshAround(menu, item);
     });
     QObject::connect(action, &QAction::triggered, binding, [&item] {

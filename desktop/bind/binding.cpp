@@ -1,6 +1,7 @@
 #include "desktop/bind/binding.h"
 
 #include "desktop/text.h"
+#include "platform/forms/text_control.h"
 
 namespace desktop {
 
@@ -11,8 +12,13 @@ constexpr forms::Aspect everyAspect[] = {
     forms::Aspect::Text,    forms::Aspect::Selection, forms::Aspect::Image, forms::Aspect::Paint,
     forms::Aspect::Enabled, forms::Aspect::Visible};
 
+// A value is worth nothing without its unit.
 QString spokenName(const forms::Control& control) {
-  return withoutMnemonic(qs(control.caption().empty() ? control.toolTip() : control.caption()));
+  const auto* const text = dynamic_cast<const forms::TextControl*>(&control);
+  const QString words =
+      withoutMnemonic(qs(control.caption().empty() ? control.toolTip() : control.caption()));
+  if (text == nullptr || text->unit().empty()) return words;
+  return words.isEmpty() ? qs(text->unit()) : words + QStringLiteral(", ") + qs(text->unit());
 }
 
 void applyCommon(QWidget& widget, const forms::Control& control, Follow follow,

@@ -4,6 +4,32 @@
 
 namespace desktop {
 
+namespace {
+
+// The first row, from `start` on and round the end, whose text begins with what was typed.
+QModelIndexList beginningWith(const QModelIndex& start, const QVariant& typed) {
+  if (!start.isValid()) return {};
+  const QString wanted = keyLetters(typed.toString());
+  const int rows = start.model()->rowCount();
+  for (int step = 0; step < rows; ++step) {
+    const QModelIndex index = start.siblingAtRow((start.row() + step) % rows);
+    if (keyLetters(index.data().toString()).startsWith(wanted)) return {index};
+  }
+  return {};
+}
+
+}  // namespace
+
+QModelIndexList ListBoxModel::match(const QModelIndex& start, int /*role*/, const QVariant& value,
+                                    int /*hits*/, Qt::MatchFlags /*flags*/) const {
+  return beginningWith(start, value);
+}
+
+QModelIndexList ListViewModel::match(const QModelIndex& start, int /*role*/, const QVariant& value,
+                                     int /*hits*/, Qt::MatchFlags /*flags*/) const {
+  return beginningWith(start, value);
+}
+
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<std::size_t>(mapped(index.row()));
   if (row >= list_.count()) return {};

@@ -26,6 +26,9 @@ class ListBoxModel : public QAbstractListModel {
     return parent.isValid() ? 0 : rows_;
   }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  // For the letters that are typed into the view.
+  [[nodiscard]] QModelIndexList match(const QModelIndex& start, int role, const QVariant& value,
+                                      int hits, Qt::MatchFlags flags) const override;
   // The rows of the control changed. Rows that were added leave the view where it is.
   void refresh();
   // The row of the control that a row of the view shows, and the other way round.
@@ -52,6 +55,9 @@ class ListViewModel : public QAbstractTableModel {
     return parent.isValid() ? 0 : columns_;
   }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  // For the letters that are typed into the view.
+  [[nodiscard]] QModelIndexList match(const QModelIndex& start, int role, const QVariant& value,
+                                      int hits, Qt::MatchFlags flags) const override;
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                     int role) const override;
   void refresh();

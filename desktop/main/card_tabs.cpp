@@ -38,6 +38,8 @@ QWidget* cardTabs(registry::FrmMain& form, QWidget& parent) {
           {&form.ComKurum, &form.TxtÇalışan, &form.TxtSicil, &form.comgorev, &form.comyakinlik});
   addPage(*tabs, form.PNot, {&form.txtnot});
   bind(*tabs->tabBar(), form.TabStrip1);
+  // From the sex one goes on to the fields of the page; Ctrl+Tab and Alt with a letter turn it.
+  tabs->tabBar()->setFocusPolicy(Qt::ClickFocus);
   return tabs;
 }
 

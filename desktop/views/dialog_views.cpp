@@ -62,13 +62,14 @@ std::unique_ptr<QWidget> passwordView(forms::Form& form) {
   dialog.window->setMinimumWidth(passwordWidth);
   auto* const lock = new QLabel(dialog.window.get());
   lock->setPixmap(icon("password").pixmap(iconSize));
-  auto* const prompt = new QLabel(dialog.window.get());
-  prompt->setWordWrap(true);
-  bind(*prompt, control<forms::Label>(form, "LŞifbilgi"));
+  QLabel* const purpose = makeLabel(control<forms::Label>(form, "purpose"), *dialog.window);
+  QLabel* const prompt = makeLabel(control<forms::Label>(form, "LŞifbilgi"), *dialog.window);
+  for (QLabel* label : {purpose, prompt}) label->setWordWrap(true);
   auto* const password = new QLineEdit(dialog.window.get());
   bind(*password, control<forms::TextBox>(form, "txtsifre"));
   auto* const asked = new QVBoxLayout;
   asked->setSpacing(gap::normal);
+  asked->addWidget(purpose);
   asked->addWidget(prompt);
   asked->addWidget(password);
   auto* const top = new QHBoxLayout;

@@ -15,6 +15,8 @@ class Event {
   // A handler stays for the life of the event: screens connect to their own controls.
   void connect(Handler handler) { handlers_.push_back(std::move(handler)); }
 
+  [[nodiscard]] bool heard() const { return !handlers_.empty(); }
+
   // By index, since a handler may connect another one while it runs; a deque leaves it in its
   // place.
   void operator()(Args... args) const {

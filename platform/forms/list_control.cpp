@@ -61,6 +61,11 @@ void ListBox::showFromRow(int row) {
   notify(Aspect::Range);
 }
 
+void ListBox::press(int row) {
+  if (row < 0 || row != listIndex_) return setListIndex(row);
+  Click();
+}
+
 std::string ListBox::text() const {
   return listIndex_ < 0 ? std::string() : items_[static_cast<std::size_t>(listIndex_)].text;
 }
@@ -106,6 +111,11 @@ void ListView::setSelectedRow(int row) {
   if (std::exchange(selectedRow_, index) == index) return;
   notify(Aspect::Selection);
   if (index >= 0) ItemClick();
+}
+
+void ListView::press(int row) {
+  if (row < 0 || row != selectedRow_) return setSelectedRow(row);
+  ItemClick();
 }
 
 std::string ListView::selectedKey() const {

@@ -47,6 +47,8 @@ class ListBox : public Control {
   // The focused row, -1 when none.
   [[nodiscard]] int listIndex() const { return listIndex_; }
   void setListIndex(int row);
+  // As the user presses a row: Click comes also from the row that has the index.
+  void press(int row);
   // The text of the focused row, empty when there is none.
   [[nodiscard]] std::string text() const;
   // Asks the widget to show this row at the top of its view, as far as the rows below it go.
@@ -105,6 +107,8 @@ class ListView : public Control {
   [[nodiscard]] int selectedRow() const { return selectedRow_; }
   // Fires ItemClick when another row is selected.
   void setSelectedRow(int row);
+  // As the user presses a row: ItemClick comes also from the selected one.
+  void press(int row);
   // The key of the selected row, empty when none is.
   [[nodiscard]] std::string selectedKey() const;
 

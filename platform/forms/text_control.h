@@ -91,6 +91,16 @@ class DateBox : public TextControl {
     return text::parseDate(text(), today);
   }
   void setDate(const text::DateTime& date) { setText(text::shortDate(date)); }
+
+  // The word for the calendar that the date can be chosen from.
+  [[nodiscard]] const std::string& calendarWord() const { return calendarWord_; }
+  void setCalendarWord(std::string word) {
+    calendarWord_ = std::move(word);
+    notify(Aspect::ToolTip);
+  }
+
+ private:
+  std::string calendarWord_;
 };
 
 enum class ComboStyle { Editable, ListOnly };

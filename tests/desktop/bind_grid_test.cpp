@@ -10,6 +10,7 @@ namespace {
 
 using namespace desktop;
 using forms::Emphasis;
+using support::clickRow;
 
 struct GridForm : forms::Form {
   GridForm() : Form("grids") {
@@ -41,11 +42,11 @@ TEST(GridBinding, TheUsersMarkIsTheGridsRangeAndTheOtherWayRound) {
   bind(table, form.cells);
   int moves = 0;
   form.cells.RowColChange.connect([&] { ++moves; });
-  table.setCurrentIndex(table.model()->index(2, 1));
+  support::showActive(table);
+  clickRow(table, 2, {.column = 1});
   EXPECT_EQ(form.cells.Row(), 3);
   EXPECT_EQ(form.cells.Col(), 2);
-  support::showActive(table);
-  QTest::keyClick(&table, Qt::Key_Up, Qt::ShiftModifier);
+  support::press(Qt::Key_Up, Qt::ShiftModifier);
   EXPECT_EQ(form.cells.Row(), 3);
   EXPECT_EQ(form.cells.RowSel(), 2);
   EXPECT_EQ(moves, 1);
@@ -87,19 +88,62 @@ TEST(GridBinding, WhatStandsOutIsBoldAndReadsOnItsGround) {
   }
 }
 
-TEST(GridBinding, ColumnsFitTheirTextsAndEnterOpensARow) {
+TEST(GridBinding, ColumnsFitTheirTexts) {
   GridForm form;
   GridTable table;
   bind(table, form.rows);
   const int before = table.columnWidth(0);
   form.rows.setTextMatrix(2, 0, "Tiroid uyarıcı hormon (üçüncü kuşak)");
   EXPECT_GT(table.columnWidth(0), before);
-  int opened = 0;
-  form.rows.DblClick.connect([&] { ++opened; });
-  support::showActive(table);
-  form.rows.choose({2, 0});
-  QTest::keyClick(&table, Qt::Key_Return);
-  EXPECT_EQ(opened, 1);
+}
+
+TEST(GridBinding, TheGridHearsWhatIsDoneToItsRows) {
+  using support::Clicks;
+  struct Case {
+    const char* what;
+    void (*act)(GridTable& table);
+    const char* heard;  // the row of a move, "c" for Click, "d" for DblClick
+    int row;
+  };
+  const Case cases[] = {
+      {"click", [](GridTable& t) { clickRow(t, 1); }, "2c", 2},
+      {"again", [](GridTable& t) { clickRow(t, 1), clickRow(t, 1); }, "2cc", 2},
+      {"double click", [](GridTable& t) { clickRow(t, 1, {.clicks = Clicks::Double}); }, "2cd", 2},
+      {"right click", [](GridTable& t) { clickRow(t, 1, {.button = Qt::RightButton}); }, "", -1},
+      {"right double click",
+       [](GridTable& t) {
+         clickRow(t, 0), clickRow(t, 1, {.clicks = Clicks::Double, .button = Qt::RightButton});
+       },
+       "1c", 1},
+      {"below the rows", [](GridTable& t) { clickRow(t, 1), support::clickBelowRows(t); }, "2c", 2},
+      {"the focus alone", [](GridTable&) {}, "", -1},
+      {"the first arrow", [](GridTable&) { support::press(Qt::Key_Down); }, "1", 1},
+      {"Enter", [](GridTable&) { support::press(Qt::Key_Return); }, "1d", 1},
+      {"arrows and Enter",
+       [](GridTable& t) {
+         clickRow(t, 0), support::press(Qt::Key_Down), support::press(Qt::Key_Enter);
+       },
+       "1c2d", 2},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    GridForm form;
+    QWidget window;
+    window.resize(400, 300);
+    GridTable table(&window);
+    table.setGeometry(0, 0, 400, 300);
+    bind(table, form.rows);
+    std::string heard;
+    form.rows.RowColChange.connect([&] { heard += std::to_string(form.rows.Row()); });
+    form.rows.Click.connect([&] { heard += 'c'; });
+    form.rows.DblClick.connect([&] { heard += 'd'; });
+    support::showActive(window);
+    table.setFocus(Qt::TabFocusReason);
+    c.act(table);
+    EXPECT_EQ(heard, c.heard);
+    EXPECT_EQ(form.rows.Row(), c.row);
+    EXPECT_EQ(table.selectionModel()->selectedRows().size(), c.row < 0 ? 0 : 1);
+  }
 }
 
 }  // namespace

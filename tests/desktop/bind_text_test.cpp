@@ -1,8 +1,11 @@
 #include "desktop/bind/bind_text.h"
 
 #include <QLineEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 #include "desktop/bind/bind_combo.h"
+#include "desktop/bind/bind_date.h"
 #include "shell/list_completion.h"
 #include "tests/desktop/desk.h"
 
@@ -17,6 +20,7 @@ struct TextForm : forms::Form {
   forms::TextBox page{*this, "page", forms::TextLines::Multiple};
   forms::ComboBox combo{*this, "combo"};
   forms::ComboBox list{*this, "list", forms::ComboStyle::ListOnly};
+  forms::DateBox date{*this, "date"};
 };
 
 struct TextBinding : testing::Test {
@@ -26,7 +30,12 @@ struct TextBinding : testing::Test {
   QPlainTextEdit page{&window};
   QComboBox combo{&window};
   QComboBox list{&window};
+  DateEdit date{&window};
+  QVBoxLayout column{&window};
   TextBinding() {
+    for (QWidget* field : std::initializer_list<QWidget*>{&line, &page, &combo, &list, &date})
+      column.addWidget(field);
+    bind(date, form.date);
     bind(line, form.line);
     bind(page, form.page);
     bind(combo, form.combo);
@@ -98,7 +107,10 @@ TEST_F(TextBinding, SelectionGoesBothWaysInCharacters) {
 }
 
 TEST_F(TextBinding, PagesGoBothWays) {
-  page.insertPlainText(QStringLiteral("bir\niki"));
+  support::click(page);
+  type(page, QStringLiteral("bir"));
+  support::press(Qt::Key_Return);
+  type(page, QStringLiteral("iki"));
   EXPECT_EQ(form.page.text(), "bir\niki");
   form.page.setText("üç");
   EXPECT_EQ(page.toPlainText(), QStringLiteral("üç"));
@@ -139,6 +151,59 @@ TEST_F(TextBinding, AChosenRowFiresClickOnce) {
   EXPECT_EQ(list.currentIndex(), -1);
 }
 
+TEST_F(TextBinding, AComboGivesTheRowThatIsTakenFromItsList) {
+  int clicks = 0;
+  for (forms::ComboBox* control : {&form.combo, &form.list}) {
+    control->setItems({"Ankara", "Bursa"});
+    control->Click.connect([&] { ++clicks; });
+  }
+  for (QComboBox* shown : {&combo, &list}) {
+    clicks = 0;
+    support::click(*shown, {4, 4}, support::Clicks::Single, Qt::RightButton);
+    support::press(Qt::Key_Escape);
+    EXPECT_EQ(clicks, 0);
+    support::chooseRow(*shown, 1);
+    support::chooseRow(*shown, 0);
+    EXPECT_EQ(clicks, 2);
+  }
+  EXPECT_EQ(form.combo.text() + form.list.text(), "AnkaraAnkara");
+  list.setFocus();
+  support::press(Qt::Key_B);
+  EXPECT_EQ(form.list.text(), "Bursa");
+}
+
+// A frame of the accent's colour, as a single line has it.
+TEST_F(TextBinding, WhatHasTheFocusIsSeen) {
+  line.setFocus();
+  for (QWidget* field : {static_cast<QWidget*>(&page), static_cast<QWidget*>(&line)}) {
+    const QImage without = field->grab().toImage();
+    field->setFocus();
+    support::settle();
+    const QImage with = field->grab().toImage();
+    const QPoint edge(field->width() / 2, 0);
+    EXPECT_NE(with.pixelColor(edge), without.pixelColor(edge));
+  }
+}
+
+TEST_F(TextBinding, ADateIsTypedOrTakenFromItsCalendar) {
+  form.date.setCalendarWord("Takvim");
+  auto* const open = date.findChild<QToolButton*>();
+  EXPECT_EQ(open->accessibleName(), QStringLiteral("Takvim"));
+  support::click(date, {5, 5});
+  type(date, QStringLiteral("03.02.2026"));
+  EXPECT_EQ(form.date.text(), "03.02.2026");
+  support::oncePopped([] {
+    support::press(Qt::Key_Right);
+    support::press(Qt::Key_Return);
+  });
+  support::click(*open);
+  EXPECT_EQ(form.date.text(), "04.02.2026");
+  support::oncePopped([] { support::press(Qt::Key_Escape); });
+  support::press(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(form.date.text(), "04.02.2026");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 TEST_F(TextBinding, AWheelPassingOverAComboChangesNothing) {
   form.list.setItems({"a", "b"});
   form.list.setListIndex(0);
@@ -175,6 +240,11 @@ TEST(Binding, AWidgetIsNamedAndSpoken) {
   showCaption(caption, edit);
   EXPECT_EQ(edit.objectName(), QStringLiteral("line"));
   EXPECT_EQ(edit.accessibleName(), QStringLiteral("Doğum & Yeri"));
+  form.page.setUnit("/dk");
+  form.page.setCaption("Nabız");
+  QPlainTextEdit measured(&window);
+  bind(measured, form.page);
+  EXPECT_EQ(measured.accessibleName(), QStringLiteral("Nabız, /dk"));
   EXPECT_EQ(caption.buddy(), &edit);
   form.line.setCaption("&Place");
   form.line.setEnabled(false);

@@ -7,7 +7,9 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 
+#include "desktop/caption_marks.h"
 #include "desktop/main/name_list.h"
 #include "desktop/warning_label.h"
 #include "shell/frm_option.h"
@@ -153,10 +155,11 @@ TEST_F(Card, AChangeIsSavedAndARecordDeletedAfterAQuestion) {
   ASSERT_TRUE(desk.stored("Ayşe Yıldız"));
   EXPECT_EQ(desk.station.stores.personal.IDCard.Fields("Profession").text(), "Öğretmen");
   desk.answers.expect(QMessageBox::No);
-  desk.find<QAction>("Delete").trigger();
+  auto& remove = desk.find<QToolButton>("Delete");
+  support::click(remove);
   EXPECT_TRUE(desk.stored("Ayşe Yıldız"));
   desk.answers.expect(QMessageBox::Yes);
-  desk.find<QAction>("Delete").trigger();
+  support::click(remove);
   EXPECT_FALSE(desk.stored("Ayşe Yıldız"));
   EXPECT_EQ(desk.find<QLineEdit>("Txtİsim").text(), QString());
   EXPECT_TRUE(desk.answers.allAsked());
@@ -181,7 +184,7 @@ TEST_F(Card, TheLanguageChangesWhereItStands) {
   const auto words = [&] {
     return QStringList{desk.find<QAction>("mnukaydet").text().remove(QLatin1Char('&')),
                        desk.find<QAction>("Save").toolTip(),
-                       desk.find<QTabBar>("TabStrip1").tabText(1),
+                       desktop::withoutMnemonic(desk.find<QTabBar>("TabStrip1").tabText(1)),
                        desk.find<QLineEdit>("TxtAnaAdı").accessibleName()};
   };
   EXPECT_EQ(words(), (QStringList{"Kaydet", "Kaydet", "Adres", "Anne Adı"}));
@@ -320,7 +323,8 @@ TEST_F(Card, AltAndALetterReachAField) {
   QSet<QChar> taken{QLatin1Char('D')};  // of the menu Dosya
   for (const QLabel* label : desk.window().findChildren<QLabel*>()) {
     if (label->buddy() == nullptr || !label->isVisible()) continue;
-    const QChar letter = label->text()[label->text().indexOf(QLatin1Char('&')) + 1].toUpper();
+    const QChar letter = desktop::markedLetter(label->text());
+    if (letter.isNull()) continue;
     EXPECT_FALSE(taken.contains(letter)) << label->text().toStdString();
     taken.insert(letter);
   }
@@ -330,6 +334,71 @@ TEST_F(Card, AltAndALetterReachAField) {
   press(static_cast<Qt::Key>(caption[caption.indexOf(QLatin1Char('&')) + 1].toUpper().unicode()),
         Qt::AltModifier);
   EXPECT_TRUE(field.hasFocus());
+  auto& name = desk.find<QLineEdit>("Txtİsim");
+  EXPECT_TRUE(desktop::marksDottedI(captionOf(name))) << captionOf(name).toStdString();
+  press(Qt::Key_I, Qt::AltModifier);
+  EXPECT_TRUE(name.hasFocus());
+}
+
+TEST_F(Card, TabGoesFromTheSexToTheFirstFieldOfThePage) {
+  for (const auto& [tab, field] :
+       {std::pair{0, "ComKanGrubu"}, std::pair{1, "ComHitap"}, std::pair{2, "ComKurum"}}) {
+    support::clickTab(desk.find<QTabBar>("TabStrip1"), tab);
+    desk.find<QComboBox>("ComCinsiyet").setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QString::fromUtf8(field));
+  }
+  press(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(desk.card.TabStrip1.selected(), "TSNot") << "and Ctrl with it turns the page";
+}
+
+// From the lock of the names to the password that shows them, in two entries.
+TEST_F(Card, NamesAreLockedFromTheKeyboardAndTheDialogSaysWhatItIsAbout) {
+  struct Entry {
+    const char* explained;
+    bool changes;
+  };
+  int seen = 0;
+  for (const Entry& entry : {Entry{"henüz şifre yok", false}, Entry{"Bu şifre", true}}) {
+    const auto asked = [] {
+      return QApplication::activeWindow() != nullptr &&
+             QApplication::activeWindow()->objectName() == QStringLiteral("frmpass");
+    };
+    support::once(asked, [&] {
+      QWidget& dialog = *QApplication::activeWindow();
+      const auto& purpose = *dialog.findChild<QLabel*>(QStringLiteral("purpose"));
+      EXPECT_TRUE(purpose.isVisible());
+      EXPECT_TRUE(purpose.text().contains(QString::fromUtf8(entry.explained)));
+      auto& box = *dialog.findChild<QLineEdit*>(QStringLiteral("txtsifre"));
+      auto& ok = *dialog.findChild<QWidget*>(QStringLiteral("buttamam"));
+      if (entry.changes) {
+        const auto old = [] {
+          return qobject_cast<QInputDialog*>(QApplication::activeWindow()) != nullptr;
+        };
+        support::once(old, [] {
+          type(*QApplication::focusWidget(), QStringLiteral("1"));
+          support::press(Qt::Key_Return);
+        });
+        support::click(*dialog.findChild<QWidget*>(QString::fromUtf8("ButŞifreDeğiştir")));
+        EXPECT_EQ(QApplication::focusWidget(), &box) << "after the old password";
+      }
+      type(*QApplication::focusWidget(), QStringLiteral("1"));
+      desk.answers.expect(QMessageBox::Ok);
+      support::click(ok);
+      EXPECT_EQ(QApplication::focusWidget(), &box) << "for the second entry";
+      EXPECT_EQ(box.text(), QString());
+      type(*QApplication::focusWidget(), QStringLiteral("1"));
+      ++seen;
+      support::press(Qt::Key_Return);
+    });
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_TRUE(desk.card.tbToolBar.button("keyopen")->visible);
+    press(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_TRUE(desk.card.tbToolBar.button("keyclose")->visible);
+  }
+  EXPECT_EQ(seen, 2);
+  EXPECT_EQ(desk.find<QAction>("keyclose").toolTip(),
+            QStringLiteral("Gizli hastaları göster (şifre)"));
 }
 
 TEST_F(Card, ThePhotoPanelTellsItsSize) {

@@ -1,13 +1,9 @@
-// A desk with real windows: a station on a folder of its own, the toolkit's host, and hands that
-// type.
+// A desk with real windows: a station on a folder of its own, and the toolkit's host.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QMessageBox>
-#include <QTest>
 #include <deque>
 #include <memory>
 
@@ -17,6 +13,7 @@
 #include "desktop/text.h"
 #include "platform/settings/backend.h"
 #include "shell/text_lookup.h"
+#include "tests/desktop/hands.h"
 #include "tests/support/practice.h"
 #include "tests/support/temporary_folder.h"
 
@@ -24,32 +21,6 @@ namespace support {
 
 // The platform without a screen has a small one.
 inline constexpr QSize usualRoom{1920, 1040};
-
-// Everything that was posted has happened, and what that posted.
-inline void settle() {
-  for (int pass = 0; pass < 5; ++pass) {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-  }
-}
-
-// Types a text as a keyboard does; QTest knows Latin letters only.
-inline void type(QWidget& widget, const QString& text) {
-  for (const QChar letter : text) {
-    const int key = letter.toUpper().unicode();
-    for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QKeyEvent event(kind, key, Qt::NoModifier, QString(letter));
-      QCoreApplication::sendEvent(&widget, &event);
-    }
-  }
-}
-
-inline void showActive(QWidget& window) {
-  window.show();
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-}
 
 // Presses the next buttons of the message boxes to come, and keeps what they said.
 class Answers : public QObject {

@@ -1,10 +1,17 @@
 // Every control of every screen has its widget, its words in both languages, and a name for a
 // screen reader.
-#include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
+#include <QGroupBox>
+#include <QHash>
+#include <QMenuBar>
+#include <QRadioButton>
 #include <QScrollBar>
+#include <QToolButton>
 #include <set>
 
+#include "desktop/bind/bind_date.h"
+#include "desktop/caption_marks.h"
 #include "platform/forms/button.h"
 #include "platform/forms/list_control.h"
 #include "platform/forms/menu.h"
@@ -58,12 +65,90 @@ void checkToolbar(const QWidget& window, const forms::Toolbar& toolbar) {
   }
 }
 
+// What a screen reader says of everything that the keyboard can reach.
+void checkSpoken(const QWidget& window) {
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
+    if (widget->focusProxy() != nullptr || widget->inherits("QScrollBar")) continue;
+    // A label is what it says, and says nothing while it is empty.
+    if (const auto* label = qobject_cast<QLabel*>(widget); label && label->text().isEmpty())
+      continue;
+    QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty())
+        << widget->metaObject()->className() << " " << widget->objectName().toStdString();
+    if (qobject_cast<QRadioButton*>(widget) != nullptr) {
+      EXPECT_EQ(spoken->role(), QAccessible::RadioButton) << widget->objectName().toStdString();
+    }
+  }
+  for (const QGroupBox* box : window.findChildren<QGroupBox*>())
+    EXPECT_FALSE(box->isVisible() && box->title().isEmpty()) << box->objectName().toStdString();
+  for (const QToolButton* button : window.findChildren<QToolButton*>()) {
+    const bool calendar = qobject_cast<desktop::DateEdit*>(button->parentWidget()) != nullptr;
+    EXPECT_FALSE(calendar && button->accessibleName().isEmpty())
+        << button->parentWidget()->objectName().toStdString();
+  }
+}
+
+void noteMark(const QString& text, const char* where, QHash<QChar, QString>& marks) {
+  const QChar letter = desktop::markedLetter(text);
+  if (letter.isNull()) return;
+  EXPECT_FALSE(marks.contains(letter))
+      << where << ": " << text.toStdString() << " and " << marks.value(letter).toStdString();
+  marks.insert(letter, text);
+}
+
+// No letter stands for two things, neither in a menu nor in the window.
+void checkMarks(QWidget& window) {
+  for (const QMenu* menu : window.findChildren<QMenu*>()) {
+    QHash<QChar, QString> marks;
+    for (const QAction* action : menu->actions()) {
+      if (action->isVisible()) noteMark(action->text(), "menu", marks);
+    }
+  }
+  QHash<QChar, QString> marks;
+  if (const auto* const bar = window.findChild<QMenuBar*>()) {
+    for (const QAction* action : bar->actions()) {
+      if (action->isVisible()) noteMark(action->text(), "menu bar", marks);
+    }
+  }
+  for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+    const bool tool = qobject_cast<const QToolButton*>(button) != nullptr;
+    if (button->isVisible() && !tool) noteMark(button->text(), "button", marks);
+  }
+  for (const QTabBar* bar : window.findChildren<QTabBar*>()) {
+    for (int tab = 0; tab < bar->count(); ++tab) noteMark(bar->tabText(tab), "tab", marks);
+  }
+  for (const QLabel* label : window.findChildren<QLabel*>()) {
+    if (label->isVisible() && label->buddy() != nullptr) noteMark(label->text(), "label", marks);
+  }
+  const bool buttons = std::ranges::any_of(window.findChildren<QPushButton*>(),
+                                           [](const auto* each) { return each->isVisible(); });
+  EXPECT_FALSE(buttons && marks.isEmpty());
+}
+
+// Every page of the tabs, as the mouse brings it.
+void checkPages(QWidget& window) {
+  checkSpoken(window);
+  desktop::markCaptions(window);
+  checkMarks(window);
+  for (QTabBar* bar : window.findChildren<QTabBar*>()) {
+    for (int tab = 1; bar->isVisible() && tab < bar->count(); ++tab) {
+      support::clickTab(*bar, tab);
+      desktop::markCaptions(window);
+      checkSpoken(window);
+      checkMarks(window);
+    }
+  }
+}
+
 void checkForm(WindowDesk& desk, forms::Form& form) {
   SCOPED_TRACE(form.name());
   desk.host.show(form);
   support::settle();
-  const QWidget* const window = desk.host.windowOf(form);
+  QWidget* const window = desk.host.windowOf(form);
   ASSERT_NE(window, nullptr);
+  checkPages(*window);
   for (const forms::Control* control : form.controls()) {
     if (neverShown.contains(control->name())) continue;
     checkControl(*window, *control);
