@@ -110,7 +110,6 @@ void FormFrame::show() {
   }
   window_.activateWindow();
   moveFocus();
-  markCaptions(window_);
 }
 
 bool FormFrame::close() {
@@ -133,6 +132,7 @@ bool FormFrame::eventFilter(QObject* watched, QEvent* event) {
       return true;
     case QEvent::WindowActivate:
       form_.Activate();
+      markCaptions(window_);
       return false;
     case QEvent::Resize:
     case QEvent::WindowStateChange:
