@@ -129,7 +129,6 @@ void FormFrame::show() {
   keepOnScreen(window_);
   window_.activateWindow();
   moveFocus();
-  markCaptions(window_);
 }
 
 bool FormFrame::close() {
@@ -153,6 +152,7 @@ bool FormFrame::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::WindowActivate:
       firstActivated();
       form_.Activate();
+      markCaptions(window_);
       return false;
     case QEvent::Resize:
     case QEvent::WindowStateChange:

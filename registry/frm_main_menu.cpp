@@ -146,9 +146,9 @@ bool FrmMain::tusBas(std::string_view key) {
   if (key == "muayene") return muayenetus(), true;
   if (key == "smok") return mnusigarabp.press(), true;
   if (key == "mesaj") return mnumesajlar.press(), true;
-  if (key == "keyclose") return mnuShowHidden.press(), true;
-  if (key == "keyopen") return mnuLockHidden.press(), true;
-  if (key == "idpass") return mnuChooseHidden.press(), true;
+  if (key == "keyclose") return mnuShowHidden.Click(), true;
+  if (key == "keyopen") return mnuLockHidden.Click(), true;
+  if (key == "idpass") return mnuChooseHidden.Click(), true;
   return false;
 }
 

@@ -15,6 +15,8 @@ FrmPass::FrmPass(Station& station) : Form("frmpass"), istasyon(station) {
     if (!lblsifre.caption().empty()) LŞifbilgi.setCaption(metinbul(istasyon, "msgsifregir"));
   });
   ButŞifreDeğiştir.setEnabled(false);
+  // The one dialog whose field ends with Enter: there is nothing after it to fill in.
+  buttamam.setDefault();
   buttamam.Click.connect([this] { tamam(); });
   Butİptal.Click.connect([this] { istasyon.host.close(*this); });
   ButŞifreDeğiştir.Click.connect([this] { degistir(); });

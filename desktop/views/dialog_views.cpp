@@ -79,11 +79,8 @@ std::unique_ptr<QWidget> passwordView(forms::Form& form) {
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(dialog.button(form, "ButŞifreDeğiştir"));
   buttons->addStretch(1);
-  QPushButton* const ok = dialog.button(form, "buttamam");
-  buttons->addWidget(ok);
+  buttons->addWidget(dialog.button(form, "buttamam"));
   buttons->addWidget(dialog.button(form, "Butİptal"));
-  // The one dialog whose field ends with Enter: there is nothing after it to fill in.
-  QObject::connect(password, &QLineEdit::returnPressed, ok, &QPushButton::click);
   dialog.column->addLayout(top);
   dialog.column->addStretch(1);
   dialog.column->addLayout(buttons);
