@@ -84,7 +84,6 @@ TEST(ScreenClicks, AClickedRowIsWhatTheScreenShows) {
       {"frmdrug", "Lstilaç", 1, "txtrecete", "1 - Parol   \n    S: 3x1", Clicks::Double},
       {"frmtestedit", "Lsttest", 1, "txtbirim", "mg/L"},
       {"frmdemand", "Lsttest", 0, "txttest", "AKŞ"},
-      {"frmdemand", "Lsttest", 1, "txtistem", "CRP", Clicks::Double},
       {"frmpattern", "List1", 3, "lblsablonno", "3"},
       {"frmwizarddrug", "LstTüm", 0, "txtisim", "Ali Can"},
       {"frmmesajlar", "msgrid1", 0, "txtmesaj", "dün"},
