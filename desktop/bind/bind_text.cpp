@@ -81,6 +81,7 @@ void reportPlainSelection(const QPlainTextEdit& edit, forms::TextControl& contro
 
 void refreshLine(QLineEdit& edit, const forms::TextControl& control, Aspect aspect) {
   if (aspect == Aspect::Text) showText(edit, control);
+  if (aspect == Aspect::Enabled) edit.setReadOnly(control.locked());
   if (aspect == Aspect::Selection && edit.hasFocus()) showSelection(edit, control);
 }
 

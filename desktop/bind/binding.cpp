@@ -47,20 +47,21 @@ Binding::~Binding() {
 
 void Binding::observe(forms::Aspect aspect) {
   refresh_(aspect);
-  refreshCaptionLabel();
+  refreshCaptionLabel(aspect);
 }
 
 void Binding::setCaptionLabel(QLabel& label, QWidget& field) {
   captionLabel_ = &label;
   label.setBuddy(&field);
-  refreshCaptionLabel();
+  for (const forms::Aspect aspect : everyAspect) refreshCaptionLabel(aspect);
 }
 
-void Binding::refreshCaptionLabel() {
+// A text that is set anew has lost the mark that the window gave it.
+void Binding::refreshCaptionLabel(forms::Aspect aspect) {
   if (captionLabel_ == nullptr) return;
-  captionLabel_->setText(qs(control_.caption()));
-  captionLabel_->setVisible(control_.visible());
-  captionLabel_->setEnabled(control_.enabled());
+  if (aspect == forms::Aspect::Caption) captionLabel_->setText(qs(control_.caption()));
+  if (aspect == forms::Aspect::Visible) captionLabel_->setVisible(control_.visible());
+  if (aspect == forms::Aspect::Enabled) captionLabel_->setEnabled(control_.enabled());
 }
 
 Binding& attach(QWidget& widget, forms::Control& control, Follow follow, Binding::Refresh refresh) {

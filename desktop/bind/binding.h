@@ -28,7 +28,7 @@ class Binding : public QObject {
 
  private:
   void observe(forms::Aspect aspect);
-  void refreshCaptionLabel();
+  void refreshCaptionLabel(forms::Aspect aspect);
 
   forms::Control& control_;
   Refresh refresh_;

@@ -144,6 +144,8 @@ class GenericLayout {
 
 std::unique_ptr<QWidget> genericView(forms::Form& form) {
   auto window = std::make_unique<QMainWindow>();
+  // The toolkit's own menu would hide the toolbar.
+  window->setContextMenuPolicy(Qt::NoContextMenu);
   window->resize(usualSize);
   GenericLayout(*window, form).fill();
   return window;

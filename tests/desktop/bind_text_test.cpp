@@ -202,6 +202,10 @@ TEST_F(TextBinding, ADateIsTypedOrTakenFromItsCalendar) {
   support::press(Qt::Key_Down, Qt::AltModifier);
   EXPECT_EQ(form.date.text(), "04.02.2026");
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  form.date.setLocked(true);
+  support::click(*open);
+  type(date, QStringLiteral("1"));
+  EXPECT_EQ(form.date.text(), "04.02.2026") << "read, not changed";
 }
 
 TEST_F(TextBinding, AWheelPassingOverAComboChangesNothing) {

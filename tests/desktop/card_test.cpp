@@ -338,6 +338,8 @@ TEST_F(Card, AltAndALetterReachAField) {
   EXPECT_TRUE(desktop::marksDottedI(captionOf(name))) << captionOf(name).toStdString();
   press(Qt::Key_I, Qt::AltModifier);
   EXPECT_TRUE(name.hasFocus());
+  typeHere("A");
+  EXPECT_TRUE(desktop::marksDottedI(captionOf(name))) << "the mark outlasts what is typed";
 }
 
 TEST_F(Card, TabGoesFromTheSexToTheFirstFieldOfThePage) {
