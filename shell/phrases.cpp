@@ -216,6 +216,13 @@ constexpr auto phraseRows = std::to_array<Row>({
      "%4. Pictures and documents: %5.",
      "%1 tarihli yedek sağlam. Geri yüklenirse: %2 hasta, %3 kayıt; son muayene: %4. Resim ve "
      "belge: %5."},
+    {Phrase::DrillFilesDamaged,
+     "The backup of %1 is not whole. It would bring back %2 patients and %3 records; last "
+     "examination: %4. Pictures and documents: %5; %6 of them are damaged, and %7 more are "
+     "missing.\nBack up into an empty folder.",
+     "%1 tarihli yedek eksiksiz değil. Geri yüklenirse: %2 hasta, %3 kayıt; son muayene: %4. Resim "
+     "ve belge: %5; bunların %6 tanesi bozuk, ayrıca %7 tanesi eksik.\nBoş bir klasöre yedek "
+     "alın."},
     {Phrase::DrillFailed, "The backup of %1 cannot be restored. %2",
      "%1 tarihli yedek geri yüklenemez. %2"},
     {Phrase::NothingFound, "none", "yok"},

@@ -121,9 +121,10 @@ enum class Phrase {
   RestoreNewerFiles,  // %1 number, %2 one of them
   FilesNotRestored,   // %1 number, %2 reason
   RestoreDrill,
-  DrillSound,    // %1 date, %2 patients, %3 records, %4 last examination, %5 files
-  DrillFailed,   // %1 date, %2 reason
-  NothingFound,  // in front of nothing: a date that is not there
+  DrillSound,         // %1 date, %2 patients, %3 records, %4 last examination, %5 files
+  DrillFilesDamaged,  // as above, %6 damaged, %7 missing
+  DrillFailed,        // %1 date, %2 reason
+  NothingFound,       // in front of nothing: a date that is not there
   NoFile,
   NoRoom,
   NotWritable,

@@ -160,13 +160,12 @@ Files istenenDosyalar(Station& istasyon, const fs::path& kept) {
 // One of them may be the file of font records, which is open as the stores are. True when they were
 // closed for it.
 bool dosyalariGeriYukle(Station& istasyon, const fs::path& backup) {
-  const fs::path kept = backup / stores::backupFilesFolder;
-  const Files wanted = istenenDosyalar(istasyon, kept);
+  const Files wanted = istenenDosyalar(istasyon, backup / stores::backupFilesFolder);
   if (wanted.empty()) return false;
   stores::CloseStores(istasyon.stores);
   stores::FileCopies copies;
   const auto work = [&, program = istasyon.UygYolu](const stores::Progress& progress) {
-    return stores::copyFiles(kept, program, wanted, copies, progress);
+    return stores::restoreFiles(backup, program, wanted, copies, progress);
   };
   const BackgroundResult result = arkadaYap(istasyon, phrase(istasyon, Phrase::FilesBackup), work);
   depolariAc(istasyon);
@@ -180,13 +179,19 @@ bool dosyalariGeriYukle(Station& istasyon, const fs::path& backup) {
   return true;
 }
 
+bool eksiksiz(const stores::FileCheck& files) {
+  return files.damaged == 0 && files.missing == 0;
+}
+
 std::string denemeSonucu(Station& istasyon, const stores::DrillReport& report,
                          const std::string& date) {
   const std::string last = report.lastExamination ? text::shortDate(*report.lastExamination)
                                                   : phrase(istasyon, Phrase::NothingFound);
-  return doldurulmus(istasyon, Phrase::DrillSound,
-                     {date, std::to_string(report.patients), std::to_string(report.records), last,
-                      std::to_string(report.files)});
+  const stores::FileCheck& files = report.files;
+  return doldurulmus(
+      istasyon, eksiksiz(files) ? Phrase::DrillSound : Phrase::DrillFilesDamaged,
+      {date, std::to_string(report.patients), std::to_string(report.records), last,
+       std::to_string(files.files), std::to_string(files.damaged), std::to_string(files.missing)});
 }
 
 }  // namespace
@@ -223,10 +228,12 @@ void yedegiDene(Station& istasyon) {
   };
   const BackgroundResult result = arkadaYap(istasyon, phrase(istasyon, Phrase::RestoreDrill), work);
   if (result.stopped) return;
-  if (result.status) return istasyon.bilgi(denemeSonucu(istasyon, report, date));
-  istasyon.mesaj(
-      doldurulmus(istasyon, Phrase::DrillFailed, {date, nedeni(istasyon, result.status)}),
-      host::Buttons::Ok, host::Icon::Critical);
+  if (result.status && eksiksiz(report.files))
+    return istasyon.bilgi(denemeSonucu(istasyon, report, date));
+  const std::string told = result.status ? denemeSonucu(istasyon, report, date)
+                                         : doldurulmus(istasyon, Phrase::DrillFailed,
+                                                       {date, nedeni(istasyon, result.status)});
+  istasyon.mesaj(told, host::Buttons::Ok, host::Icon::Critical);
 }
 
 }  // namespace shell

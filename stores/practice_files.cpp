@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <fstream>
 #include <set>
 #include <string>
 
@@ -10,6 +9,7 @@
 #include "platform/files/folders.h"
 #include "platform/files/replace.h"
 #include "stores/clinical_schema.h"
+#include "stores/file_list.h"
 #include "stores/personal_schema.h"
 #include "stores/store_kinds.h"
 
@@ -61,20 +61,6 @@ void addFolder(std::vector<PracticeFile>& files, const fs::path& root, const fs:
   }
 }
 
-bool sameContent(const fs::path& one, const fs::path& other) {
-  std::ifstream left(one, std::ios::binary);
-  std::ifstream right(other, std::ios::binary);
-  constexpr std::size_t atOnce = std::size_t{1} << 16U;
-  std::string block(atOnce, '\0');
-  std::string counterpart(atOnce, '\0');
-  while (left && right) {
-    left.read(block.data(), atOnce);
-    right.read(counterpart.data(), atOnce);
-    if (left.gcount() != right.gcount() || block != counterpart) return false;
-  }
-  return left.eof() && right.eof();
-}
-
 bool leadsOut(const fs::path& root, const fs::path& folder) {
   std::error_code error;
   const fs::path inner =
@@ -82,32 +68,105 @@ bool leadsOut(const fs::path& root, const fs::path& folder) {
   return error || inner.empty() || *inner.begin() == "..";
 }
 
-// The draft is as its source, in content and time.
-Status makeDraft(const fs::path& source, const fs::path& draft, const PracticeFile& file,
-                 const files::CopyProgress& progress) {
-  std::error_code error;
-  fs::remove(draft, error);
-  if (Status copied = files::copyFile(source, draft, progress); !copied) return copied;
-  if (!sameContent(source, draft))
-    return {dao::Fault::Busy, file.name.string() + ": it has changed meanwhile."};
-  files::shareLike(draft, source);
-  fs::last_write_time(draft, file.written, error);
-  return {};
+// What files are copied with.
+struct CopyWork {
+  const fs::path& from;
+  const fs::path& to;
+  const FileList& expected;  // of the source
+};
+
+const ListedFile* entryOf(const FileList& list, const PracticeFile& file) {
+  const auto found = list.find(file.name.string());
+  return found == list.end() ? nullptr : &found->second;
 }
 
-Status copyOne(const fs::path& from, const fs::path& to, const PracticeFile& file,
+// The draft is as its source, in content and time, and the source as its list tells.
+dao::Result<std::uint64_t> makeDraft(const CopyWork& work, const fs::path& draft,
+                                     const PracticeFile& file,
+                                     const files::CopyProgress& progress) {
+  const fs::path source = work.from / file.name;
+  std::error_code error;
+  fs::remove(draft, error);
+  if (Status copied = files::copyFile(source, draft, progress); !copied)
+    return std::unexpected(std::move(copied));
+  const auto checksum = checksumOf(draft);
+  if (!checksum || checksum != checksumOf(source))
+    return std::unexpected(
+        Status(dao::Fault::Busy, file.name.string() + ": it has changed meanwhile."));
+  const ListedFile* entry = entryOf(work.expected, file);
+  if (entry != nullptr && entry->checksum != *checksum)
+    return std::unexpected(
+        Status(dao::Fault::Damaged, file.name.string() + ": it is not as it was written."));
+  files::shareLike(draft, source);
+  fs::last_write_time(draft, file.written, error);
+  return *checksum;
+}
+
+Status copyOne(const CopyWork& work, const PracticeFile& file, FileList& written,
                const files::CopyProgress& progress) {
-  const fs::path target = to / file.name;
-  if (leadsOut(to, target.parent_path()))
+  const fs::path target = work.to / file.name;
+  if (leadsOut(work.to, target.parent_path()))
     return {dao::Fault::Unsupported, target.string() + ": a link leads out of the folder."};
   if (Status made = files::createFolders(target.parent_path()); !made) return made;
   fs::path draft = target;
   draft += draftEnding;
-  Status status = makeDraft(from / file.name, draft, file, progress);
-  if (status) status = files::replaceFile(draft, target);
+  const auto checksum = makeDraft(work, draft, file, progress);
+  Status status = checksum ? files::replaceFile(draft, target) : checksum.error();
   std::error_code ignored;
-  if (!status) fs::remove(draft, ignored);
+  if (!status) return fs::remove(draft, ignored), status;
+  if (const auto entry = listed(target, *checksum); entry && canBeListed(file.name.string()))
+    written.insert_or_assign(file.name.string(), *entry);
   return status;
+}
+
+Status copyFiles(const CopyWork& work, std::span<const PracticeFile> files, FileCopies& copies,
+                 FileList& written, const Progress& progress) {
+  std::int64_t all = 0;
+  for (const PracticeFile& file : files) all += file.bytes;
+  std::int64_t before = 0;
+  bool goOn = true;
+  for (const PracticeFile& file : files) {
+    const auto share = [&](std::int64_t done, std::int64_t) {
+      return goOn = !progress || progress(std::min(before + done, all), all);
+    };
+    Status status = copyOne(work, file, written, share);
+    if (!goOn || status.fault() == dao::Fault::DiskFull) return status;
+    status ? ++copies.copied : ++copies.failed;
+    if (!status && copies.failed == 1) copies.fault = status;
+    before += file.bytes;
+  }
+  return {};
+}
+
+// A copy that somebody touched after it was written is read; what no list tells of is not trusted.
+// An entry takes over the time of a copy that turns out to be good.
+bool isTrusted(const PracticeFile& file, const fs::path& kept, FileList& list) {
+  const auto entry = list.find(file.name.string());
+  if (entry == list.end()) return !canBeListed(file.name.string());
+  const auto now = listed(kept / file.name, entry->second.checksum);
+  if (now == entry->second) return true;
+  if (!now || now->bytes != entry->second.bytes || checksumOf(kept / file.name) != now->checksum)
+    return false;
+  entry->second = *now;
+  return true;
+}
+
+// A file that somebody put back from elsewhere has an old date, and has changed as well.
+std::vector<PracticeFile> filesToBackUp(std::span<const PracticeFile> files, const fs::path& kept,
+                                        FileList& list) {
+  FileComparison found = compareFiles(files, kept);
+  std::vector<PracticeFile> wanted = std::move(found.missing);
+  wanted.insert(wanted.end(), found.older.begin(), found.older.end());
+  wanted.insert(wanted.end(), found.newer.begin(), found.newer.end());
+  for (const PracticeFile& file : found.same) {
+    if (!isTrusted(file, kept, list)) wanted.push_back(file);
+  }
+  return wanted;
+}
+
+FileList without(FileList list, std::span<const PracticeFile> files) {
+  for (const PracticeFile& file : files) list.erase(file.name.string());
+  return list;
 }
 
 // Columns of a table that hold paths of pictures and clips.
@@ -153,25 +212,6 @@ std::vector<PracticeFile> practiceFiles(const fs::path& root, const fs::path& ex
   return files;
 }
 
-Status copyFiles(const fs::path& from, const fs::path& to, std::span<const PracticeFile> files,
-                 FileCopies& copies, const Progress& progress) {
-  std::int64_t all = 0;
-  for (const PracticeFile& file : files) all += file.bytes;
-  std::int64_t before = 0;
-  bool goOn = true;
-  for (const PracticeFile& file : files) {
-    const auto share = [&](std::int64_t done, std::int64_t) {
-      return goOn = !progress || progress(std::min(before + done, all), all);
-    };
-    Status status = copyOne(from, to, file, share);
-    if (!goOn || status.fault() == dao::Fault::DiskFull) return status;
-    status ? ++copies.copied : ++copies.failed;
-    if (!status && copies.failed == 1) copies.fault = status;
-    before += file.bytes;
-  }
-  return {};
-}
-
 FileComparison compareFiles(std::span<const PracticeFile> files, const fs::path& other) {
   FileComparison found;
   for (const PracticeFile& file : files) {
@@ -183,20 +223,62 @@ FileComparison compareFiles(std::span<const PracticeFile> files, const fs::path&
     } else if (there->written < file.written - sameTime ||
                there->bytes != static_cast<std::uintmax_t>(file.bytes)) {
       found.older.push_back(file);
+    } else {
+      found.same.push_back(file);
     }
   }
   return found;
 }
 
-// A file that somebody put back from elsewhere has an old date, and has changed as well.
+// While a file is being replaced the list is silent about it: a work that is killed must not leave
+// a new file with the checksum of the old one, which would be taken for damage.
 Status backUpFiles(const fs::path& programFolder, const fs::path& into, FileCopies& copies,
                    const Progress& progress) {
   const fs::path kept = into / backupFilesFolder;
-  FileComparison changed = compareFiles(practiceFiles(programFolder, into), kept);
-  std::vector<PracticeFile> files = std::move(changed.missing);
-  files.insert(files.end(), changed.older.begin(), changed.older.end());
-  files.insert(files.end(), changed.newer.begin(), changed.newer.end());
-  return copyFiles(programFolder, kept, files, copies, progress);
+  FileList onDisk = readFileList(kept);
+  FileList list = onDisk;
+  std::erase_if(list, [&](const auto& entry) { return !stateOf(kept / entry.first); });
+  const auto files = filesToBackUp(practiceFiles(programFolder, into), kept, list);
+  const auto store = [&](const FileList& wanted) -> Status {
+    if (wanted == onDisk) return {};
+    onDisk = wanted;
+    return writeFileList(kept, wanted);
+  };
+  if (Status silent = store(without(list, files)); !silent) return silent;
+  FileList written;
+  Status status = copyFiles({programFolder, kept, {}}, files, copies, written, progress);
+  written.merge(list);
+  Status told = store(written);
+  return status ? told : status;
+}
+
+Status restoreFiles(const fs::path& backup, const fs::path& programFolder,
+                    std::span<const PracticeFile> files, FileCopies& copies,
+                    const Progress& progress) {
+  const fs::path kept = backup / backupFilesFolder;
+  FileList written;
+  return copyFiles({kept, programFolder, readFileList(kept)}, files, copies, written, progress);
+}
+
+dao::Result<FileCheck> checkFiles(const fs::path& backup, const Progress& progress) {
+  const fs::path kept = backup / backupFilesFolder;
+  const std::vector<PracticeFile> files = practiceFiles(kept);
+  const FileList list = readFileList(kept);
+  const FileList missing = without(list, files);
+  FileCheck check{std::ssize(files), 0, std::ssize(missing)};
+  bool goOn = true;
+  const auto share = [&](std::int64_t done, std::int64_t total) {
+    return goOn = !progress || progress(done, total);
+  };
+  for (const PracticeFile& file : files) {
+    const ListedFile* entry = entryOf(list, file);
+    if (entry == nullptr) continue;
+    const bool good =
+        entry->bytes == file.bytes && checksumOf(kept / file.name, share) == entry->checksum;
+    if (!goOn) return std::unexpected(Status(dao::Fault::Other, "The work was stopped."));
+    if (!good) ++check.damaged;
+  }
+  return check;
 }
 
 dao::Result<std::int64_t> picturesElsewhere(const fs::path& programFolder) {

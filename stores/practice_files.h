@@ -31,27 +31,40 @@ struct FileCopies {
   std::int64_t failed = 0;
   dao::Status fault;  // of the first that failed
 };
-// Brings the files to the same places below the other root, each written beside, compared with its
-// source, and renamed. Never writes through a link that leads out of that root. Ends early when the
-// disk is full or the work was stopped; what was copied by then stays. Progress counts bytes.
-[[nodiscard]] dao::Status copyFiles(const std::filesystem::path& from,
-                                    const std::filesystem::path& to,
-                                    std::span<const PracticeFile> files, FileCopies& copies,
-                                    const Progress& progress = {});
-
 // The files of one root as they stand to those of another: by size and time.
 struct FileComparison {
   std::vector<PracticeFile> missing;  // in the other root
   std::vector<PracticeFile> older;    // there
   std::vector<PracticeFile> newer;
+  std::vector<PracticeFile> same;
 };
 [[nodiscard]] FileComparison compareFiles(std::span<const PracticeFile> files,
                                           const std::filesystem::path& other);
 
-// Brings what is new or has changed in the practice into the backup; takes nothing out of it.
+// Both write each file beside its place, compare it with its source, and rename it; never through a
+// link that leads out of the other root. They end early when the disk is full or the work was
+// stopped; what was copied by then stays. Progress counts bytes.
+
+// Brings what is new or has changed in the practice into the backup, and anew what was damaged
+// there; takes nothing out of it. Lists what is there.
 [[nodiscard]] dao::Status backUpFiles(const std::filesystem::path& programFolder,
                                       const std::filesystem::path& into, FileCopies& copies,
                                       const Progress& progress = {});
+// A file that is not as the list of the backup tells fails as Damaged.
+[[nodiscard]] dao::Status restoreFiles(const std::filesystem::path& backup,
+                                       const std::filesystem::path& programFolder,
+                                       std::span<const PracticeFile> files, FileCopies& copies,
+                                       const Progress& progress = {});
+
+// The files of a backup as they stand to its list; one that is not listed is only counted.
+struct FileCheck {
+  std::int64_t files = 0;
+  std::int64_t damaged = 0;
+  std::int64_t missing = 0;  // listed, and not there
+};
+// Reads them all. Other when the work was stopped; progress counts the bytes of each file.
+[[nodiscard]] dao::Result<FileCheck> checkFiles(const std::filesystem::path& backup,
+                                                const Progress& progress = {});
 
 // How many pictures and clips the records name that do not lie where practiceFiles() looks.
 [[nodiscard]] dao::Result<std::int64_t> picturesElsewhere(

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "platform/files/copy_file.h"
-#include "stores/practice_files.h"
 #include "stores/store_kinds.h"
 #include "stores/visit_ledger.h"
 
@@ -102,8 +101,10 @@ dao::Result<DrillReport> restoreDrill(const fs::path& backup, const fs::path& sc
     if (!good) return std::unexpected(good);
   }
   auto report = reportOn(folder.path());
-  if (report)
-    report->files = static_cast<std::int64_t>(practiceFiles(backup / backupFilesFolder).size());
+  if (!report) return report;
+  const auto checked = checkFiles(backup, progress);
+  if (!checked) return std::unexpected(checked.error());
+  report->files = *checked;
   return report;
 }
 

@@ -8,6 +8,7 @@
 
 #include "platform/dao/database.h"
 #include "platform/text/date.h"
+#include "stores/practice_files.h"
 #include "stores/progress.h"
 
 namespace stores {
@@ -16,13 +17,14 @@ namespace stores {
 struct DrillReport {
   std::int64_t patients = 0;
   std::int64_t records = 0;  // dated ones of all kinds
-  std::int64_t files = 0;    // letterhead, documents, pictures
+  FileCheck files;           // letterhead, documents, pictures
   std::optional<text::DateTime> lastExamination;
 };
 
-// Copies the backup into a new folder below `scratch`, checks every store of it and counts; the
-// folder is gone afterwards, whatever happened. The backup itself is only read. The Smoking store
-// may be missing. Faults are those of checkCopy and of copying.
+// Copies the backup into a new folder below `scratch`, checks every store of it, reads the
+// files that it lists, and counts; the folder is gone afterwards, whatever happened. The backup
+// itself is only read. The Smoking store may be missing. Faults are those of checkCopy and of
+// copying.
 [[nodiscard]] dao::Result<DrillReport> restoreDrill(const std::filesystem::path& backup,
                                                     const std::filesystem::path& scratch,
                                                     const Progress& progress = {});

@@ -245,10 +245,22 @@ TEST_F(Restore, TheDrillTakesTheStoresThemselvesForNoBackup) {
   main.mnuyedekdene.press();
 }
 
-TEST_F(Restore, TheDrillTellsWhatWouldComeBack) {
+TEST_F(Restore, TheDrillTellsWhatWouldComeBackAndWhatIsDamaged) {
   desk.host.expect("1 hasta, 0 kayıt; son muayene: yok", host::Answer::Ok);
   main.mnuyedekdene.press();
   EXPECT_EQ(cards(), 2);
+  fs::create_directories(folder / "Copies/Files/Image");
+  std::ofstream(folder / "Copies/Files/Image/a.jpg") << "broken";
+  std::ofstream(folder / "Copies/Files/checksums.txt")
+      << "00000000000000aa 6 0 Image/a.jpg\n00000000000000aa 6 0 Image/b.jpg\n";
+  desk.host.expect("Resim ve belge: 1; bunların 1 tanesi bozuk, ayrıca 1 tanesi eksik",
+                   host::Answer::Ok);
+  main.mnuyedekdene.press();
+  answer(host::Answer::No, host::Answer::No);
+  desk.host.expect("1 tanesi burada yok", host::Answer::Yes);
+  desk.host.expect("1 resim veya belge geri getirilemedi. Bir dosya bozuk", host::Answer::Ok);
+  main.mnugeriyukle.press();
+  EXPECT_FALSE(fs::exists(folder / "Image/a.jpg"));
 }
 
 TEST_F(Restore, AnotherStationThatSavesKeepsEverythingAsItIs) {
