@@ -20,11 +20,17 @@ namespace {
 
 constexpr QChar dottedI{0x130};
 
-QChar letterBehindMark(const QString& text) {
+// Where the mark stands; -1 without one.
+qsizetype markIn(const QString& text) {
   qsizetype mark = text.indexOf(QLatin1Char('&'));
   while (mark >= 0 && mark + 1 < text.size() && text[mark + 1] == QLatin1Char('&'))
     mark = text.indexOf(QLatin1Char('&'), mark + 2);
-  return mark >= 0 && mark + 1 < text.size() ? text[mark + 1] : QChar();
+  return mark + 1 < text.size() ? mark : -1;
+}
+
+QChar letterBehindMark(const QString& text) {
+  const qsizetype mark = markIn(text);
+  return mark >= 0 ? text[mark + 1] : QChar();
 }
 
 // Alt and the key of the letter I, for the one text of a window whose mark the toolkit does not
@@ -60,20 +66,26 @@ class DottedKey : public QShortcut {
   std::function<void()> reach_;
 };
 
-// The texts of a window that share its letters: a text whose letters are all taken gets one from
-// another text that has a second choice.
+// The texts of a window that share its letters. A text that has its letter keeps it, so that a
+// letter goes on meaning what it meant when something else is shown; of the others, a text whose
+// letters are all taken gets one from another text that has a second choice.
 class SharedLetters {
  public:
   using Show = std::function<void(const QString& marked)>;
 
   void take(QChar letter) { taken_.insert(letter); }
   void add(const QString& text, Show show) {
-    if (!text.isEmpty()) texts_.push_back({withoutMnemonic(text), std::move(show)});
+    if (text.isEmpty()) return;
+    texts_.push_back({withoutMnemonic(text), std::move(show)});
+    const QChar letter = markedLetter(text);
+    if (letter.isNull() || taken_.contains(letter)) return;
+    taken_.insert(letter);
+    texts_.back().mark = withoutMnemonic(text.left(markIn(text))).size();
   }
   void share() {
     for (std::size_t text = 0; text < texts_.size(); ++text) {
       QSet<QChar> asked = taken_;
-      give(text, asked);
+      if (texts_[text].mark < 0) give(text, asked);
     }
     for (const Text& text : texts_) text.show(withMnemonicAt(text.words, text.mark));
   }

@@ -1,5 +1,7 @@
 #include "desktop/bind/bind_menu.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 
@@ -106,6 +108,22 @@ TEST(MenuBinding, AMarkedDottedIAnswersToTheKeyOfTheI) {
     support::press(key, {}, typed);
     EXPECT_EQ(hand.presses, shifted ? 2 : 1);
   }
+}
+
+TEST(CaptionMarks, StayWhereTheyAreWhenSomethingElseIsShown) {
+  QWidget window;
+  QLineEdit fields[2];
+  QLabel age(QStringLiteral("Ab"), &window);
+  QLabel name(QStringLiteral("Abc"), &window);
+  age.setBuddy(&fields[0]);
+  name.setBuddy(&fields[1]);
+  age.hide();
+  window.show();
+  desktop::markCaptions(window);
+  EXPECT_EQ(name.text(), QStringLiteral("&Abc"));
+  age.show();
+  desktop::markCaptions(window);
+  EXPECT_EQ(name.text() + age.text(), QStringLiteral("&AbcA&b"));
 }
 
 TEST(MenuBinding, EntriesFollowTheirControls) {
