@@ -195,12 +195,26 @@ void CatalogueScreen::Yeni() {
 }
 
 bool CatalogueScreen::QueryUnload() {
-  if (mnukaydet.enabled() && !settleName()) return false;
-  return NamedRecordScreen::QueryUnload();
+  const bool closes = mayLoseComposed() && (!mnukaydet.enabled() || settleName()) &&
+                      NamedRecordScreen::QueryUnload();
+  composedMayGo_ = composedMayGo_ && closes;
+  return closes;
 }
 
 bool CatalogueScreen::mayEscape() {
-  return (!mnukaydet.enabled() || settleName()) && NamedRecordScreen::mayEscape();
+  return mayLoseComposed() && (!mnukaydet.enabled() || settleName()) &&
+         NamedRecordScreen::mayEscape();
+}
+
+bool CatalogueScreen::mayLoseComposed() {
+  composedMayGo_ = composedMayGo_ || !holdsComposed() ||
+                   istasyon.confirmLoss(phrase(istasyon, Phrase::LoseTyped));
+  return composedMayGo_;
+}
+
+void CatalogueScreen::closeByButton() {
+  composedMayGo_ = true;
+  istasyon.host.close(*this);
 }
 
 // A record that was typed with more than its name is stored at closing without a question.
@@ -213,7 +227,8 @@ bool CatalogueScreen::settleName() {
   if (!stored || *stored == old) {
     answer = istasyon.askAboutText(old.empty()
                                        ? doldurulmus(istasyon, Phrase::StoreUnknown, {name})
-                                       : old + ", " + name + metinbul(istasyon, "msgisimdegisti"));
+                                       : old + ", " + name + metinbul(istasyon, "msgisimdegisti"),
+                                   host::Stake::Both);
   }
   isimAlani().setText(answer == host::Answer::No ? text::trim(old) : name);
   if (answer == host::Answer::Yes) store();

@@ -58,6 +58,10 @@ class CatalogueScreen : public shell::NamedRecordScreen {
   void beginWith(const std::string& name);
   // What stands beside a name that is not stored belongs to it from now on.
   void own();
+  // Whether a text is being composed that would go with the window.
+  [[nodiscard]] virtual bool holdsComposed() { return false; }
+  // Closes a window whose composed text was handed over or is not wanted: nobody is asked about it.
+  void closeByButton();
   // The record on the screen was chosen in the list, and its name was not touched since.
   [[nodiscard]] bool chosenInList() { return chosen_ && typedName() == owner_; }
 
@@ -71,6 +75,7 @@ class CatalogueScreen : public shell::NamedRecordScreen {
   [[nodiscard]] std::optional<std::string> known(std::string_view name);
   [[nodiscard]] bool onlySearched();
   [[nodiscard]] bool settleName();
+  [[nodiscard]] bool mayLoseComposed();
   [[nodiscard]] std::string others();
 
   Completion completion_ = Completion::None;
@@ -79,6 +84,7 @@ class CatalogueScreen : public shell::NamedRecordScreen {
   std::string storedOthers_;         // what stands beside it, as it is stored
   bool following_ = false;           // the list follows what is typed: nobody chose the row
   bool chosen_ = false;
+  bool composedMayGo_ = false;
 };
 
 }  // namespace exam

@@ -27,7 +27,7 @@ FrmDemand::FrmDemand(shell::Station& station)
   Lsttest.ItemCheck.connect([this] { tuskontrol(); });
   buttasi.setDefault();
   buttamam.Click.connect([this] { aktar(); });
-  Butİptal.Click.connect([this] { istasyon.host.close(*this); });
+  Butİptal.Click.connect([this] { closeByButton(); });
 }
 
 void FrmDemand::Load() {
@@ -61,8 +61,7 @@ void FrmDemand::istemetestekle() {
   Names tests = ticked();
   if (!addTyped(tests) || tests.empty()) return;
   if (othersChanged() && !mayReplace(tests.back())) return;
-  for (const std::string& test : tests) addToRequest(test);
-  for (std::size_t row = 0; row < Lsttest.count(); ++row) Lsttest.setSelected(row, false);
+  addToRequest(tests);
   alanlaribosalt();
 }
 
@@ -76,17 +75,13 @@ bool FrmDemand::addTyped(Names& tests) {
   return test.has_value();
 }
 
-void FrmDemand::addToRequest(const std::string& test) {
-  const bool there = txtistem.text().find(test) != std::string::npos;
-  if (there && !istasyon.evetMi(test + metinbul(istasyon, "msgtestoncedenyazildi"))) return;
-  txtistem.setText(txtistem.text().empty() ? test : txtistem.text() + ", " + test);
-}
-
-// A composed request goes with the window.
-bool FrmDemand::mayEscape() {
-  const bool composed = !txtistem.text().empty();
-  return (!composed || istasyon.confirmLoss(phrase(istasyon, shell::Phrase::LoseTyped))) &&
-         TestCatalogueScreen::mayEscape();
+void FrmDemand::addToRequest(const Names& tests) {
+  for (const std::string& test : tests) {
+    const bool there = txtistem.text().find(test) != std::string::npos;
+    if (there && !istasyon.evetMi(test + metinbul(istasyon, "msgtestoncedenyazildi"))) continue;
+    txtistem.setText(txtistem.text().empty() ? test : txtistem.text() + ", " + test);
+  }
+  for (std::size_t row = 0; row < Lsttest.count(); ++row) Lsttest.setSelected(row, false);
 }
 
 void FrmDemand::Yazılar(documents::ReportText& yazı) {
@@ -96,9 +91,11 @@ void FrmDemand::Yazılar(documents::ReportText& yazı) {
   yazı.yaz(txtistem.text());
 }
 
+// What is ticked was meant to be requested.
 void FrmDemand::aktar() {
+  addToRequest(ticked());
   kabulEdildi_ = true;
-  istasyon.host.close(*this);
+  closeByButton();
   kabulEdildi_ = false;
 }
 

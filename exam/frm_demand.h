@@ -36,10 +36,14 @@ class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
     return text::shortDate(istasyon.clock.today());
   }
 
-  [[nodiscard]] bool mayEscape() override;
   void Load() override;
   void Unload() override;
   void tuskontrol() override;
+
+ protected:
+  [[nodiscard]] bool holdsComposed() override {
+    return !txtistem.text().empty() || !ticked().empty();
+  }
 
  private:
   using Names = std::vector<std::string>;
@@ -47,7 +51,7 @@ class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
   [[nodiscard]] Names ticked() const;
   // Puts the test of the name field behind them; false when the user wants to look again.
   [[nodiscard]] bool addTyped(Names& tests);
-  void addToRequest(const std::string& test);
+  void addToRequest(const Names& tests);
   void aktar();
 
   bool kabulEdildi_ = false;

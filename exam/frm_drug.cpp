@@ -42,7 +42,7 @@ FrmDrug::FrmDrug(Station& station) : CatalogueScreen(station, "frmdrug", "txtesk
   txtrecete.Change.connect([this] { receteDegisti(); });
   mnusihirbaz.Click.connect([this] { sihirbazAc(); });
   buttamam.Click.connect([this] { kabul(); });
-  Butİptal.Click.connect([this] { istasyon.host.close(*this); });
+  Butİptal.Click.connect([this] { closeByButton(); });
 }
 
 std::span<const shell::FieldRow> FrmDrug::alanlar() const {
@@ -135,13 +135,6 @@ void FrmDrug::receteDegisti() {
   etkinlestir(mnusihirbaz, "sihirbaz", composed);
 }
 
-// A composed prescription goes with the window.
-bool FrmDrug::mayEscape() {
-  const bool composed = !txtrecete.text().empty();
-  return (!composed || istasyon.confirmLoss(phrase(istasyon, shell::Phrase::LoseTyped))) &&
-         CatalogueScreen::mayEscape();
-}
-
 void FrmDrug::Yazılar(documents::ReportText& yazı) {
   yazı.secyazitipi();
   yazı.yaz(lblRp.caption() + "\n\n");
@@ -157,7 +150,7 @@ void FrmDrug::sihirbazAc() {
 
 void FrmDrug::kabul() {
   kabulEdildi_ = true;
-  istasyon.host.close(*this);
+  closeByButton();
   kabulEdildi_ = false;
 }
 

@@ -49,7 +49,6 @@ class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
   [[nodiscard]] std::span<const shell::FieldRow> alanlar() const override;
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.clinical.drug; }
 
-  [[nodiscard]] bool mayEscape() override;
   void Load() override;
   void Unload() override;
   void alanlaribosalt() override;
@@ -73,6 +72,7 @@ class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
   void sihirbazAc();
 
  protected:
+  [[nodiscard]] bool holdsComposed() override { return !txtrecete.text().empty(); }
   [[nodiscard]] forms::TextControl& isimAlani() override { return txtilaç; }
   [[nodiscard]] dao::Database& veritabani() override { return istasyon.stores.clinical.database; }
   [[nodiscard]] forms::ListBox& list() override { return Lstilaç; }

@@ -62,6 +62,11 @@ struct Writing : testing::Test {
     if (found == nullptr) throw std::runtime_error("no widget " + std::string(control));
     return *found;
   }
+  void giveUp() {
+    click(find<QAbstractButton>("Butİptal"));
+    EXPECT_EQ(desk.host.windowOf(*form), nullptr);
+    form.reset();
+  }
   // Over what the focused field holds.
   void typeOver(const char* text) {
     press(Qt::Key_A, Qt::ControlModifier);
@@ -99,6 +104,10 @@ TEST_F(Writing, APrescriptionTakesEachDrugsOwnDosage) {
   typeOver("Parol");
   press(Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(drugs.txtrecete.text(), "1 - Parol   \n    S: Parol dosage");
+  // The cross does not take it away unasked; Cancel does.
+  desk.answers.expect(QMessageBox::No);
+  EXPECT_FALSE(window().close());
+  giveUp();
 }
 
 TEST_F(Writing, TheListShowsWhatFollowsTheMatch) {
@@ -170,6 +179,7 @@ TEST_F(Writing, TestsAreRequestedByTypingAndByTicking) {
   desk.answers.expect(QMessageBox::Yes);
   press(Qt::Key_Return);
   EXPECT_EQ(request.txtistem.text(), "CRP, AKŞ, TSH, CRP");
+  giveUp();
 }
 
 struct Heart : Writing {

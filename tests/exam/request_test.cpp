@@ -99,6 +99,12 @@ TEST_F(Requests, TickedTestsAreAddedTogether) {
   screen.txtistem.setText("");
   screen.buttasi.press();
   EXPECT_EQ(screen.txtistem.text(), "AKŞ");
+  // What is ticked when the request is accepted was meant to be in it.
+  screen.Lsttest.setSelected(2, true);
+  desk.host.expect("kaybolacak", host::Answer::No);
+  EXPECT_FALSE(screen.QueryUnload());
+  screen.buttamam.press();
+  EXPECT_EQ(desk.station.AktarilanMetin, "AKŞ, TSH");
 }
 
 TEST_F(Requests, ANewTestsDataAreNotLostByRequestingIt) {
