@@ -339,6 +339,7 @@ class FrmMain : public shell::RecordScreen,
 
   void yasGoster();
   void dogumBitti();
+  void writeBirthOut();
   void yasBitti();
   void yasSor();
   void cinsiyetYazildi();

@@ -22,17 +22,33 @@ void FrmMain::yasGoster() {
   txtyaşı.setCaption(age ? word + " :  " + *age : word);
 }
 
+// Whoever goes on from the birth field comes to the age; whoever went to a field of his own choice
+// stays there, and what he types next with him.
 void FrmMain::yasSor() {
   Txtyaş.setVisible(true);
-  Txtyaş.setFocus();
+  const forms::Control* const now = activeControl();
+  const bool goesOn = now == nullptr || now == &TxtDTarihi || now == &ComCinsiyet;
+  if (goesOn) Txtyaş.setFocus();
 }
 
 void FrmMain::dogumBitti() {
   if (birthUnchecked_ || !hatalitarih()) return;
+  writeBirthOut();
   yasGoster();
   const bool known =
       shell::yasmetni(istasyon, text::trim(TxtDTarihi.text()), istasyon.clock.today()).has_value();
-  if (!known) yasSor();
+  if (!known) return yasSor();
+  Txtyaş.setText("");
+  Txtyaş.setVisible(false);
+}
+
+// A date stands in the field as it will be read from the store: a short one would be taken for a
+// year.
+void FrmMain::writeBirthOut() {
+  const std::string birth = text::trim(TxtDTarihi.text());
+  if (shell::yilMi(birth)) return;
+  if (const auto date = text::parseDate(birth, istasyon.clock.today()))
+    TxtDTarihi.setText(text::shortDate(*date));
 }
 
 bool FrmMain::hatalitarih() {

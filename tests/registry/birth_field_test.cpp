@@ -56,7 +56,25 @@ TEST_F(BirthField, ShowsTheAgeOrOffersToTypeIt) {
     main.focusMoved(&main.ComCinsiyet);
     EXPECT_EQ(main.txtyaşı.caption(), c.label);
     EXPECT_EQ(main.Txtyaş.visible(), c.askAge);
+    if (c.askAge) {
+      EXPECT_EQ(main.activeControl(), &main.Txtyaş);
+    }
   }
+}
+
+TEST_F(BirthField, GivesItsAgeBoxUpOnceADateIsThereAndPullsNobodyBack) {
+  main.Yeni();
+  main.TxtDTarihi.setText("31.04.1980");
+  main.focusMoved(&main.TxtDTarihi);
+  main.focusMoved(&main.TxtAnaAdı);
+  EXPECT_TRUE(main.Txtyaş.visible());
+  EXPECT_EQ(main.activeControl(), &main.TxtAnaAdı);
+  main.focusMoved(&main.TxtDTarihi);
+  main.TxtDTarihi.setText("1.4.80");
+  main.focusMoved(&main.ComCinsiyet);
+  EXPECT_EQ(main.TxtDTarihi.text(), "01.04.1980");
+  EXPECT_FALSE(main.Txtyaş.visible());
+  EXPECT_EQ(main.activeControl(), &main.ComCinsiyet);
 }
 
 TEST_F(BirthField, TakesTheYearFromATypedAge) {
