@@ -57,6 +57,13 @@ char32_t typedCharacter(const QKeyEvent& event) {
   return typed[0];
 }
 
+forms::Key keyOf(int key, Qt::KeyboardModifiers held) {
+  return {.code = codeOf(key),
+          .shift = held.testFlag(Qt::ShiftModifier),
+          .control = held.testFlag(Qt::ControlModifier),
+          .alt = held.testFlag(Qt::AltModifier)};
+}
+
 class KeyForwarder : public QObject {
  public:
   KeyForwarder(QObject& parent, forms::TextControl& control,
@@ -80,6 +87,8 @@ class KeyForwarder : public QObject {
 
  private:
   bool pressed(const QKeyEvent& event) {
+    pressedKey_ = event.key();
+    pressedWith_ = event.modifiers();
     const char32_t typed = typedCharacter(event);
     if (typed == 0) return false;
     char32_t kept = typed;
@@ -90,20 +99,22 @@ class KeyForwarder : public QObject {
   }
 
   void released(const QKeyEvent& event) {
-    if (!event.isAutoRepeat()) control_.KeyUp(keyOf(event));
+    if (event.isAutoRepeat()) return;
+    // Ctrl may come up first: a key is what it was when it went down.
+    const bool same = event.key() == pressedKey_;
+    control_.KeyUp(keyOf(event.key(), same ? event.modifiers() | pressedWith_ : event.modifiers()));
   }
 
   forms::TextControl& control_;
   std::function<void(const QString&)> insert_;
+  int pressedKey_ = 0;
+  Qt::KeyboardModifiers pressedWith_;
 };
 
 }  // namespace
 
 forms::Key keyOf(const QKeyEvent& event) {
-  return {.code = codeOf(event.key()),
-          .shift = event.modifiers().testFlag(Qt::ShiftModifier),
-          .control = event.modifiers().testFlag(Qt::ControlModifier),
-          .alt = event.modifiers().testFlag(Qt::AltModifier)};
+  return keyOf(event.key(), event.modifiers());
 }
 
 void forwardKeys(Binding& binding, QWidget& widget, forms::TextControl& control,

@@ -94,6 +94,14 @@ TEST_F(TextBinding, KeysCarryTheNumbersOfTheScreens) {
     QCoreApplication::sendEvent(&line, &event);
     EXPECT_EQ(code, c.code) << c.text;
   }
+  // Ctrl may come up before the key that it was held for.
+  bool control = false;
+  form.line.KeyUp.connect([&](forms::Key key) { control = key.control; });
+  QTest::keyPress(&line, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyRelease(&line, Qt::Key_A, Qt::NoModifier);
+  EXPECT_TRUE(control);
+  QTest::keyClick(&line, Qt::Key_A);
+  EXPECT_FALSE(control);
 }
 
 TEST_F(TextBinding, SelectionGoesBothWaysInCharacters) {
