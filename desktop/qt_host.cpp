@@ -128,14 +128,16 @@ void QtHost::followLanguage() const {
 // Typed text is kept by Enter as by Esc; what exists is destroyed by neither.
 void QtHost::addButtons(QMessageBox& box, const host::Message& message) const {
   const auto add = [&](QMessageBox::StandardButton button, const QString& text) {
-    box.addButton(button)->setText(text);
+    box.addButton(button)->setText(QLatin1Char('&') + text);
   };
   if (message.buttons == host::Buttons::YesNo) {
     add(QMessageBox::Yes, word("Evet", "Yes"));
     add(QMessageBox::No, word("hayir", "No"));
-    const bool destroys = message.stake == host::Stake::Existing;
+    const bool destroys =
+        message.stake == host::Stake::Existing || message.stake == host::Stake::Both;
+    const bool guards = message.stake == host::Stake::Text || message.stake == host::Stake::Both;
     box.setDefaultButton(destroys ? QMessageBox::No : QMessageBox::Yes);
-    if (message.stake == host::Stake::Text) return leaveByCancel(box);
+    if (guards) return leaveByCancel(box);
     box.setEscapeButton(QMessageBox::No);
     return;
   }

@@ -161,8 +161,8 @@ void RecordScreen::kaydedilemedi(const dao::Status& refused) {
 
 bool RecordScreen::isimDegistiSor(forms::TextControl& field, const std::string& old) {
   if (old.empty() || old == field.text()) return true;
-  const host::Answer answer =
-      istasyon.askAboutText(old + ", " + field.text() + metinbul(istasyon, "msgisimdegisti"));
+  const host::Answer answer = istasyon.askAboutText(
+      old + ", " + field.text() + metinbul(istasyon, "msgisimdegisti"), host::Stake::Both);
   if (answer == host::Answer::No) field.setText(old);
   unanswered_ = answer == host::Answer::Cancel;
   return !unanswered_;

@@ -70,8 +70,8 @@ bool Station::confirmLoss(std::string_view question) {
          host::Answer::Yes;
 }
 
-host::Answer Station::askAboutText(std::string_view question) {
-  return mesaj(question, host::Buttons::YesNo, host::Icon::Question, host::Stake::Text);
+host::Answer Station::askAboutText(std::string_view question, host::Stake stake) {
+  return mesaj(question, host::Buttons::YesNo, host::Icon::Question, stake);
 }
 
 void Station::bilgi(std::string_view text) {

@@ -100,7 +100,8 @@ struct Station {
   // The same where Yes deletes or overwrites something: No is the default.
   [[nodiscard]] bool confirmLoss(std::string_view question);
   // A question on which typed text hangs: Cancel means that everything stays as it is.
-  [[nodiscard]] host::Answer askAboutText(std::string_view question);
+  [[nodiscard]] host::Answer askAboutText(std::string_view question,
+                                          host::Stake stake = host::Stake::Text);
   void bilgi(std::string_view text);
   // Opens a screen by its name and waits until it is closed. `prepare` sets up the loaded screen
   // before it is seen. When this version has no such screen, says so under the caption of the menu

@@ -19,9 +19,10 @@ enum class Answer { Ok, Cancel, Yes, No };
 
 // What hangs on a question with Yes and No decides what Enter and Esc answer to it.
 enum class Stake {
-  None,     // Enter is Yes, Esc is No
-  Text,     // typed text is lost by No: Enter is Yes, Esc and the box's cross are Cancel
-  Existing  // Yes deletes or overwrites what is there: Enter and Esc are No
+  None,      // Enter is Yes, Esc is No
+  Text,      // typed text is lost by No: Enter is Yes, Esc and the box's cross are Cancel
+  Existing,  // Yes deletes or overwrites what is there: Enter and Esc are No
+  Both       // Yes overwrites, No loses what was typed: Enter is No, Esc and the cross are Cancel
 };
 
 struct Message {

@@ -41,7 +41,8 @@ TEST(Host, KeysNeverLoseWhatHangsOnAQuestion) {
   };
   for (const Case& c : {Case{host::Stake::None, Answer::Yes, Answer::No},
                         Case{host::Stake::Text, Answer::Yes, Answer::Cancel},
-                        Case{host::Stake::Existing, Answer::No, Answer::No}}) {
+                        Case{host::Stake::Existing, Answer::No, Answer::No},
+                        Case{host::Stake::Both, Answer::No, Answer::Cancel}}) {
     SCOPED_TRACE(static_cast<int>(c.stake));
     WindowDesk desk;
     desk.answers.look = [](QMessageBox& box) {

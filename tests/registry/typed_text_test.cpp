@@ -115,7 +115,7 @@ TEST_F(TypedText, StaysWhenTheRenameIsNotAnswered) {
     main.Txtİsim.setText("Ali Canan");
     desk.host.expect(rename, Answer::Cancel);
     way.go();
-    EXPECT_EQ(desk.host.asked.back().stake, host::Stake::Text);
+    EXPECT_EQ(desk.host.asked.back().stake, host::Stake::Both);
     EXPECT_EQ(main.Txtİsim.text(), "Ali Canan");
     EXPECT_EQ(main.TxtEskiİsim.text(), "Ali Can");
     EXPECT_TRUE(main.mnukaydet.enabled());
