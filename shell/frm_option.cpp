@@ -46,9 +46,20 @@ FrmOption::FrmOption(Station& station) : Form("FrmOption"), istasyon(station) {
     AyarKaydet();
     ListKaydet();
     BaşlıkKaydet();
+    if (!baslikDegisti_) istasyon.host.close(*this);
+  });
+  Butİptal.Click.connect([this] {
+    cancelled_ = true;
     istasyon.host.close(*this);
   });
-  Butİptal.Click.connect([this] { istasyon.host.close(*this); });
+}
+
+bool FrmOption::mayEscape() {
+  return !baslikDegisti_ || istasyon.confirmLoss(phrase(istasyon, Phrase::LoseTyped));
+}
+
+bool FrmOption::QueryUnload() {
+  return cancelled_ || mayEscape();
 }
 
 void FrmOption::Load() {

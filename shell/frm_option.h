@@ -68,6 +68,9 @@ class FrmOption : public forms::Form {
   forms::CommandButton Butİptal{*this, "Butİptal"};
 
   void Load() override;
+  // A changed letterhead is given up by the button alone; Esc and the cross ask.
+  [[nodiscard]] bool mayEscape() override;
+  [[nodiscard]] bool QueryUnload() override;
 
   void AyarKaydet();
   void ListeleriKaydet();
@@ -105,6 +108,7 @@ class FrmOption : public forms::Form {
   void resmiSakla(forms::Picture& shown, std::string_view target);
 
   Station& istasyon;
+  bool cancelled_ = false;
   forms::ComboBox* secilen_ = nullptr;
   bool baslikDegisti_ = false;
 };

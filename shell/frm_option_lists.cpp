@@ -96,6 +96,8 @@ void FrmOption::degerDegistir() {
 
 void FrmOption::degerSil() {
   if (secilen_ == nullptr || secilen_->listIndex() < 0) return;
+  if (!istasyon.confirmLoss(secilen_->text() + "\n" + metinbul(istasyon, "msgsilinecekkayit")))
+    return;
   degistir(stores::deleteValue(istasyon.stores.personal, secilenTablo(), secilen_->text()), {});
 }
 

@@ -287,6 +287,7 @@ TEST_F(Card, EachListOfTheOptionsHasItsOwnButtons) {
   click("Meslek: Düzen", "Ebe");
   EXPECT_EQ(options.ComMeslek.items(), std::vector<std::string>{"Ebe"});
   EXPECT_FALSE(button("Hitap: Sil").isEnabled());
+  desk.answers.expect(QMessageBox::Yes);
   click("Meslek: Sil", "");
   EXPECT_TRUE(options.ComMeslek.items().empty());
   desk.host.close(options);

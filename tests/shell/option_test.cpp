@@ -66,6 +66,10 @@ TEST_F(Options, AListIsEditedInItsTable) {
             std::vector<std::string>{"Başhemşire"});
   options.ListKaydet();
   EXPECT_EQ(main.ComMeslek.items(), std::vector<std::string>{"Başhemşire"});
+  desk.host.expect("Başhemşire", host::Answer::No);
+  options.mnusil.press();
+  EXPECT_EQ(options.ComMeslek.items().size(), 1U);
+  desk.host.expect("Başhemşire", host::Answer::Yes);
   options.mnusil.press();
   EXPECT_TRUE(stores::values(desk.station.stores.personal, "Profession").empty());
   EXPECT_FALSE(options.mnusil.enabled());
@@ -91,6 +95,13 @@ TEST_F(Options, TheLetterheadIsKeptAsRichText) {
   EXPECT_EQ(again.rtfText.editor().text(), "Dr. Şükrü Işık");
   EXPECT_TRUE(again.rtfText.editor().document().formatAt(5).bold);
   EXPECT_FALSE(again.rtfText.editor().document().formatAt(0).bold);
+  // A change is given up by the button alone.
+  EXPECT_TRUE(again.QueryUnload());
+  again.rtfText.edit([](richtext::Editor& e) { e.insert("Prof. "); });
+  desk.host.expect("kaybolacak", host::Answer::No);
+  EXPECT_FALSE(again.QueryUnload());
+  again.Butİptal.press();
+  EXPECT_EQ(desk.host.closed.back(), "FrmOption");
 }
 
 TEST_F(Options, AHostileLetterheadSaysSoAndIsLeftAlone) {
