@@ -31,6 +31,7 @@ std::string fileName(std::string title) {
 
 FrmPrinter::FrmPrinter(shell::Station& station, std::string title)
     : Form("frmprinter"), istasyon(station), title_(std::move(title)) {
+  buttamam.setDefault();
   buttamam.Click.connect([this] { sec(); });
   Butİptal.Click.connect([this] { istasyon.host.close(*this); });
 }

@@ -65,7 +65,7 @@ void RowChoice::show() {
 }
 
 bool RowChoice::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == view_.viewport()) return onViewport(*event);
+  if (watched == viewport_) return onViewport(*event);
   if (event->type() != QEvent::KeyPress) return false;
   return keyPressed(static_cast<QKeyEvent*>(event)->key());
 }

@@ -45,6 +45,8 @@ class RowChoice : public QObject {
   void markedByKey(const QModelIndex& current);
 
   QAbstractItemView& view_;
+  // A view that is being destroyed has events to the last, and no viewport to be asked for.
+  const QObject* const viewport_ = view_.viewport();
   Deeds deeds_;
   QPersistentModelIndex pressed_;
   bool held_ = false;     // the left button is down
