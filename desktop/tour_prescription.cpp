@@ -64,7 +64,7 @@ SamplePrescription::SamplePrescription(QtHost& host, shell::Station& istasyon)
 SamplePrescription::~SamplePrescription() {
   if (preview_) host_.close(*preview_);
   if (wizard_) host_.close(*wizard_);
-  host_.close(drugs_);
+  drugs_.Butİptal.press();  // the prescription was for the picture
   for (const std::string& file : drawn_) QFile::remove(qs(file));
 }
 

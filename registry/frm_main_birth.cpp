@@ -71,7 +71,7 @@ void FrmMain::yasBitti() {
     txtyaşı.setCaption(metinbul(istasyon, "yasi") + " :  " + std::to_string(*age));
     Txtyaş.setText("");
     Txtyaş.setVisible(false);
-  } else if (Txtyaş.text().empty()) {
+  } else if (Txtyaş.text().empty() && Txtyaş.visible()) {
     txtyaşı.setCaption("");
   }
 }

@@ -51,6 +51,11 @@ void DatedRecordScreen::Load() {
   lblisim.setCaption(istasyon.SeciliHasta);
 }
 
+void DatedRecordScreen::basliklariYenile() {
+  RecordScreen::basliklariYenile();
+  liste.setToolTip(phrase(istasyon, Phrase::NoRecordsYet));
+}
+
 void DatedRecordScreen::hastaDegisti() {
   lblhasta.setCaption(hastaBandi(istasyon, lblisim.caption()));
   const dao::Status listed = VTarihler();

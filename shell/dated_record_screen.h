@@ -70,6 +70,7 @@ class DatedRecordScreen : public RecordScreen {
   [[nodiscard]] bool kaydedilebilir() override { return !lblisim.caption().empty(); }
   [[nodiscard]] bool temizlenebilir() override;
   void kayitYuklendi() override;
+  void basliklariYenile() override;
   // New values of the screen's lists go into their tables; part of the save.
   virtual void listelereEkle() {}
   // Before another record of the list replaces what is on the screen; false keeps it.

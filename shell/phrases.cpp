@@ -32,6 +32,8 @@ constexpr auto phraseRows = std::to_array<Row>({
     {Phrase::NameTaken, "another station has just stored a patient of this name",
      "başka bir istasyon bu isimde bir hasta kaydetti"},
     {Phrase::Stop, "Stop", "Durdur"},
+    {Phrase::NoRecordsYet, "No records yet. What you write and save is listed here by its date.",
+     "Henüz kayıt yok. Yazıp kaydettikleriniz burada tarihiyle durur."},
     {Phrase::HiddenCount, "hidden: ", "gizli: "},
     {Phrase::SaveAllCards, "Save All Cards Anew", "Tüm Kartları Yeniden Kaydet"},
     {Phrase::CardsSaved, "Cards saved anew: ", "Yeniden kaydedilen kart: "},

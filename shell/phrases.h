@@ -25,6 +25,7 @@ enum class Phrase {
   RecordGone,
   NameTaken,
   Stop,
+  NoRecordsYet,
   HiddenCount,  // a number follows
   SaveAllCards,
   CardsSaved,  // a number follows

@@ -31,6 +31,13 @@ void addActions(QToolBar& bar, const forms::Toolbar& control) {
   }
 }
 
+// What a main window's bar does stands in its menus too; any other bar is all that the keyboard
+// has.
+Qt::FocusPolicy focusOf(const QToolBar& bar) {
+  return qobject_cast<const QMainWindow*>(bar.parentWidget()) != nullptr ? Qt::NoFocus
+                                                                         : Qt::TabFocus;
+}
+
 void refreshButton(QToolBar& bar, QAction& action, const ToolButton& button) {
   const QString name = qs(button.toolTip);
   action.setText(name);
@@ -42,6 +49,7 @@ void refreshButton(QToolBar& bar, QAction& action, const ToolButton& button) {
   if (QWidget* const widget = bar.widgetForAction(&action)) {
     widget->setObjectName(qs(button.key));
     widget->setAccessibleName(name);
+    widget->setFocusPolicy(focusOf(bar));
   }
 }
 
@@ -71,10 +79,16 @@ void refreshBar(QToolBar& bar, const forms::Toolbar& control) {
 }
 
 // Bars among other controls, such as those over a text, have no room for words.
+Qt::ToolButtonStyle styleOf(const QToolBar& bar, const forms::Toolbar& control) {
+  const QWidget* const around = bar.parentWidget();
+  if (control.words() == forms::ButtonWords::Hidden || around == nullptr || !around->isWindow())
+    return Qt::ToolButtonIconOnly;
+  return qobject_cast<const QMainWindow*>(around) != nullptr ? Qt::ToolButtonTextUnderIcon
+                                                             : Qt::ToolButtonTextBesideIcon;
+}
+
 void refreshWords(QToolBar& bar, const forms::Toolbar& control) {
-  const bool shown = control.words() == forms::ButtonWords::Shown &&
-                     qobject_cast<QMainWindow*>(bar.parentWidget()) != nullptr;
-  bar.setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+  bar.setToolButtonStyle(styleOf(bar, control));
 }
 
 // The user's choice holds for the bars of all windows.

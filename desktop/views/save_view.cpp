@@ -39,10 +39,10 @@ QVBoxLayout* chooser(shell::FrmSave& form, QWidget& window) {
   QWidget* const drive = makeWidget(form.Drive1, window);
   places->addWidget(captionFor(*drive));
   places->addWidget(drive, 1);
+  column->addLayout(places);
   auto* const tools = new QToolBar(&window);
   bind(*tools, form.tbToolBar);
-  places->addWidget(tools);
-  column->addLayout(places);
+  column->addWidget(tools);
   auto* const open = new ElidedLabel(&window);
   bind(static_cast<QLabel&>(*open), form.LDizin);
   column->addWidget(open);
