@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "platform/files/checksum.h"
 #include "platform/files/replace.h"
 #include "platform/text/codepage.h"
 #include "platform/text/utf8.h"
@@ -29,9 +30,7 @@ constexpr std::ptrdiff_t nameWidth = 40;
 
 // The same in every station, whatever machine it runs on.
 std::uint64_t fingerprint(std::string_view text) {
-  std::uint64_t hash = 14695981039346656037U;
-  for (const char byte : text) hash = (hash ^ static_cast<unsigned char>(byte)) * 1099511628211U;
-  return hash;
+  return files::checksum(text);
 }
 
 void empty(const std::string& path) {

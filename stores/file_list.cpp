@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/files/atomic_write.h"
+#include "platform/files/checksum.h"
 #include "platform/files/folders.h"
 #include "stores/store_kinds.h"
 
@@ -19,12 +20,6 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t longestList = std::size_t{32} << 20U;
 constexpr std::size_t blockSize = std::size_t{1} << 18U;
-
-// FNV-1a.
-std::uint64_t continued(std::uint64_t hash, std::string_view bytes) {
-  for (const char byte : bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
-  return hash;
-}
 
 std::string firstBytes(const fs::path& file, std::size_t most) {
   const auto state = stateOf(file);
@@ -67,11 +62,11 @@ std::optional<std::uint64_t> checksumOf(const fs::path& file, const Progress& pr
   std::ifstream stream(file, std::ios::binary);
   if (!state || !stream) return std::nullopt;
   std::string block(blockSize, '\0');
-  std::uint64_t hash = 0xCBF29CE484222325U;
+  std::uint64_t hash = files::noBytes;
   std::int64_t done = 0;
   while (stream) {
     stream.read(block.data(), blockSize);
-    hash = continued(hash, std::string_view(block).substr(0, std::size_t(stream.gcount())));
+    hash = files::checksum(std::string_view(block).substr(0, std::size_t(stream.gcount())), hash);
     done += stream.gcount();
     if (progress && !progress(done, static_cast<std::int64_t>(state->bytes))) return std::nullopt;
   }
