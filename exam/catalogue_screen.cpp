@@ -14,6 +14,16 @@ namespace exam {
 using shell::doldurulmus;
 using shell::Phrase;
 
+std::string kabulEdilen(std::string_view prescription) {
+  constexpr std::string_view dropped = "\n  ";
+  std::string text;
+  for (const char character : prescription) {
+    text += character;
+    if (text.ends_with(dropped)) text.resize(text.size() - dropped.size());
+  }
+  return text;
+}
+
 void CatalogueScreen::connectList(Completion completion) {
   completion_ = completion;
   list().Click.connect([this] { rowChosen(); });
@@ -212,9 +222,17 @@ bool CatalogueScreen::mayLoseComposed() {
   return composedMayGo_;
 }
 
-void CatalogueScreen::closeByButton() {
+void CatalogueScreen::closeByButton(Composed what) {
   composedMayGo_ = true;
+  handsOver_ = what == Composed::HandedOver;
   istasyon.host.close(*this);
+  handsOver_ = false;
+}
+
+// What was accepted is handed over by a window that did close.
+void CatalogueScreen::Unload() {
+  if (handsOver_) istasyon.AktarilanMetin = kabulEdilen(composed());
+  NamedRecordScreen::Unload();
 }
 
 // A record that was typed with more than its name is stored at closing without a question.

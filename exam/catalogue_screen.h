@@ -18,6 +18,10 @@ namespace exam {
 
 enum class Completion { None, WhileTyping };
 
+// The composed text as it goes into the therapy: a line break that two blanks follow is taken out
+// together with them, so that each drug ends up on a line of its own.
+[[nodiscard]] std::string kabulEdilen(std::string_view prescription);
+
 class CatalogueScreen : public shell::NamedRecordScreen {
  public:
   using NamedRecordScreen::NamedRecordScreen;
@@ -27,6 +31,7 @@ class CatalogueScreen : public shell::NamedRecordScreen {
   // A name that stands alone, or over the fields of another record, is asked about first.
   [[nodiscard]] bool QueryUnload() override;
   [[nodiscard]] bool mayEscape() override;
+  void Unload() override;
 
  protected:
   [[nodiscard]] virtual forms::ListBox& list() = 0;
@@ -58,10 +63,13 @@ class CatalogueScreen : public shell::NamedRecordScreen {
   void beginWith(const std::string& name);
   // What stands beside a name that is not stored belongs to it from now on.
   void own();
-  // Whether a text is being composed that would go with the window.
-  [[nodiscard]] virtual bool holdsComposed() { return false; }
-  // Closes a window whose composed text was handed over or is not wanted: nobody is asked about it.
-  void closeByButton();
+  // The text that is being composed for the caller.
+  [[nodiscard]] virtual std::string composed() { return {}; }
+  // Whether something of it would go with the window.
+  [[nodiscard]] virtual bool holdsComposed() { return !composed().empty(); }
+  enum class Composed { HandedOver, GivenUp };
+  // Closes the window without a question about what was composed.
+  void closeByButton(Composed what);
   // The record on the screen was chosen in the list, and its name was not touched since.
   [[nodiscard]] bool chosenInList() { return chosen_ && typedName() == owner_; }
 
@@ -85,6 +93,7 @@ class CatalogueScreen : public shell::NamedRecordScreen {
   bool following_ = false;           // the list follows what is typed: nobody chose the row
   bool chosen_ = false;
   bool composedMayGo_ = false;
+  bool handsOver_ = false;  // while the window closes by its accepting button
 };
 
 }  // namespace exam

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "exam/frm_drug.h"
 #include "platform/text/utf8.h"
 #include "shell/phrases.h"
 #include "shell/record_date.h"
@@ -27,7 +26,7 @@ FrmDemand::FrmDemand(shell::Station& station)
   Lsttest.ItemCheck.connect([this] { tuskontrol(); });
   buttasi.setDefault();
   buttamam.Click.connect([this] { aktar(); });
-  Butİptal.Click.connect([this] { closeByButton(); });
+  Butİptal.Click.connect([this] { closeByButton(Composed::GivenUp); });
 }
 
 void FrmDemand::Load() {
@@ -42,11 +41,6 @@ void FrmDemand::tuskontrol() {
   buttasi.setEnabled(!typedName().empty() || !ticked().empty());
   mnuonizleme.setEnabled(!txtistem.text().empty());
   etkinlestir(mnuyazdır, "Print", !txtistem.text().empty());
-}
-
-void FrmDemand::Unload() {
-  if (kabulEdildi_) istasyon.AktarilanMetin = kabulEdilen(txtistem.text());
-  TestCatalogueScreen::Unload();
 }
 
 FrmDemand::Names FrmDemand::ticked() const {
@@ -94,9 +88,7 @@ void FrmDemand::Yazılar(documents::ReportText& yazı) {
 // What is ticked was meant to be requested.
 void FrmDemand::aktar() {
   addToRequest(ticked());
-  kabulEdildi_ = true;
-  closeByButton();
-  kabulEdildi_ = false;
+  closeByButton(Composed::HandedOver);
 }
 
 }  // namespace exam

@@ -37,12 +37,12 @@ class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
   }
 
   void Load() override;
-  void Unload() override;
   void tuskontrol() override;
 
  protected:
+  [[nodiscard]] std::string composed() override { return txtistem.text(); }
   [[nodiscard]] bool holdsComposed() override {
-    return !txtistem.text().empty() || !ticked().empty();
+    return TestCatalogueScreen::holdsComposed() || !ticked().empty();
   }
 
  private:
@@ -53,8 +53,6 @@ class FrmDemand : public TestCatalogueScreen, public documents::PrintedRecord {
   [[nodiscard]] bool addTyped(Names& tests);
   void addToRequest(const Names& tests);
   void aktar();
-
-  bool kabulEdildi_ = false;
 };
 
 }  // namespace exam

@@ -17,16 +17,6 @@ namespace {
 constexpr const char* letterheadNameAndDate = "3";
 }
 
-std::string kabulEdilen(std::string_view prescription) {
-  constexpr std::string_view dropped = "\n  ";
-  std::string text;
-  for (const char character : prescription) {
-    text += character;
-    if (text.ends_with(dropped)) text.resize(text.size() - dropped.size());
-  }
-  return text;
-}
-
 FrmDrug::FrmDrug(Station& station) : CatalogueScreen(station, "frmdrug", "txteskiilaç") {
   sırano.setVisible(false);
   baski.lblsablonno.setCaption(letterheadNameAndDate);
@@ -41,8 +31,8 @@ FrmDrug::FrmDrug(Station& station) : CatalogueScreen(station, "frmdrug", "txtesk
   buttasi.Click.connect([this] { Reçeteyeilaçekle(); });
   txtrecete.Change.connect([this] { receteDegisti(); });
   mnusihirbaz.Click.connect([this] { sihirbazAc(); });
-  buttamam.Click.connect([this] { kabul(); });
-  Butİptal.Click.connect([this] { closeByButton(); });
+  buttamam.Click.connect([this] { closeByButton(Composed::HandedOver); });
+  Butİptal.Click.connect([this] { closeByButton(Composed::GivenUp); });
 }
 
 std::span<const shell::FieldRow> FrmDrug::alanlar() const {
@@ -65,12 +55,6 @@ void FrmDrug::Load() {
   sırano.setCaption("0");
   İlaçlistele();
   alanlaribosalt();
-}
-
-// What was accepted is handed over by a window that did close.
-void FrmDrug::Unload() {
-  if (kabulEdildi_) istasyon.AktarilanMetin = kabulEdilen(txtrecete.text());
-  CatalogueScreen::Unload();
 }
 
 // --- The catalogue
@@ -146,12 +130,6 @@ void FrmDrug::sihirbazAc() {
   istasyon.ekranAc("frmwizarddrug", mnusihirbaz.caption(), [this](forms::Form& form) {
     dynamic_cast<documents::FrmWizardDrug&>(form).receteAl(txtrecete.text());
   });
-}
-
-void FrmDrug::kabul() {
-  kabulEdildi_ = true;
-  closeByButton();
-  kabulEdildi_ = false;
 }
 
 }  // namespace exam

@@ -17,10 +17,6 @@ namespace exam {
 
 using shell::Station;
 
-// The prescription as it goes into the therapy: a line break that two blanks follow is taken out
-// together with them, so that each drug ends up on a line of its own.
-[[nodiscard]] std::string kabulEdilen(std::string_view prescription);
-
 class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
   static constexpr int noRecord = 0;
 
@@ -50,7 +46,6 @@ class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
   [[nodiscard]] dao::Recordset& tablo() override { return istasyon.stores.clinical.drug; }
 
   void Load() override;
-  void Unload() override;
   void alanlaribosalt() override;
   void tuskontrol() override;
 
@@ -72,7 +67,7 @@ class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
   void sihirbazAc();
 
  protected:
-  [[nodiscard]] bool holdsComposed() override { return !txtrecete.text().empty(); }
+  [[nodiscard]] std::string composed() override { return txtrecete.text(); }
   [[nodiscard]] forms::TextControl& isimAlani() override { return txtilaç; }
   [[nodiscard]] dao::Database& veritabani() override { return istasyon.stores.clinical.database; }
   [[nodiscard]] forms::ListBox& list() override { return Lstilaç; }
@@ -84,10 +79,7 @@ class FrmDrug : public CatalogueScreen, public documents::PrintedRecord {
 
  private:
   [[nodiscard]] bool ikinciKezMi(const std::string& name);
-  void kabul();
   void receteDegisti();
-
-  bool kabulEdildi_ = false;
 };
 
 }  // namespace exam
