@@ -20,6 +20,8 @@ constexpr auto reasons = std::to_array<Reason>({
     {Fault::DiskFull, Phrase::NoRoom},
     {Fault::ReadOnly, Phrase::NotWritable},
     {Fault::Damaged, Phrase::FileDamaged},
+    {Fault::NotAFile, Phrase::NotAPlainFile},
+    {Fault::TooLarge, Phrase::FileTooLarge},
     {Fault::Unsupported, Phrase::OtherFile},
     {Fault::Busy, Phrase::FileInUse},
     {Fault::Exists, Phrase::AlreadyThere},

@@ -280,6 +280,11 @@ constexpr auto phraseRows = std::to_array<Row>({
      "whenever they are to be shown.",
      "Gizli hastalar için henüz şifre yok. Şimdi seçeceğiniz şifre, gizli hastalar gösterilmek "
      "istendiğinde sorulacak."},
+    {Phrase::NotAPlainFile,
+     "There is a link, a folder or a device where a file should be. It was not touched.",
+     "Bir dosyanın yerinde bağlantı, klasör ya da aygıt var. Ona dokunulmadı."},
+    {Phrase::FileTooLarge, "A file is far larger than it can be, and was not read.",
+     "Bir dosya olabileceğinden çok daha büyük; okunmadı."},
 });
 
 }  // namespace

@@ -158,7 +158,9 @@ enum class Phrase {
   LockHidden,    // again
   ChooseHidden,  // who is hidden
   HiddenAsked,   // what the password is good for
-  HiddenNotSet   // and that there is none yet
+  HiddenNotSet,  // and that there is none yet
+  NotAPlainFile,
+  FileTooLarge
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

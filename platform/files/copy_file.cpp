@@ -46,12 +46,11 @@ Status transfer(const End& from, const End& to, const CopyProgress& progress) {
 
 }  // namespace
 
-Status copyFile(const path& from, const path& to, const CopyProgress& progress) {
-  auto source = Descriptor::open(from, O_RDONLY);
+Status copyFile(const path& from, const path& to, const CopyProgress& progress, Links links) {
+  auto source = Descriptor::openFile(from, O_RDONLY, links);
   if (!source) return source.error();
-  auto copy = Descriptor::open(to, O_WRONLY | O_CREAT | O_EXCL);
+  auto copy = Descriptor::openFile(to, O_WRONLY | O_CREAT | O_EXCL, Links::Refused, privateMode);
   if (!copy) return copy.error();
-  (void)::fchmod(copy->number(), S_IRUSR | S_IWUSR);
   Status status = transfer({std::move(*source), from}, {std::move(*copy), to}, progress);
   if (!status) (void)::unlink(to.c_str());
   return status;

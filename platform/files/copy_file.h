@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "platform/files/descriptor.h"
 #include "platform/status/status.h"
 
 namespace files {
@@ -13,10 +14,11 @@ namespace files {
 using CopyProgress = std::function<bool(std::int64_t done, std::int64_t total)>;
 
 // Writes a new file and brings it to the disk; nobody but its owner may read it, until its
-// permissions are changed. Exists when there is a file of that name. On a fault nothing is left of
-// the copy; Other when it was stopped.
+// permissions are changed. `links` is for the source. Exists when there is a file of that name. On
+// a fault nothing is left of the copy; Other when it was stopped.
 [[nodiscard]] platform::Status copyFile(const std::filesystem::path& from,
                                         const std::filesystem::path& to,
-                                        const CopyProgress& progress = {});
+                                        const CopyProgress& progress = {},
+                                        Links links = Links::Refused);
 
 }  // namespace files

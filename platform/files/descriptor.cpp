@@ -15,13 +15,35 @@ namespace files {
 using platform::Result;
 using platform::Status;
 
-Result<Descriptor> Descriptor::open(const std::filesystem::path& path, int flags) {
+namespace {
+
+Result<Descriptor> openAny(const std::filesystem::path& path, int flags, mode_t mode) {
   int number = -1;
   do {
-    number = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+    number = ::open(path.c_str(), flags | O_CLOEXEC, mode);
   } while (number < 0 && errno == EINTR);
   if (number < 0) return std::unexpected(systemFault(path, errno));
   return Descriptor{number};
+}
+
+}  // namespace
+
+// Emptied only when it is known to be a plain file.
+Result<Descriptor> Descriptor::openFile(const std::filesystem::path& path, int flags, Links links,
+                                        mode_t mode) {
+  const int follow = links == Links::Refused ? O_NOFOLLOW : 0;
+  auto file = openAny(path, (flags & ~O_TRUNC) | follow | O_NONBLOCK | O_NOCTTY, mode);
+  if (!file) return file;
+  struct stat state = {};
+  if (::fstat(file->number(), &state) != 0) return std::unexpected(systemFault(path, errno));
+  if (!S_ISREG(state.st_mode)) return std::unexpected(systemFault(path, ELOOP));
+  if ((flags & O_TRUNC) != 0 && ::ftruncate(file->number(), 0) != 0)
+    return std::unexpected(systemFault(path, errno));
+  return file;
+}
+
+Result<Descriptor> Descriptor::openFolder(const std::filesystem::path& path) {
+  return openAny(path.empty() ? std::filesystem::path(".") : path, O_RDONLY | O_DIRECTORY, 0);
 }
 
 Descriptor::Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
@@ -54,11 +76,13 @@ Status writeAll(const Descriptor& file, const std::filesystem::path& path, std::
 bool isNamed(const Descriptor& file, const std::filesystem::path& path) {
   struct stat held = {};
   struct stat named = {};
-  if (::fstat(file.number(), &held) != 0 || ::stat(path.c_str(), &named) != 0) return false;
+  if (::fstat(file.number(), &held) != 0 || ::lstat(path.c_str(), &named) != 0) return false;
   return held.st_dev == named.st_dev && held.st_ino == named.st_ino;
 }
 
 Status systemFault(const std::filesystem::path& path, int error) {
+  if (platform::faultOf(error) == platform::Fault::NotAFile)
+    return {platform::Fault::NotAFile, path.string() + ": this is no plain file."};
   return {platform::faultOf(error), path.string() + ": " + std::generic_category().message(error)};
 }
 

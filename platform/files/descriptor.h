@@ -1,6 +1,8 @@
 // An open file of the operating system, closed when its owner goes.
 #pragma once
 
+#include <sys/types.h>
+
 #include <filesystem>
 #include <string_view>
 
@@ -8,10 +10,21 @@
 
 namespace files {
 
+// Whether a symbolic link may stand for the file that is meant. In a folder that others may write
+// to, a link can lead to any file of this user's.
+enum class Links { Refused, Followed };
+
+inline constexpr mode_t sharedMode = 0666;   // as far as the user's mask lets it be
+inline constexpr mode_t privateMode = 0600;  // this user alone
+
 class Descriptor {
  public:
-  // `flags` and a mode of 0666 as open(2) takes them; never inherited by started programs.
-  static platform::Result<Descriptor> open(const std::filesystem::path& path, int flags);
+  // A plain file: NotAFile for everything else, which is neither waited for nor created, emptied or
+  // written to. `flags` and `mode` as open(2) takes them; never inherited by started programs.
+  static platform::Result<Descriptor> openFile(const std::filesystem::path& path, int flags,
+                                               Links links = Links::Refused,
+                                               mode_t mode = sharedMode);
+  static platform::Result<Descriptor> openFolder(const std::filesystem::path& path);
 
   Descriptor() = default;
   explicit Descriptor(int number) : number_(number) {}
@@ -31,7 +44,8 @@ class Descriptor {
 [[nodiscard]] platform::Status writeAll(const Descriptor& file, const std::filesystem::path& path,
                                         std::string_view bytes);
 
-// Whether the open file is the one that the path names now; nobody may have deleted or replaced it.
+// Whether the open file is the one that the path itself names now; nobody may have deleted or
+// replaced it.
 [[nodiscard]] bool isNamed(const Descriptor& file, const std::filesystem::path& path);
 
 // The fault that an errno value stands for, with a text that names the file.

@@ -15,7 +15,7 @@ using platform::Status;
 constexpr ByteRange stationByte{std::int64_t{1} << 41, 1};
 
 Result<Descriptor> openOrCreate(const std::filesystem::path& path) {
-  return Descriptor::open(path, O_RDWR | O_CREAT);
+  return Descriptor::openFile(path, O_RDWR | O_CREAT);
 }
 
 }  // namespace

@@ -15,10 +15,10 @@ using platform::Result;
 using platform::Status;
 
 Result<RecordFile> RecordFile::open(const std::filesystem::path& path, std::size_t recordLength) {
-  auto file = Descriptor::open(path, O_RDWR | O_CREAT);
+  auto file = Descriptor::openFile(path, O_RDWR | O_CREAT);
   if (file) return RecordFile{std::move(*file), path, recordLength, true};
   if (file.error().fault() != Fault::ReadOnly) return std::unexpected(file.error());
-  auto reading = Descriptor::open(path, O_RDONLY);
+  auto reading = Descriptor::openFile(path, O_RDONLY);
   if (!reading) return std::unexpected(file.error());
   return RecordFile{std::move(*reading), path, recordLength, false};
 }

@@ -23,8 +23,12 @@ path behindLinks(const path& target) {
 
 Status replaceFile(const path& draft, const path& target) {
   struct stat old = {};
-  if (::stat(target.c_str(), &old) == 0 && ::chmod(draft.c_str(), old.st_mode & 07777) != 0)
-    return systemFault(draft, errno);
+  if (::lstat(target.c_str(), &old) == 0) {
+    if (!S_ISREG(old.st_mode)) return systemFault(target, ELOOP);
+    const auto file = Descriptor::openFile(draft, O_RDONLY);
+    if (!file) return file.error();
+    if (::fchmod(file->number(), old.st_mode & 07777) != 0) return systemFault(draft, errno);
+  }
   if (::rename(draft.c_str(), target.c_str()) != 0) return systemFault(target, errno);
   flushFolder(target.parent_path());
   return {};
@@ -32,15 +36,16 @@ Status replaceFile(const path& draft, const path& target) {
 
 // The group goes first: changing it may take away permissions.
 void shareLike(const path& file, const path& model) {
+  const auto handle = Descriptor::openFile(file, O_RDONLY);
   struct stat shared = {};
-  if (::stat(model.c_str(), &shared) != 0) return;
-  (void)!::chown(file.c_str(), static_cast<uid_t>(-1), shared.st_gid);
-  (void)::chmod(file.c_str(), shared.st_mode & 0666);
+  if (!handle || ::stat(model.c_str(), &shared) != 0 || !S_ISREG(shared.st_mode)) return;
+  (void)!::fchown(handle->number(), static_cast<uid_t>(-1), shared.st_gid);
+  (void)::fchmod(handle->number(), shared.st_mode & 0666);
 }
 
 // Without this the new name may be lost with a power cut.
 void flushFolder(const path& folder) {
-  const auto handle = Descriptor::open(folder.empty() ? path{"."} : folder, O_RDONLY | O_DIRECTORY);
+  const auto handle = Descriptor::openFolder(folder);
   if (handle) (void)::fsync(handle->number());
 }
 

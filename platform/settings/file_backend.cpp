@@ -46,7 +46,8 @@ class Turn {
  public:
   static Result<Turn> take(const path& settings) {
     const path name = beside(settings, ".lock");
-    auto file = files::Descriptor::open(name, O_RDWR | O_CREAT);
+    auto file = files::Descriptor::openFile(name, O_RDWR | O_CREAT, files::Links::Followed,
+                                            files::privateMode);
     if (!file) return std::unexpected(file.error());
     // The place at the head of the queue: without it a writer that writes again at once would be
     // there before those who look for their turn only every now and then.
@@ -79,7 +80,7 @@ bool FileBackend::isChanged() const {
 Status FileBackend::remember() {
   seen_.reset();
   loaded_ = true;
-  auto file = files::Descriptor::open(path_, O_RDONLY);
+  auto file = files::Descriptor::openFile(path_, O_RDONLY, files::Links::Followed);
   if (!file && file.error().fault() == Fault::Missing) return {};
   if (!file) return file.error();
   Seen seen{std::move(*file), {}};
@@ -126,7 +127,10 @@ Result<Values> FileBackend::update(const Change& change) {
 }
 
 Status FileBackend::store(const Values& values) {
-  if (Status status = files::writeAtomically(path_, toText(values)); !status) return status;
+  if (Status status =
+          files::writeAtomically(path_, toText(values), files::Links::Followed, files::privateMode);
+      !status)
+    return status;
   return remember();
 }
 

@@ -22,6 +22,8 @@ enum class Fault {
   ReadOnly,     // the file or folder cannot be written
   DiskFull,     // no room left
   Damaged,      // the content is not what its format promises
+  NotAFile,     // a link, pipe, device or folder where a plain file is expected
+  TooLarge,     // a file beyond all that this program writes
   Unsupported,  // a request that this seam does not serve
   Other
 };

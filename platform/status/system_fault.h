@@ -26,6 +26,10 @@ namespace platform {
     case EAGAIN:
     case EBUSY:
       return Fault::Busy;
+    case ELOOP:  // a link that must not be followed
+    case EISDIR:
+    case ENXIO:
+      return Fault::NotAFile;
     case EINVAL:
     case ENOLCK:
     case EOPNOTSUPP:

@@ -1,10 +1,8 @@
 #include "platform/files/atomic_write.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
-
+#include "tests/platform/files/full_disk.h"
 #include "tests/platform/files/temporary_folder.h"
 #include "tests/support/ordinary_user.h"
 
@@ -41,32 +39,13 @@ TEST(AtomicWrite, KeepsPermissionsAndLinks) {
   fill(folder / "real", "old");
   std::filesystem::permissions(folder / "real", std::filesystem::perms{0640});
   std::filesystem::create_symlink("real", folder / "link");
-  EXPECT_TRUE(files::writeAtomically(folder / "link", "new"));
+  EXPECT_EQ(files::writeAtomically(folder / "link", "new").fault(), Fault::NotAFile);
+  EXPECT_EQ(contentOf(folder / "real"), "old");
+  EXPECT_TRUE(files::writeAtomically(folder / "link", "new", files::Links::Followed));
   EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
   EXPECT_EQ(contentOf(folder / "real"), "new");
   EXPECT_EQ(std::filesystem::status(folder / "real").permissions(), std::filesystem::perms{0640});
 }
-
-// The file size limit stands for a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  void (*handler_)(int);
-  rlimit before_{};
-};
 
 TEST(AtomicWrite, AFullDiskLeavesTheOldFile) {
   const TemporaryFolder folder;

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "tests/platform/files/child_process.h"
+#include "tests/platform/files/full_disk.h"
 #include "tests/platform/files/temporary_folder.h"
 #include "tests/support/ordinary_user.h"
 
@@ -141,16 +142,18 @@ TEST(RecordFile, SaysWhyItCannotOpen) {
   std::filesystem::permissions(folder.path(), std::filesystem::perms{0555});
   EXPECT_EQ(RecordFile::open(folder / "none/a.dat", 4).error().fault(), Fault::Missing);
   const auto directory = RecordFile::open(folder.path(), 4);
-  EXPECT_EQ(directory.error().fault(), Fault::Other);
+  EXPECT_EQ(directory.error().fault(), Fault::NotAFile);
   EXPECT_NE(directory.error().text().find(folder.path().string()), std::string::npos);
   const support::OrdinaryUser user;
   EXPECT_EQ(RecordFile::open(folder / "a.dat", 4).error().fault(), Fault::ReadOnly);
 }
 
 TEST(RecordFile, SaysThatTheDiskIsFull) {
-  auto file = RecordFile::open("/dev/full", 4);
+  const TemporaryFolder folder;
+  auto file = RecordFile::open(folder / "a.dat", 4);
   ASSERT_TRUE(file);
-  EXPECT_EQ(file->put(1, record("aaaa")).fault(), Fault::DiskFull);
+  const FullDisk full(2);
+  EXPECT_EQ(file->put(2, record("aaaa")).fault(), Fault::DiskFull);
 }
 
 TEST(RecordFile, LocksOneRecordForOneHandle) {

@@ -1,0 +1,23 @@
+// Reading a whole file that somebody else may have put there.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+#include "platform/files/descriptor.h"
+#include "platform/status/status.h"
+
+namespace files {
+
+inline constexpr std::size_t megabyte = std::size_t{1} << 20U;
+inline constexpr std::chrono::seconds readingPatience{5};
+
+// The bytes of a plain file. TooLarge when it has more than `most`, NotAFile for a pipe, a device
+// or a folder, Busy when a slow disk or share takes longer than `patience`.
+[[nodiscard]] platform::Result<std::string> readFile(
+    const std::filesystem::path& path, std::size_t most, Links links = Links::Refused,
+    std::chrono::milliseconds patience = readingPatience);
+
+}  // namespace files
