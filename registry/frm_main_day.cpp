@@ -88,6 +88,7 @@ void FrmMain::gunlukMuayenebul() {
   istasyon.SeciliHasta = name;
   if (!hastaoku()) return;
   Eskialanmain();
+  if (gizliYuklu_) return gunlukListele();  // hidden since the list was made
   istasyon.SeciliTarih = gun_;
   muayenetus();
   istasyon.SeciliTarih.reset();

@@ -22,6 +22,7 @@ constexpr auto reasons = std::to_array<Reason>({
     {Fault::Damaged, Phrase::FileDamaged},
     {Fault::NotAFile, Phrase::NotAPlainFile},
     {Fault::TooLarge, Phrase::FileTooLarge},
+    {Fault::Failed, Phrase::WorkFailed},
     {Fault::Unsupported, Phrase::OtherFile},
     {Fault::Busy, Phrase::FileInUse},
     {Fault::Exists, Phrase::AlreadyThere},

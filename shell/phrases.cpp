@@ -285,6 +285,8 @@ constexpr auto phraseRows = std::to_array<Row>({
      "Bir dosyanın yerinde bağlantı, klasör ya da aygıt var. Ona dokunulmadı."},
     {Phrase::FileTooLarge, "A file is far larger than it can be, and was not read.",
      "Bir dosya olabileceğinden çok daha büyük; okunmadı."},
+    {Phrase::WorkFailed, "The computer could not carry out the work.",
+     "Bilgisayar işi yerine getiremedi."},
 });
 
 }  // namespace

@@ -21,7 +21,7 @@ Status keepDamaged(const fs::path& store, StoreCare& care) {
   kept += ".damaged";
   std::error_code error;
   fs::copy_file(store, kept, fs::copy_options::overwrite_existing, error);
-  if (error) return {Fault::Other, kept.filename().string() + ": " + error.message()};
+  if (error) return {Fault::Failed, kept.filename().string() + ": " + error.message()};
   care.kept = kept.filename().string();
   return {};
 }

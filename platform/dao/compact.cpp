@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <functional>
 #include <map>
@@ -10,6 +11,8 @@
 #include "platform/dao/database.h"
 #include "platform/dao/engine.h"
 #include "platform/dao/snapshot.h"
+#include "platform/dao/store_files.h"
+#include "platform/status/system_fault.h"
 
 namespace dao {
 namespace {
@@ -61,11 +64,20 @@ Result<RowCounts> rowCounts(Engine& engine) {
 }
 
 Status flushed(const fs::path& path) {
-  const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  const int file = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
   const bool done = file >= 0 && ::fsync(file) == 0;
   if (file >= 0) ::close(file);
-  return done ? Status()
-              : Status(Fault::Other, nameOf(path) + ": the file could not be brought to the disk.");
+  return done
+             ? Status()
+             : Status(Fault::Failed, nameOf(path) + ": the file could not be brought to the disk.");
+}
+
+Status makeEmpty(const fs::path& path) {
+  const int file = ::open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
+  if (file < 0) return {platform::faultOf(errno), nameOf(path) + ": the file cannot be made."};
+  ::close(file);
+  allowFolder(path.parent_path());
+  return {};
 }
 
 class Compaction {
@@ -166,6 +178,8 @@ Status Compaction::keepLocked(Engine& source) {
 }
 
 Result<RowCounts> Compaction::write(Engine& source) {
+  // The engine would make the file for everybody to read.
+  if (Status made = makeEmpty(to_); !made) return std::unexpected(std::move(made));
   source.whileRunning(written_);
   const auto done = source.run("VACUUM INTO ?", nameOf(from_), {to_.string()});
   if (!done) return std::unexpected(done.error());

@@ -19,7 +19,7 @@ Transaction::~Transaction() {
 }
 
 Status Transaction::commit() {
-  if (!engine_) return {Fault::Other, "This transaction has ended."};
+  if (!engine_) return {Fault::Failed, "This transaction has ended."};
   const auto engine = std::move(engine_);
   return engine->commit();
 }

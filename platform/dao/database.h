@@ -52,7 +52,9 @@ class Impatience {
   std::shared_ptr<Engine> engine_;
 };
 
-enum class Access { ReadWrite, ReadOnly };
+// Still: for a file that nobody has open, such as a backup. It is read without locks and without
+// its journal; one that has a journal of unfinished work beside it is Damaged.
+enum class Access { ReadWrite, ReadOnly, Still };
 
 struct OpenOptions {
   Access access = Access::ReadWrite;

@@ -6,6 +6,7 @@
 
 #include "platform/dao/engine_fault.h"
 #include "platform/dao/engine_functions.h"
+#include "platform/dao/store_files.h"
 
 namespace dao {
 namespace {
@@ -25,6 +26,64 @@ std::int64_t markOf(Order order) {
 }
 
 constexpr std::uintmax_t kSmallestPage = 512;
+
+// What a store's file may ask of the engine. Others may have written it.
+constexpr int kLongestText = 64 << 20;
+constexpr int kLongestStatement = 1 << 20;
+constexpr int kMostColumns = 500;
+constexpr int kMostAttached = 2;
+
+struct Setting {
+  int what;
+  int value;
+};
+
+void distrust(sqlite3* connection) {
+  constexpr std::array settings{
+      // A quoted name that is no field is a fault, never a text.
+      Setting{SQLITE_DBCONFIG_DQS_DML, 0},        Setting{SQLITE_DBCONFIG_DQS_DDL, 0},
+      Setting{SQLITE_DBCONFIG_ENABLE_TRIGGER, 0}, Setting{SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+      Setting{SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0}, Setting{SQLITE_DBCONFIG_DEFENSIVE, 1}};
+  for (const Setting& each : settings)
+    sqlite3_db_config(connection, each.what, each.value, nullptr);
+  constexpr std::array limits{Setting{SQLITE_LIMIT_LENGTH, kLongestText},
+                              Setting{SQLITE_LIMIT_SQL_LENGTH, kLongestStatement},
+                              Setting{SQLITE_LIMIT_COLUMN, kMostColumns},
+                              Setting{SQLITE_LIMIT_ATTACHED, kMostAttached},
+                              Setting{SQLITE_LIMIT_TRIGGER_DEPTH, 1}};
+  for (const Setting& each : limits) sqlite3_limit(connection, each.what, each.value);
+}
+
+// As a name that promises that nobody changes the file: it is neither locked nor recovered.
+std::string stillName(const std::filesystem::path& path) {
+  constexpr std::string_view kHex = "0123456789ABCDEF";
+  std::string name = "file:";
+  for (const char each : path.string()) {
+    const auto byte = static_cast<unsigned char>(each);
+    const bool plain = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
+                       (byte >= '0' && byte <= '9') || byte == '/' || byte == '.' || byte == '-';
+    if (plain) {
+      name += each;
+    } else {
+      name += {'%', kHex[byte >> 4U], kHex[byte & 15U]};
+    }
+  }
+  return name + "?immutable=1";
+}
+
+// Of a work that was not brought to its end.
+bool hasJournal(const std::filesystem::path& path) {
+  for (const char* ending : {"-journal", "-wal"}) {
+    std::filesystem::path journal = path;
+    journal += ending;
+    std::error_code none;
+    const auto state = std::filesystem::symlink_status(journal, none);
+    const bool plain = std::filesystem::is_regular_file(state);
+    if (std::filesystem::exists(state) && (!plain || std::filesystem::file_size(journal, none) > 0))
+      return true;
+  }
+  return false;
+}
 
 // Nothing of it is left after a crash.
 constexpr std::string_view kScratchSettings =
@@ -79,7 +138,7 @@ Result<std::shared_ptr<Engine>> Engine::open(const std::filesystem::path& path,
 Result<std::shared_ptr<Engine>> Engine::scratch(const Engine& like) {
   auto engine = std::make_shared<Engine>(like.path_, like.order_);
   constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
-  if (sqlite3_open_v2("", &engine->handle_, flags, nullptr) != SQLITE_OK)
+  if (sqlite3_open_v2("", &engine->handle_, flags, storeFileSystem()) != SQLITE_OK)
     return std::unexpected(engine->fault(like.path_.filename().string()));
   sqlite3_exec(engine->handle_, kScratchSettings.data(), nullptr, nullptr, nullptr);
   if (Status ready = engine->prepareOrder(); !ready) return std::unexpected(std::move(ready));
@@ -87,14 +146,19 @@ Result<std::shared_ptr<Engine>> Engine::scratch(const Engine& like) {
 }
 
 Status Engine::connect(const OpenOptions& options) {
-  const bool readOnly = options.access == Access::ReadOnly || isMarkedReadOnly(path_);
-  const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX;
-  if (sqlite3_open_v2(path_.c_str(), &handle_, flags, nullptr) != SQLITE_OK)
+  const bool still = options.access == Access::Still;
+  const bool readOnly = still || options.access == Access::ReadOnly || isMarkedReadOnly(path_);
+  const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) |
+                    (still ? SQLITE_OPEN_URI : 0) | SQLITE_OPEN_NOMUTEX;
+  const std::string name = still ? stillName(path_) : path_.string();
+  if (still && hasJournal(path_))
+    return {Fault::Damaged, path_.filename().string() + ": a journal lies beside it."};
+  std::error_code unknown;
+  allowFolder(std::filesystem::canonical(path_, unknown).parent_path());
+  if (sqlite3_open_v2(name.c_str(), &handle_, flags, storeFileSystem()) != SQLITE_OK)
     return fault(path_.filename().string());
   sqlite3_extended_result_codes(handle_, 1);
-  // A quoted name that is no field is a fault, never a text.
-  sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-  sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+  distrust(handle_);
   usualPatience_ = options.busyTimeout;
   setPatience(usualPatience_);
   return {};
@@ -128,7 +192,8 @@ Status Engine::readMarks(const OpenOptions& options) {
 
 Status Engine::prepareOrder() {
   collator_ = std::make_unique<Collator>(order_);
-  if (!collator_->usable()) return {Fault::Other, "The collation rules of the system are missing."};
+  if (!collator_->usable())
+    return {Fault::Failed, "The collation rules of the system are missing."};
   if (addFunctions(handle_, order_, *collator_) != SQLITE_OK)
     return fault(path_.filename().string());
   return {};
@@ -138,7 +203,7 @@ Status Engine::useOrder(Order order) {
   if (!handle_) return closedFault();
   if (order == order_ || otherCollator_) return {};
   auto collator = std::make_unique<Collator>(order);
-  if (!collator->usable()) return {Fault::Other, "The collation rules of the system are missing."};
+  if (!collator->usable()) return {Fault::Failed, "The collation rules of the system are missing."};
   if (addCollation(handle_, order, *collator) != SQLITE_OK) return fault(path_.filename().string());
   otherCollator_ = std::move(collator);
   return {};
@@ -217,6 +282,7 @@ Status Engine::begin() {
     return {Fault::ReadOnly, path_.filename().string() + ": the file cannot be written."};
   if (depth_ == 0) {
     doomed_ = false;
+    cause_ = {};
     if (auto begun = run("BEGIN IMMEDIATE", path_.filename().string()); !begun)
       return begun.error();
   }
@@ -225,15 +291,19 @@ Status Engine::begin() {
 }
 
 Status Engine::commit() {
-  if (depth_ == 0) return {Fault::Other, "There is no open transaction."};
+  if (depth_ == 0) return {Fault::Failed, "There is no open transaction."};
   if (depth_ > 1) {
     --depth_;
     return {};
   }
   if (doomed_) {
     rollback();
-    return {Fault::Other,
+    return {Fault::Failed,
             path_.filename().string() + ": a part of the work was given up, so all of it was."};
+  }
+  if (isLost()) {
+    rollback();
+    return lostFault();
   }
   if (auto done = run("COMMIT", path_.filename().string()); !done) {
     rollback();
@@ -241,6 +311,21 @@ Status Engine::commit() {
   }
   depth_ = 0;
   return {};
+}
+
+bool Engine::isLost() const {
+  return depth_ > 0 && handle_ && sqlite3_get_autocommit(handle_);
+}
+
+Status Engine::lostFault() const {
+  return cause_ ? Status(Fault::Failed, path_.filename().string() + ": nothing was stored.")
+                : cause_;
+}
+
+Status Engine::stepFault(std::string_view subject) {
+  Status failed = fault(subject);
+  if (isLost() && cause_) cause_ = failed;
+  return failed;
 }
 
 void Engine::rollback() {
@@ -293,7 +378,10 @@ std::int64_t Engine::lastNumber() const {
 }
 
 Status Engine::fault(std::string_view subject) const {
-  return engineFault(handle_, subject);
+  const std::string refused = takeRefusedFile();
+  if (refused.empty()) return engineFault(handle_, subject);
+  return {Fault::Damaged, std::string(subject) + ": its journal names what is none of its files (" +
+                              refused + "). Nothing was done with it."};
 }
 
 std::string Engine::lastMessage() const {

@@ -93,6 +93,12 @@ class Engine {
   void rollback();
   [[nodiscard]] bool inTransaction() const { return depth_ > 0; }
 
+  // Whether the engine has given up the open transaction by itself, after a write that failed. What
+  // would still be written then would be kept at once, without the rest of it.
+  [[nodiscard]] bool isLost() const;
+  // Why.
+  [[nodiscard]] Status lostFault() const;
+
   // Lets this connection compare the texts of a store of another order.
   Status useOrder(Order order);
 
@@ -110,8 +116,9 @@ class Engine {
   [[nodiscard]] ChangeStamp changeStamp();
   [[nodiscard]] std::int64_t lastNumber() const;
 
-  // What the last call of the engine failed with.
+  // What the last call of the engine failed with; the second form is for statements.
   [[nodiscard]] Status fault(std::string_view subject) const;
+  [[nodiscard]] Status stepFault(std::string_view subject);
   // The engine's own words for it.
   [[nodiscard]] std::string lastMessage() const;
   [[nodiscard]] Status closedFault() const;
@@ -134,6 +141,7 @@ class Engine {
   bool marked_ = false;
   int depth_ = 0;
   bool doomed_ = false;
+  Status cause_;  // of a transaction that is lost
   std::int64_t rollbacks_ = 0;
   std::uint32_t counter_ = 0;
   std::chrono::steady_clock::time_point counterRead_{};

@@ -29,8 +29,11 @@ constexpr std::array kMeanings{
     Meaning{SQLITE_NOTADB, Fault::Damaged, "the file is damaged or is not a store."},
     Meaning{SQLITE_CANTOPEN, Fault::Missing, "the file cannot be opened."},
     Meaning{SQLITE_TOOBIG, Fault::TooLong, "the text is too long to be stored."},
-    Meaning{SQLITE_IOERR, Fault::Other, "the disk could not be read or written."},
-    Meaning{SQLITE_NOMEM, Fault::Other, "there is not enough memory."},
+    Meaning{SQLITE_IOERR, Fault::Failed, "the disk could not be read or written."},
+    Meaning{SQLITE_NOMEM, Fault::Failed, "there is not enough memory."},
+    Meaning{SQLITE_PROTOCOL, Fault::Busy, "another station is using the file; please try again."},
+    Meaning{SQLITE_INTERRUPT, Fault::Other, "the work was stopped."},
+    Meaning{SQLITE_MISMATCH, Fault::WrongType, "a value is not of the kind that its field holds."},
 };
 
 constexpr Meaning kUnique{0, Fault::Exists, "this key is there already."};
@@ -94,9 +97,10 @@ Status engineFault(sqlite3* connection, std::string_view subject) {
   const Meaning* meaning = meaningOf(extended, connection);
   std::string text = std::string(subject) + ": ";
   if (meaning) return {meaning->fault, text + meaning->text};
-  const std::string_view message = connection ? sqlite3_errmsg(connection) : "unknown failure";
-  const Fault fault = message.starts_with("no such") ? Fault::Missing : Fault::Other;
-  return {fault, text.append(message)};
+  const std::string_view message = connection ? sqlite3_errmsg(connection) : "";
+  const bool missing = message.starts_with("no such");
+  text += missing ? "a part of the store is missing" : "the store could not do what was asked";
+  return {missing ? Fault::Missing : Fault::Failed, text.append(" (").append(message) + ")."};
 }
 
 }  // namespace dao

@@ -10,6 +10,24 @@ namespace {
 constexpr int kRelations = 8;
 constexpr int kDirections = 2;
 
+int rankOf(const Value& value) {
+  return value.isNull() ? 0 : std::holds_alternative<std::string>(value.held()) ? 2 : 1;
+}
+
+// In the order of the engine: nothing, numbers, texts.
+int compareValues(const Value& one, const Value& other, const Collator* collator) {
+  const int rank = rankOf(one);
+  if (rank != rankOf(other)) return rank - rankOf(other);
+  if (rank == 0) return 0;
+  const auto* left = std::get_if<std::int64_t>(&one.held());
+  const auto* right = std::get_if<std::int64_t>(&other.held());
+  if (left && right) return *left < *right ? -1 : *left > *right ? 1 : 0;
+  if (rank == 1) return one.real() < other.real() ? -1 : one.real() > other.real() ? 1 : 0;
+  const std::string& text = std::get<std::string>(one.held());
+  const std::string& against = std::get<std::string>(other.held());
+  return collator ? collator->compare(text, against) : text.compare(against);
+}
+
 std::string condition(std::string_view column, std::string_view relation, int parameter) {
   return std::string(column) + std::string(relation) +
          (parameter > 0 ? "?" + std::to_string(parameter) : "");
@@ -29,13 +47,19 @@ KeyPager::KeyPager(Engine& engine, const TableShape& table, const IndexInfo* ind
   if (!ownOrder) {
     indexedBy_ = " INDEXED BY " + sqlName(indexNameInFile(table.name, index->name));
     for (const std::string& field : index->fields)
-      order_.push_back({sqlName(field), *table.field(field)});
+      addColumn(table, sqlName(field), *table.field(field));
   }
-  order_.push_back({table.identityColumn(), table.identity.value_or(columns_)});
+  addColumn(table, table.identityColumn(), table.identity.value_or(columns_));
   if (!table.identity) ++columns_;
   const auto first = static_cast<std::size_t>(order_.front().position);
   if (first < table.fields.size()) firstType_ = table.fields[first].type;
   statements_.resize(order_.size() * kRelations * kDirections);
+}
+
+void KeyPager::addColumn(const TableShape& table, std::string name, int position) {
+  const auto field = static_cast<std::size_t>(position);
+  const bool collated = field < table.fields.size() && isText(table.fields[field].type);
+  order_.push_back({std::move(name), position, collated});
 }
 
 std::string KeyPager::text(const Part& part) const {
@@ -147,10 +171,30 @@ Status KeyPager::seek(std::string_view comparison, const Value& value, RowPage& 
     if (way.sign != comparison) continue;
     page.clear(columns_);
     const bool spell = isText(firstType_) && !value.isNull();
-    return load({0, way.relation, way.direction}, {spell ? Value(value.text()) : value}, page, 1);
+    const Value wanted = spell ? Value(value.text()) : value;
+    Status status = load({0, way.relation, way.direction}, {wanted}, page, 1);
+    return status ? fits(way.relation, wanted, page) : status;
   }
   return {Fault::Unsupported,
           subject_ + ": Seek does not know \"" + std::string(comparison) + "\"."};
+}
+
+// An index that is damaged may lead to another row than the one that was sought.
+Status KeyPager::fits(Relation relation, const Value& wanted, const RowPage& page) const {
+  const bool comparable = std::holds_alternative<std::string>(wanted.held()) ||
+                          std::holds_alternative<std::int64_t>(wanted.held());
+  if (page.rows() == 0 || !comparable) return {};
+  const Column& column = order_.front();
+  const Value found = page.raw(0, column.position);
+  if (rankOf(found) != rankOf(wanted)) return {};
+  const int difference =
+      compareValues(found, wanted, column.collated ? &engine_.collator() : nullptr);
+  const bool good = relation == Relation::Equal     ? difference == 0
+                    : relation == Relation::Greater ? difference > 0
+                    : relation == Relation::AtLeast ? difference >= 0
+                    : relation == Relation::Less    ? difference < 0
+                                                    : difference <= 0;
+  return good ? Status() : outOfOrder();
 }
 
 Status KeyPager::row(const Value& identity, RowPage& page) {
@@ -162,6 +206,27 @@ Status KeyPager::row(const Value& identity, RowPage& page) {
   page.clear(columns_);
   byIdentity_.bind(1, identity);
   return readAll(byIdentity_, page);
+}
+
+int KeyPager::compare(const Key& one, const Key& other) const {
+  for (std::size_t column = 0; column < order_.size(); ++column) {
+    const Collator* collator = order_[column].collated ? &engine_.collator() : nullptr;
+    const int difference = compareValues(one[column], other[column], collator);
+    if (difference != 0) return difference;
+  }
+  return 0;
+}
+
+Status KeyPager::outOfOrder() const {
+  return {Fault::Damaged, subject_ + ": the file is damaged."};
+}
+
+Status KeyPager::isBeyond(const Key& from, const RowPage& page, bool upwards) const {
+  if (page.rows() == 0) return {};
+  const Key low = key(page, 0);
+  const Key high = key(page, page.rows() - 1);
+  const bool beyond = upwards ? compare(from, low) < 0 : compare(high, from) < 0;
+  return beyond && compare(low, high) <= 0 ? Status() : outOfOrder();
 }
 
 Key KeyPager::key(const RowPage& page, int row) const {

@@ -31,6 +31,9 @@ class KeyPager {
   Status row(const Value& identity, RowPage& page);
 
   [[nodiscard]] Key key(const RowPage& page, int row) const;
+  // Damaged unless the page lies beyond the key: whoever goes on from key to key, upwards or
+  // downwards, comes to an end then, in whatever order the file says that its rows are.
+  [[nodiscard]] Status isBeyond(const Key& key, const RowPage& page, bool upwards) const;
   [[nodiscard]] Value identity(const RowPage& page, int row) const {
     return page.raw(row, order_.back().position);
   }
@@ -47,12 +50,17 @@ class KeyPager {
   struct Column {
     std::string name;  // quoted
     int position;      // in the row
+    bool collated = false;
   };
 
   Status load(const Part& part, const Key& key, RowPage& page, int limit);
   [[nodiscard]] std::string text(const Part& part) const;
   Result<Statement*> statement(const Part& part);
   Status readAll(Statement& statement, RowPage& page);
+  [[nodiscard]] Status fits(Relation relation, const Value& wanted, const RowPage& page) const;
+  [[nodiscard]] int compare(const Key& one, const Key& other) const;
+  [[nodiscard]] Status outOfOrder() const;
+  void addColumn(const TableShape& table, std::string name, int position);
 
   Engine& engine_;
   std::string subject_;

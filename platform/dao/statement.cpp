@@ -48,13 +48,14 @@ void Statement::bindAll(const std::vector<Value>& values) {
 
 Result<bool> Statement::step(std::string_view subject) {
   if (!engine_->isOpen()) return std::unexpected(engine_->closedFault());
+  if (engine_->isLost()) return std::unexpected(engine_->lostFault());
   const int code = sqlite3_step(handle_);
   if (code == SQLITE_ROW) return true;
   if (code == SQLITE_DONE) {
     sqlite3_reset(handle_);
     return false;
   }
-  Status fault = engine_->fault(subject);
+  Status fault = engine_->stepFault(subject);
   sqlite3_reset(handle_);
   return std::unexpected(std::move(fault));
 }

@@ -29,7 +29,7 @@ Status creationFault(const std::filesystem::path& path, int error) {
     case Fault::DiskFull:
       return {Fault::DiskFull, name + ": there is no room left on the disk."};
     default:
-      return {Fault::Other, name + ": the file cannot be made."};
+      return {Fault::Failed, name + ": the file cannot be made."};
   }
 }
 

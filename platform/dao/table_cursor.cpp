@@ -179,7 +179,9 @@ Status TableCursor::loadBeyond(int step) {
   const Loader load = step > 0 ? &KeyPager::after : &KeyPager::before;
   const Key key = pager_->key(page_, row_);
   loaded_ = engine().changeStamp();
-  if (Status status = (*pager_.*load)(key, page_, limit_); !status) return lost(std::move(status));
+  Status status = (*pager_.*load)(key, page_, limit_);
+  if (status) status = pager_->isBeyond(key, page_, step > 0);
+  if (!status) return lost(std::move(status));
   limit_ = std::min(limit_ * kPageGrowth, kLargestPage);
   row_ = step > 0 ? 0 : page_.rows() - 1;
   at_ = page_.rows() > 0 ? At::Row : step > 0 ? At::End : At::Start;

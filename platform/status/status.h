@@ -25,7 +25,8 @@ enum class Fault {
   NotAFile,     // a link, pipe, device or folder where a plain file is expected
   TooLarge,     // a file beyond all that this program writes
   Unsupported,  // a request that this seam does not serve
-  Other
+  Failed,       // the disk, the engine or the system gave up; the text is for whoever mends it
+  Other         // the text says all that there is to say
 };
 
 // Success, or a fault with a text that a user can read. The text names what failed (table, field,

@@ -35,7 +35,7 @@ namespace platform {
     case EOPNOTSUPP:
       return Fault::Unsupported;
     default:
-      return Fault::Other;
+      return Fault::Failed;
   }
 }
 

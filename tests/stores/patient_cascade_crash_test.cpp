@@ -168,7 +168,7 @@ TEST_F(CascadeCrashTest, AFullDiskLeavesEverythingUnderTheOldName) {
     if (renamed) break;
     ++refused;
     // A page that was written in part before the limit counts as a failed write.
-    EXPECT_TRUE(fault == dao::Fault::DiskFull || fault == dao::Fault::Other);
+    EXPECT_TRUE(fault == dao::Fault::DiskFull || fault == dao::Fault::Failed);
     expectSound(stores);
     EXPECT_EQ(census(stores, patient(7)), before);
   }

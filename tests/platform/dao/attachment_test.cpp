@@ -65,7 +65,7 @@ TEST_F(AttachmentTest, TextsCompareInTheOrderOfTheirOwnStore) {
 TEST_F(AttachmentTest, LetsGoAtItsEndAndCanBeTakenAgain) {
   for (int round = 0; round < 3; ++round) {
     const auto attached = AttachDatabase(store_, other_, "other").value();
-    EXPECT_EQ(AttachDatabase(store_, other_, "other").error().fault(), Fault::Other);
+    EXPECT_EQ(AttachDatabase(store_, other_, "other").error().fault(), Fault::Failed);
     EXPECT_TRUE(rename("x", "y"));
   }
   EXPECT_EQ(rename("x", "y").error().fault(), Fault::Missing);
