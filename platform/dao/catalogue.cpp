@@ -109,7 +109,7 @@ Result<std::vector<std::string>> tableNames(Engine& engine) {
   const auto rows =
       query(engine,
             "SELECT name FROM sqlite_schema WHERE type='table' AND substr(name, 1, 1) <> '~' "
-            "AND substr(name, 1, 7) <> 'sqlite_' ORDER BY rowid",
+            "AND substr(name, 1, 7) <> 'sqlite_' AND rootpage > 0 ORDER BY rowid",
             "");
   if (!rows) return std::unexpected(rows.error());
   std::vector<std::string> names;
@@ -117,12 +117,24 @@ Result<std::vector<std::string>> tableNames(Engine& engine) {
   return names;
 }
 
+Result<std::vector<std::string>> foreignNames(Engine& engine) {
+  const auto rows = query(engine,
+                          "SELECT name FROM sqlite_schema WHERE type NOT IN ('table', 'index') "
+                          "OR (type='table' AND rootpage = 0) ORDER BY name",
+                          "");
+  if (!rows) return std::unexpected(rows.error());
+  std::vector<std::string> names;
+  for (const Row& row : *rows) names.push_back(row[0]);
+  return names;
+}
+
 Result<TableShape> readTable(Engine& engine, std::string_view name) {
-  const auto found = query(engine,
-                           "SELECT s.name, t.wr, instr(s.sql, ' PRIMARY KEY AUTOINCREMENT') "
-                           "FROM sqlite_schema s JOIN pragma_table_list(s.name) t "
-                           "WHERE s.type='table' AND t.schema='main' AND s.name = ? COLLATE NOCASE",
-                           name);
+  const auto found = query(
+      engine,
+      "SELECT s.name, t.wr, instr(s.sql, ' PRIMARY KEY AUTOINCREMENT') "
+      "FROM sqlite_schema s JOIN pragma_table_list(s.name) t "
+      "WHERE s.type='table' AND t.type='table' AND t.schema='main' AND s.name = ? COLLATE NOCASE",
+      name);
   if (!found) return std::unexpected(found.error());
   if (found->empty()) {
     return std::unexpected(

@@ -26,6 +26,7 @@ struct TableShape {
 };
 
 [[nodiscard]] Result<std::vector<std::string>> tableNames(Engine& engine);
+[[nodiscard]] Result<std::vector<std::string>> foreignNames(Engine& engine);
 [[nodiscard]] Result<TableShape> readTable(Engine& engine, std::string_view name);
 [[nodiscard]] std::string indexNameInFile(std::string_view table, std::string_view index);
 [[nodiscard]] std::string helperNameInFile(std::string_view table, const HelperDef& helper);

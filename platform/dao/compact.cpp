@@ -40,7 +40,8 @@ Result<std::int64_t> number(Engine& engine, const std::string& sql) {
 // With the engine's own tables: the numbers given so far are a part of a store too.
 Result<std::vector<std::string>> everyTable(Engine& engine) {
   const std::string subject = nameOf(engine.path());
-  auto statement = engine.prepare("SELECT name FROM sqlite_schema WHERE type='table'", subject);
+  auto statement =
+      engine.prepare("SELECT name FROM sqlite_schema WHERE type='table' AND rootpage > 0", subject);
   if (!statement) return std::unexpected(statement.error());
   std::vector<std::string> names;
   for (;;) {

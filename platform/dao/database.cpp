@@ -84,6 +84,11 @@ Result<std::vector<std::string>> Database::tables() const {
   return tableNames(*engine_);
 }
 
+Result<std::vector<std::string>> Database::foreignObjects() const {
+  if (!isOpen()) return std::unexpected(closed());
+  return foreignNames(*engine_);
+}
+
 Result<std::vector<FieldInfo>> Database::fields(std::string_view table) const {
   if (!isOpen()) return std::unexpected(closed());
   auto shape = readTable(*engine_, table);

@@ -113,6 +113,9 @@ class Database {
                                const std::vector<Value>& parameters = {});
 
   [[nodiscard]] Result<std::vector<std::string>> tables() const;
+  // What no store of this program has and what a general tool would run: triggers, views and tables
+  // that are programs. They are never run here.
+  [[nodiscard]] Result<std::vector<std::string>> foreignObjects() const;
   [[nodiscard]] Result<std::vector<FieldInfo>> fields(std::string_view table) const;
   [[nodiscard]] Result<std::vector<IndexInfo>> indexes(std::string_view table) const;
 

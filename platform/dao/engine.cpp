@@ -51,6 +51,7 @@ void distrust(sqlite3* connection) {
                               Setting{SQLITE_LIMIT_COLUMN, kMostColumns},
                               Setting{SQLITE_LIMIT_ATTACHED, kMostAttached},
                               Setting{SQLITE_LIMIT_TRIGGER_DEPTH, 1}};
+  sqlite3_drop_modules(connection, nullptr);  // tables that are programs
   for (const Setting& each : limits) sqlite3_limit(connection, each.what, each.value);
 }
 

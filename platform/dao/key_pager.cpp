@@ -179,7 +179,7 @@ Status KeyPager::seek(std::string_view comparison, const Value& value, RowPage& 
           subject_ + ": Seek does not know \"" + std::string(comparison) + "\"."};
 }
 
-// An index that is damaged may lead to another row than the one that was sought.
+// Whoever goes on from each row that was found to the next comes to an end in a damaged file, too.
 Status KeyPager::fits(Relation relation, const Value& wanted, const RowPage& page) const {
   const bool comparable = std::holds_alternative<std::string>(wanted.held()) ||
                           std::holds_alternative<std::int64_t>(wanted.held());
