@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/files/copy_file.h"
+#include "platform/files/folders.h"
+#include "stores/contents.h"
 #include "stores/store_copy.h"
 #include "stores/store_file.h"
 
@@ -58,6 +61,70 @@ dao::Result<std::vector<StoreDraft>> draftAll(const fs::path& programFolder, con
   return drafts;
 }
 
+Contents contentsOf(const std::vector<StoreDraft>& drafts) {
+  Contents contents;
+  for (const StoreKind& kind : storeKinds) {
+    const auto draft = std::ranges::find(drafts, kind.file, [](const StoreDraft& each) {
+      return each.target().filename().string();
+    });
+    if (draft == drafts.end()) continue;
+    auto store = dao::OpenDatabase(draft->path(), {.access = dao::Access::Still});
+    if (!store) continue;
+    if (const auto count = countRecords(*store, kind))
+      contents.insert_or_assign(std::string(kind.file), *count);
+  }
+  return contents;
+}
+
+// A second name for the file; where the file system has only one for each, a second file.
+dao::Status keepFile(const fs::path& from, const fs::path& to) {
+  std::error_code refused;
+  if (!fs::is_regular_file(fs::symlink_status(from, refused))) return {};
+  fs::create_hard_link(from, to, refused);
+  return refused ? files::copyFile(from, to) : dao::Status();
+}
+
+std::vector<std::string> filesOfBackup() {
+  std::vector<std::string> names{contentsNote};
+  for (const StoreKind& kind : storeKinds) names.emplace_back(kind.file);
+  return names;
+}
+
+// What else lies in the folder is somebody's own, and keeps the folder.
+void removeBackup(const fs::path& folder) {
+  std::error_code error;
+  if (fs::is_symlink(fs::symlink_status(folder, error))) return;
+  for (const std::string& name : filesOfBackup()) fs::remove(folder / name, error);
+  fs::remove(folder, error);
+}
+
+constexpr auto freshBackup = "Backup 0";
+constexpr auto oldestBackup = "Backup 3";
+
+dao::Status moveFolder(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  if (!fs::exists(fs::symlink_status(from, error))) return {};
+  fs::rename(from, to, error);
+  return error ? files::systemFault(to, error.value()) : dao::Status();
+}
+
+// Before a new backup takes its place. A kill at any step leaves no fewer whole backups than there
+// were: folders move as a whole, and the oldest goes only when the new one is complete.
+dao::Status keepOlder(const fs::path& into) {
+  removeBackup(into / oldestBackup);
+  const bool whole = stateOf(into / personalKind.file) && stateOf(into / clinicalKind.file);
+  if (!whole) return {};
+  const fs::path fresh = into / freshBackup;
+  removeBackup(fresh);
+  dao::Status status = files::createFolders(fresh);
+  for (const std::string& name : filesOfBackup()) {
+    if (status) status = keepFile(into / name, fresh / name);
+  }
+  if (status) status = moveFolder(into / olderBackups[1], into / oldestBackup);
+  if (status) status = moveFolder(into / olderBackups[0], into / olderBackups[1]);
+  return status ? moveFolder(fresh, into / olderBackups[0]) : status;
+}
+
 }  // namespace
 
 bool isDataFolder(const fs::path& programFolder, const fs::path& folder) {
@@ -73,10 +140,32 @@ dao::Status backUp(const fs::path& programFolder, const fs::path& into,
     return {dao::Fault::Unsupported, into.string() + ": these are the stores themselves."};
   auto drafts = draftAll(programFolder, into, partsOf(programFolder, kinds), progress, others);
   if (!drafts) return drafts.error();
+  const Contents contents = contentsOf(*drafts);
+  if (dao::Status kept = keepOlder(into); !kept) return kept;
+  // The note of the old stores must not stand beside the new ones.
+  std::error_code ignored;
+  fs::remove(into / contentsNote, ignored);
   for (StoreDraft& draft : *drafts) {
     if (dao::Status installed = draft.install(); !installed) return installed;
   }
+  noteContents(into, contents).ignore();
+  removeBackup(into / oldestBackup);
   return {};
+}
+
+std::vector<FewerRecords> fewerThanBackup(const fs::path& programFolder, const fs::path& backup,
+                                          std::span<const StoreKind> kinds) {
+  const Contents before = contentsOf(backup);
+  std::vector<FewerRecords> fewer;
+  for (const StoreKind& kind : kinds) {
+    const auto held = before.find(kind.file);
+    if (held == before.end() || held->second == 0) continue;
+    auto store =
+        dao::OpenDatabase(dataFile(programFolder, kind), {.access = dao::Access::ReadOnly});
+    const std::int64_t now = store ? countRecords(*store, kind).value_or(0) : 0;
+    if (clearlyFewer(now, held->second)) fewer.push_back({held->first, now, held->second});
+  }
+  return fewer;
 }
 
 }  // namespace stores

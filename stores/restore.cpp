@@ -53,10 +53,9 @@ dao::Result<ReplacedStore> restoreStore(const StoreKind& kind, const fs::path& p
                                         const fs::path& backupFolder, std::string_view stamp,
                                         const Progress& progress) {
   const fs::path backup = backupFolder / kind.file;
-  // Opening it brings to an end what a crashed program left half done in it.
-  if (const auto opened = dao::OpenDatabase(backup); !opened)
+  if (const auto opened = dao::OpenDatabase(backup, {.access = dao::Access::Still}); !opened)
     return std::unexpected(opened.error());
-  auto draft = StoreDraft::take(dataFile(programFolder, kind));
+  auto draft = StoreDraft::take(dataFile(programFolder, kind), files::Links::Followed);
   if (!draft) return std::unexpected(draft.error());
   dao::Status status = files::copyFile(backup, draft->path(), progress);
   if (status) status = checkCopy(draft->path(), kind);

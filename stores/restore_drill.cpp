@@ -6,8 +6,8 @@
 #include <string>
 
 #include "platform/files/copy_file.h"
+#include "stores/contents.h"
 #include "stores/store_kinds.h"
-#include "stores/visit_ledger.h"
 
 namespace stores {
 
@@ -36,7 +36,7 @@ class ScratchFolder {
 
 dao::Status copyChecked(const fs::path& backup, const fs::path& scratch, const StoreKind& kind,
                         const Progress& progress) {
-  if (const auto opened = dao::OpenDatabase(backup / kind.file, {.access = dao::Access::ReadOnly});
+  if (const auto opened = dao::OpenDatabase(backup / kind.file, {.access = dao::Access::Still});
       !opened)
     return opened.error();
   const dao::Status copied = files::copyFile(backup / kind.file, scratch / kind.file, progress);
@@ -51,35 +51,18 @@ dao::Result<std::string> answer(dao::Database& store, const std::string& select)
   return std::unexpected(rows.error());
 }
 
-dao::Result<std::int64_t> countOf(dao::Database& store, std::string_view table) {
-  const auto count = answer(store, "SELECT count(*) FROM [" + std::string(table) + "]");
-  if (!count) return std::unexpected(count.error());
-  return count->empty() ? 0 : std::stoll(*count);
-}
-
-dao::Status countRecords(dao::Database& clinical, DrillReport& report) {
-  for (const RecordKind* kind :
-       {&kind::examination, &kind::pathology, &kind::operation, &kind::growth, &kind::vaccination,
-        &kind::pregnancy, &kind::pregnancyControl, &kind::lens, &kind::angiography,
-        &kind::echocardiography, &kind::exerciseTest, &kind::laboratory}) {
-    const auto count = countOf(clinical, kind->table);
-    if (!count) return count.error();
-    report.records += *count;
-  }
-  return {};
-}
-
 dao::Result<DrillReport> reportOn(const fs::path& folder) {
   auto personal = dao::OpenDatabase(folder / personalKind.file, {.access = dao::Access::ReadOnly});
   if (!personal) return std::unexpected(personal.error());
   auto clinical = dao::OpenDatabase(folder / clinicalKind.file, {.access = dao::Access::ReadOnly});
   if (!clinical) return std::unexpected(clinical.error());
-  const auto patients = countOf(*personal, personalKind.mainTable);
+  const auto patients = countRecords(*personal, personalKind);
   if (!patients) return std::unexpected(patients.error());
+  const auto records = countRecords(*clinical, clinicalKind);
+  if (!records) return std::unexpected(records.error());
   DrillReport report;
   report.patients = *patients;
-  if (dao::Status counted = countRecords(*clinical, report); !counted)
-    return std::unexpected(std::move(counted));
+  report.records = *records;
   const auto last = answer(*clinical, "SELECT max([Date]) FROM [Physical Exam]");
   if (!last) return std::unexpected(last.error());
   report.lastExamination = text::parseIso(*last);

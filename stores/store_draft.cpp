@@ -30,10 +30,26 @@ void settleJournal(const fs::path& target) {
   if (sizeOf(journal) != 0) removeQuietly(journal);
 }
 
+// Where the draft may be written and put in place.
+dao::Result<fs::path> placeOf(const fs::path& path, files::Links links) {
+  std::error_code error;
+  const auto there = fs::symlink_status(path, error);
+  if (!fs::exists(there) || fs::is_regular_file(there)) return path;
+  const dao::Status refused(dao::Fault::NotAFile,
+                            path.filename().string() + ": this is no plain file.");
+  if (!fs::is_symlink(there) || links == files::Links::Refused) return std::unexpected(refused);
+  const auto store = dao::OpenDatabase(path, {.access = dao::Access::ReadOnly});
+  if (!store || store->tables().value_or(std::vector<std::string>()).empty())
+    return std::unexpected(refused);
+  return files::behindLinks(path);
+}
+
 }  // namespace
 
-dao::Result<StoreDraft> StoreDraft::take(const fs::path& path) {
-  const fs::path target = files::behindLinks(path);
+dao::Result<StoreDraft> StoreDraft::take(const fs::path& path, files::Links links) {
+  const auto place = placeOf(path, links);
+  if (!place) return std::unexpected(place.error());
+  const fs::path& target = *place;
   auto turn = files::ProcessLock::open(beside(target, ".lock"));
   if (!turn) return std::unexpected(turn.error());
   const auto alone = turn->tryAlone();

@@ -13,8 +13,10 @@ class StoreDraft {
  public:
   // Makes room for a draft of `target`; what a crash left of an older one goes. Missing, ReadOnly
   // and DiskFull speak of the folder. Busy when another draft of the same file is being written,
-  // here or at another station.
-  [[nodiscard]] static dao::Result<StoreDraft> take(const std::filesystem::path& target);
+  // here or at another station. A link is NotAFile, or is followed to a store of this program and
+  // to nothing else.
+  [[nodiscard]] static dao::Result<StoreDraft> take(const std::filesystem::path& target,
+                                                    files::Links links = files::Links::Refused);
 
   StoreDraft(StoreDraft&& other) noexcept = default;
   StoreDraft& operator=(StoreDraft&&) = delete;

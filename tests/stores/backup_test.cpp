@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "stores/contents.h"
 #include "stores/restore.h"
 #include "stores/restore_drill.h"
 #include "stores/smoking_store.h"
@@ -55,11 +56,62 @@ TEST_F(BackupTest, HoldsTheStoresUnderTheirNamesAndLeavesAnOlderSmokingCopy) {
     return true;
   }));
   EXPECT_EQ(filesIn(backup_),
-            (std::vector<std::string>{"Personal.mdb", "Sanavel.mdb", "Smoke.mdb"}));
+            (std::vector<std::string>{"Personal.mdb", "Sanavel.mdb", "Smoke.mdb", "contents.txt"}));
   EXPECT_EQ(bytesOf(folder_ / "Backup/Smoke.mdb"), "older");
   ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
   for (const StoreKind& kind : storeKinds)
     EXPECT_TRUE(checkCopy(fs::path(backup_) / kind.file, kind)) << kind.file;
+}
+
+TEST_F(BackupTest, TheLastThreeStayAndAreNeverTakenForFewer) {
+  const auto fewer = [&] { return fewerThanBackup(folder_.path(), backup_, storeKinds); };
+  EXPECT_TRUE(fewer().empty()) << "there is no backup yet";
+  for (const char* name : {"Burak", "Ceren", "Deniz"}) {
+    ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+    ASSERT_TRUE(addCard(name));
+  }
+  writeBytes(folder_ / "Backup/Backup 2/mine.txt", "a note of the user's");
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  EXPECT_EQ(cardsIn(folder_ / "Backup/Personal.mdb"), 4);
+  EXPECT_EQ(cardsIn(folder_ / "Backup/Backup 1/Personal.mdb"), 3);
+  EXPECT_EQ(cardsIn(folder_ / "Backup/Backup 2/Personal.mdb"), 2);
+  EXPECT_EQ(contentsOf(folder_ / "Backup/Backup 1").at("Personal.mdb"), 3);
+  EXPECT_TRUE(fewer().empty());
+  // Whether the note is there or not.
+  ASSERT_TRUE(stores_.personal.database.Execute("DELETE FROM IDCard"));
+  for (const bool noted : {true, false}) {
+    if (!noted) fs::remove(folder_ / "Backup/contents.txt");
+    ASSERT_EQ(fewer().size(), 1U);
+    EXPECT_EQ(fewer().front().file, "Personal.mdb");
+    EXPECT_EQ(fewer().front().backup, 4);
+  }
+  EXPECT_TRUE(restoreStore(personalKind, folder_.path(), folder_ / "Backup/Backup 2", "now"));
+}
+
+TEST(ClearlyFewer, LeavesWhatSomebodyDeletesByHand) {
+  const struct {
+    std::int64_t now;
+    std::int64_t before;
+    bool fewer;
+  } cases[] = {{0, 0, false},  {0, 1, true},     {1, 2, false},   {1, 12, true},
+               {6, 12, false}, {60, 100, false}, {40, 100, true}, {200, 100, false}};
+  for (const auto& c : cases) EXPECT_EQ(clearlyFewer(c.now, c.before), c.fewer) << c.now;
+}
+
+// A backup may lie where others write: what a link there leads to is no place for a copy.
+TEST_F(BackupTest, NothingBehindALinkIsReplaced) {
+  writeBytes(folder_ / "thesis.doc", "years of work");
+  fs::create_symlink(folder_ / "thesis.doc", folder_ / "Backup/Personal.mdb");
+  EXPECT_EQ(backUp(folder_.path(), backup_, storeKinds).fault(), dao::Fault::NotAFile);
+  EXPECT_FALSE(restoreStore(personalKind, folder_.path(), backup_, "now"));
+  fs::remove(folder_ / "Backup/Personal.mdb");
+  ASSERT_TRUE(backUp(folder_.path(), backup_, storeKinds));
+  CloseStores(stores_);
+  fs::remove(folder_ / personalPath);
+  fs::create_symlink(folder_ / "thesis.doc", folder_ / personalPath);
+  EXPECT_FALSE(restoreStore(personalKind, folder_.path(), backup_, "now"));
+  EXPECT_EQ(bytesOf(folder_ / "thesis.doc"), "years of work");
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_.path()), {}), 3) << "nothing beside it";
 }
 
 // The stores of a backup belong together: a fault in a later one keeps the older copies of all.
@@ -71,7 +123,7 @@ TEST_F(BackupTest, AFailureKeepsTheWholeOldBackup) {
   damage(folder_ / clinicalPath);
   EXPECT_EQ(backUp(folder_.path(), backup_, storeKinds).fault(), dao::Fault::Damaged);
   EXPECT_EQ(bytesOf(folder_ / "Backup/Personal.mdb"), personal);
-  EXPECT_EQ(filesIn(backup_).size(), 3u);
+  EXPECT_EQ(filesIn(backup_).size(), 4u);
 }
 
 TEST_F(BackupTest, IsNeverWrittenOverTheStores) {
