@@ -66,8 +66,8 @@ void FrmMain::Load() {
   if (!acildi_) return;
   depolariAc();
   basliklariYenile();
+  netacilis();  // before the lists: what a crash has damaged is mended first
   Listeleriyaz();
-  netacilis();
   alanlaribosalt();
   Eskialanmain();
   tuskontrol();

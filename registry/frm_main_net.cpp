@@ -6,6 +6,7 @@
 #include "shell/file_care.h"
 #include "shell/patient_lock.h"
 #include "shell/phrases.h"
+#include "shell/store_check.h"
 #include "shell/text_lookup.h"
 
 namespace registry {
@@ -41,6 +42,7 @@ bool FrmMain::netAc() {
 // The others wait only for a run of maintenance.
 void FrmMain::yalnizAcildi(bool alone) {
   if (alone) shell::removeLeftovers(istasyon);
+  shell::depolariDenetle(istasyon, alone);
   // A station that has ended since the settings were read has lowered the number.
   istasyon.settings.refresh().ignore();
   hataliCikis_ = alone && text::Val(istasyon.ayar(runningStations, "0")) != 0;

@@ -64,6 +64,21 @@ void dosyalariYedekle(Station& istasyon, const std::string& into) {
   if (!told.empty()) istasyon.bilgi(told);
 }
 
+// Where to: the folder itself, or, where the user does not want its backup replaced by less, one of
+// its own beside it.
+std::string hedef(Station& istasyon, const std::string& folder, Kinds kinds) {
+  const auto fewer = stores::fewerThanBackup(istasyon.UygYolu, folder, kinds);
+  if (fewer.empty()) return folder;
+  std::string question;
+  for (const stores::FewerRecords& each : fewer)
+    question += doldurulmus(istasyon, Phrase::FewerThanBackup,
+                            {each.file, std::to_string(each.now), std::to_string(each.backup)}) +
+                "\n";
+  if (istasyon.confirmLoss(question + "\n" + phrase(istasyon, Phrase::ReplaceFuller)))
+    return folder;
+  return folder + dosyaDamgasi(istasyon.clock.now()) + "/";
+}
+
 std::string neOldu(Station& istasyon, const BackgroundResult& result) {
   if (result.stopped) return phrase(istasyon, Phrase::BackupStopped);
   return phrase(istasyon, Phrase::BackupFailed) + "\n" + nedeni(istasyon, result.status);
@@ -101,21 +116,26 @@ std::string hazirYedekKlasoru(Station& istasyon) {
 }
 
 bool yedekle(Station& istasyon, const std::string& folder) {
-  const std::string into = ayracla(folder);
-  const BackgroundResult result = yedekAl(istasyon, into, Kinds(stores::storeKinds).first(2));
+  const Kinds kinds = Kinds(stores::storeKinds).first(2);
+  const std::string into = hedef(istasyon, ayracla(folder), kinds);
+  files::createFolders(into).ignore();
+  const BackgroundResult result = yedekAl(istasyon, into, kinds);
   if (!result.status) {
     istasyon.mesaj(neOldu(istasyon, result), host::Buttons::Ok, host::Icon::Critical);
     return false;
   }
-  istasyon.ayarYaz(backupFolderSetting, into);
-  dosyalariYedekle(istasyon, into);
+  istasyon.ayarYaz(backupFolderSetting, ayracla(folder));
+  if (into != ayracla(folder)) istasyon.bilgi(doldurulmus(istasyon, Phrase::WrittenBeside, {into}));
+  dosyalariYedekle(istasyon, ayracla(folder));
   return true;
 }
 
 bool cikistayedekle(Station& istasyon) {
   if (istasyon.ayar("closebackup", "0") == "0") return true;
   const std::string folder = hazirYedekKlasoru(istasyon);
-  const BackgroundResult result = yedekAl(istasyon, folder, stores::storeKinds);
+  const std::string into = hedef(istasyon, folder, stores::storeKinds);
+  files::createFolders(into).ignore();
+  const BackgroundResult result = yedekAl(istasyon, into, stores::storeKinds);
   const std::string trouble = result.status ? eksikKalan(istasyon, dosyalariAl(istasyon, folder))
                                             : neOldu(istasyon, result);
   if (trouble.empty()) return true;

@@ -15,6 +15,14 @@ std::string tarihSaat(const stores::FileState& state) {
   return text::shortDateTime(host::localTime(state.written));
 }
 
+std::string dosyaDamgasi(const text::DateTime& time) {
+  std::string stamp = text::isoText(time);
+  for (char& character : stamp) {
+    if (character == ' ' || character == ':') character = '-';
+  }
+  return stamp;
+}
+
 std::string doldurulmus(Station& istasyon, Phrase which,
                         std::initializer_list<std::string_view> values) {
   std::string filled = phrase(istasyon, which);

@@ -287,6 +287,38 @@ constexpr auto phraseRows = std::to_array<Row>({
      "Bir dosya olabileceğinden çok daha büyük; okunmadı."},
     {Phrase::WorkFailed, "The computer could not carry out the work.",
      "Bilgisayar işi yerine getiremedi."},
+    {Phrase::StoreVanished, "%1 is not there, although records were kept here.",
+     "%1 yerinde yok; oysa burada kayıtlar tutuluyordu."},
+    {Phrase::StoreEmptied, "%1 is empty or belongs to another program.",
+     "%1 boş ya da başka bir programa ait."},
+    {Phrase::StoreDamaged, "%1 is damaged and cannot be opened.", "%1 bozuk ve açılamıyor."},
+    {Phrase::StoreShrunken, "%1 holds %2 records; its backup holds %3.",
+     "%1 dosyasında %2 kayıt var; yedeğinde %3 kayıt var."},
+    {Phrase::OfferBackup,
+     "The backup of %1 holds %2 records (%3).\nPut it in place? The file that stands there is kept "
+     "under another name.",
+     "%1 tarihli yedekte %2 kayıt var (%3).\nYerine konsun mu? Şimdiki dosya başka bir adla "
+     "saklanır."},
+    {Phrase::NoBackupFound, "No backup was found. The program begins with an empty store.",
+     "Yedek bulunamadı. Program boş bir dosyayla başlıyor."},
+    {Phrase::StoreKeptAs, "The file that stood there was kept as %1.",
+     "Oradaki dosya %1 adıyla saklandı."},
+    {Phrase::StoresInUse,
+     "Another station is running, so nothing was changed. Close the program everywhere and start "
+     "it "
+     "again.",
+     "Başka bir istasyon çalıştığı için hiçbir şey değiştirilmedi. Programı her yerde kapatıp "
+     "yeniden "
+     "başlatın."},
+    {Phrase::FewerThanBackup, "%1 holds %2 records; the backup that would be replaced holds %3.",
+     "%1 dosyasında %2 kayıt var; yerine yazılacak yedekte %3 kayıt var."},
+    {Phrase::ReplaceFuller,
+     "Replace that backup? No keeps it and writes the new one beside it, into a folder with "
+     "today's date.",
+     "O yedeğin yerine yazılsın mı? Hayır derseniz o yedek kalır, yenisi yanına, bugünün tarihini "
+     "taşıyan bir klasöre yazılır."},
+    {Phrase::WrittenBeside, "The new backup was written to %1.",
+     "Yeni yedek %1 klasörüne yazıldı."},
 });
 
 }  // namespace

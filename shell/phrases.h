@@ -161,7 +161,18 @@ enum class Phrase {
   HiddenNotSet,  // and that there is none yet
   NotAPlainFile,
   FileTooLarge,
-  WorkFailed
+  WorkFailed,
+  StoreVanished,
+  StoreEmptied,
+  StoreDamaged,
+  StoreShrunken,  // how many there are and were
+  OfferBackup,    // its date, what it holds, where it lies
+  NoBackupFound,
+  StoreKeptAs,
+  StoresInUse,
+  FewerThanBackup,
+  ReplaceFuller,
+  WrittenBeside
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

@@ -49,14 +49,6 @@ Kinds istenenler(Station& istasyon, const fs::path& backup) {
   return wanted;
 }
 
-std::string damga(const text::DateTime& now) {
-  std::string stamp = text::isoText(now);
-  for (char& character : stamp) {
-    if (character == ' ' || character == ':') character = '-';
-  }
-  return stamp;
-}
-
 dao::Status hepsiniDegistir(const Kinds& wanted, const fs::path& program, const fs::path& backup,
                             const std::string& stamp, Replaced& replaced,
                             const stores::Progress& progress) {
@@ -84,7 +76,7 @@ std::string neOldu(Station& istasyon, const BackgroundResult& result) {
 // With the stores closed; they are open again at the end, the restored or the old ones.
 BackgroundResult degistir(Station& istasyon, const Kinds& wanted, const fs::path& backup) {
   Replaced replaced;
-  const std::string stamp = damga(istasyon.clock.now());
+  const std::string stamp = dosyaDamgasi(istasyon.clock.now());
   const auto work = [&, program = istasyon.UygYolu](const stores::Progress& progress) {
     return hepsiniDegistir(wanted, program, backup, stamp, replaced, progress);
   };

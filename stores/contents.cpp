@@ -59,13 +59,13 @@ bool clearlyFewer(std::int64_t now, std::int64_t before) {
   return now < before / 2 && before - now >= handful;
 }
 
-Contents contentsOf(const fs::path& backup) {
+Contents contentsOf(const fs::path& backup, Unnoted unnoted) {
   const std::string note = files::readFile(backup / contentsNote, longestNote).value_or("");
   Contents contents;
   for (const StoreKind& kind : storeKinds) {
     if (!stateOf(backup / kind.file)) continue;
     std::int64_t count = noted(note, kind.file);
-    if (count < 0) {
+    if (count < 0 && unnoted == Unnoted::Counted) {
       auto store = dao::OpenDatabase(backup / kind.file, {.access = dao::Access::Still});
       if (store) count = countRecords(*store, kind).value_or(-1);
     }

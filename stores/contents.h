@@ -17,9 +17,12 @@ namespace stores {
 // Whether `now` is so much less than `before` that nobody deleted it record by record.
 [[nodiscard]] bool clearlyFewer(std::int64_t now, std::int64_t before);
 
-// Of each store of a backup, by the name of its file; a backup that has no note of it is counted.
+// Of each store of a backup, by the name of its file. One that the backup has no note of takes a
+// walk over its tables.
 using Contents = std::map<std::string, std::int64_t, std::less<>>;
-[[nodiscard]] Contents contentsOf(const std::filesystem::path& backup);
+enum class Unnoted { Counted, LeftOut };
+[[nodiscard]] Contents contentsOf(const std::filesystem::path& backup,
+                                  Unnoted unnoted = Unnoted::Counted);
 // The note; without it the next look only takes longer.
 [[nodiscard]] dao::Status noteContents(const std::filesystem::path& backup,
                                        const Contents& contents);

@@ -162,6 +162,16 @@ Result<std::int64_t> Database::nextNumber(std::string_view table, std::string_vi
   return statement->integer(0) + 1;
 }
 
+std::int64_t Database::usedBytes() const {
+  if (!isOpen()) return 0;
+  const std::string subject = engine_->path().filename().string();
+  auto statement = engine_->prepare(
+      "SELECT (page_count - freelist_count) * page_size "
+      "FROM pragma_page_count, pragma_freelist_count, pragma_page_size",
+      subject);
+  return statement && statement->step(subject).value_or(false) ? statement->integer(0) : 0;
+}
+
 std::string Database::orderKey(std::string_view text) const {
   return isOpen() ? engine_->collator().key(text) : std::string(text);
 }

@@ -135,6 +135,9 @@ class Database {
   // the store.
   [[nodiscard]] std::string orderKey(std::string_view text) const;
 
+  // Without the room that deleted rows have left; 0 when it cannot be told.
+  [[nodiscard]] std::int64_t usedBytes() const;
+
   // Damaged, with what was found, unless every table and index is sound.
   [[nodiscard]] Status integrityCheck();
 

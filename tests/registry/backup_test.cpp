@@ -3,12 +3,15 @@
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 
 #include "shell/backup.h"
 #include "shell/frm_option.h"
 #include "shell/frm_save.h"
 #include "shell/restore.h"
+#include "shell/store_check.h"
 #include "stores/backup.h"
+#include "stores/contents.h"
 #include "stores/smoking_store.h"
 #include "tests/registry/card_fixture.h"
 
@@ -77,6 +80,82 @@ TEST_F(Backup, TheScreenBacksUpIntoTheOpenFolderButNeverIntoTheStores) {
   screen.Dir1.DblClick();
   screen.buttamam.press();
   EXPECT_EQ(desk.station.ayar("BackUp"), folder / "Copies/");
+}
+
+// A store that was emptied, replaced, damaged, taken away or shrunken is no new practice.
+TEST_F(Backup, AStartOffersTheBackupOfAStoreThatLostItsRecords) {
+  for (const char* name : {"Ayşe Ak", "Burak Ak", "Ceren Ak"}) save(name);
+  ASSERT_TRUE(shell::yedekle(desk.station, folder / "Copies"));
+  const fs::path store = folder / "Data/Personal.mdb";
+  const fs::path sound = folder / "sound";
+  stores::CloseStores(desk.station.stores);
+  fs::copy_file(store, sound);
+  const auto keptFiles = [&] {
+    return std::ranges::count_if(fs::directory_iterator(store.parent_path()),
+                                 [](const auto& at) { return at.path().extension() == ".kept"; });
+  };
+  const std::pair<const char*, std::function<void()>> cases[] = {
+      {"Personal.mdb boş", [&] { std::ofstream(store, std::ios::trunc); }},
+      {"Personal.mdb boş",
+       [&] {
+         fs::copy_file(folder / "Data/Sanavel.mdb", store, fs::copy_options::overwrite_existing);
+       }},
+      {"Personal.mdb bozuk", [&] { std::ofstream(store) << std::string(9000, 'x'); }},
+      {"Personal.mdb yerinde yok", [&] { fs::remove(store); }},
+      {"Personal.mdb dosyasında 0 kayıt var; yedeğinde 3", [&] {
+         auto database = dao::OpenDatabase(store).value();
+         ASSERT_TRUE(database.Execute("DELETE FROM IDCard"));
+       }}};
+  for (const auto& [said, spoil] : cases) {
+    SCOPED_TRACE(said);
+    for (const auto answer : {host::Answer::No, host::Answer::Yes}) {
+      fs::copy_file(sound, store, fs::copy_options::overwrite_existing);
+      spoil();
+      const auto before = keptFiles();
+      desk.station.ayarYaz("Fewer Personal.mdb", "");
+      desk.host.expect(said, host::Answer::Ok);
+      shell::depolariDenetle(desk.station, false);
+      EXPECT_EQ(keptFiles(), before) << "others are here: nothing is touched";
+      desk.host.expect(said, answer);
+      const bool useless = std::string_view(said) == "Personal.mdb boş";
+      const bool kept = answer == host::Answer::Yes ? fs::exists(store) : useless;
+      if (kept) desk.host.expect("adıyla saklandı", host::Answer::Ok);
+      shell::depolariDenetle(desk.station, true);
+      EXPECT_EQ(keptFiles(), before + (kept ? 1 : 0));
+      if (answer == host::Answer::No) continue;
+      shell::depolariDenetle(desk.station, true);  // nothing is left to ask
+      ASSERT_TRUE(stores::OpenStores(desk.station.stores));
+      EXPECT_EQ(cards(), 3);
+      stores::CloseStores(desk.station.stores);
+    }
+  }
+  shell::depolariDenetle(desk.station, true);
+  // A first start, and one without a backup.
+  fs::remove_all(folder / "Copies");
+  fs::remove(store);
+  shell::depolariDenetle(desk.station, true);
+}
+
+TEST_F(Backup, OneThatHoldsMoreIsReplacedOnlyWhenTheUserSaysSo) {
+  for (const char* name : {"Ayşe Ak", "Burak Ak"}) save(name);
+  desk.station.ayarYaz("closebackup", "1");
+  EXPECT_TRUE(main.QueryUnload());
+  ASSERT_TRUE(desk.station.stores.personal.database.Execute("DELETE FROM IDCard"));
+  desk.host.expect("Personal.mdb dosyasında 0 kayıt var; yerine yazılacak yedekte 2",
+                   host::Answer::No);
+  EXPECT_TRUE(main.QueryUnload());
+  const auto held = [&](const fs::path& backup) {
+    return stores::contentsOf(backup).at("Personal.mdb");
+  };
+  EXPECT_EQ(held(folder / "Copies"), 2);
+  EXPECT_EQ(std::ranges::count_if(fs::directory_iterator(folder / "Copies"),
+                                  [](const auto& at) { return at.is_directory(); }),
+            2)
+      << "the new one and the files lie beside it";
+  desk.host.expect("Personal.mdb dosyasında 0", host::Answer::Yes);
+  EXPECT_TRUE(main.QueryUnload());
+  EXPECT_EQ(held(folder / "Copies"), 0);
+  EXPECT_EQ(held(folder / "Copies/Backup 1"), 2);
 }
 
 TEST_F(Backup, TakesPicturesAndPapersAlongAndTellsWhatStaysOut) {
