@@ -5,6 +5,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/icons.h"
+#include "desktop/plain_words.h"
 
 namespace desktop {
 
@@ -15,6 +16,7 @@ Application::Application(int& argc, char** argv)
   // The card stays open for the whole session; dialogs before it must not end the program.
   QApplication::setQuitOnLastWindowClosed(false);
   applyAppearance(wantedShade());
+  showWordsPlain();
   QApplication::setWindowIcon(icon("program"));
 }
 

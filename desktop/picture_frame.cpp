@@ -1,8 +1,8 @@
 #include "desktop/picture_frame.h"
 
-#include <QImageReader>
 #include <QMouseEvent>
 #include <QPainter>
+#include <chrono>
 
 #include "desktop/pictures/picture_reader.h"
 
@@ -14,7 +14,10 @@ QSize naturalSize(const QString& path) {
 }
 
 QImage loadPicture(const QString& path, const QSize& limit, QSize* natural) {
-  ReadPicture read = readPicture(path, limit);
+  // The window waits for it.
+  using Clock = std::chrono::steady_clock;
+  const auto end = Clock::now() + std::chrono::seconds(3);
+  ReadPicture read = readPicture(path, limit, [end] { return Clock::now() > end; });
   if (natural != nullptr) *natural = read.natural;
   return std::move(read.image);
 }
@@ -28,7 +31,7 @@ void PictureFrame::setPath(const QString& path) {
   path_ = path;
   reload();
   // A frame without room tells by the file's header alone.
-  emit loaded(showsPicture() || (size().isEmpty() && QImageReader(path_).canRead()));
+  emit loaded(showsPicture() || (size().isEmpty() && isPicture(path_)));
 }
 
 void PictureFrame::setPlace(const QRect& place) {

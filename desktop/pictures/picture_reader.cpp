@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPixelFormat>
+#include <chrono>
 
 namespace desktop {
 
@@ -15,6 +16,10 @@ constexpr qint64 mostPixels = 150'000'000;
 constexpr int usualBits = 32;
 constexpr int bitsPerByte = 8;
 constexpr qint64 megabyte = 1024 * 1024;
+
+using Clock = std::chrono::steady_clock;
+constexpr std::chrono::seconds longestReading{20};
+constexpr qint64 largestFile = 256 * megabyte;
 
 // A file that can be stopped, and that knows whether more was asked of it than it has: decoders
 // show what there is of a file that was cut off. It is read unbuffered: what is asked is what the
@@ -34,7 +39,7 @@ class WatchedFile : public QFile {
 
  protected:
   qint64 readData(char* data, qint64 most) override {
-    const bool stop = stopped_ && stopped_();
+    const bool stop = Clock::now() > end_ || (stopped_ && stopped_());
     askedBehindEnd_ = askedBehindEnd_ || stop || (most > 0 && pos() >= size());
     const qint64 got = stop ? -1 : QFile::readData(data, most);
     cutShort_ = cutShort_ || got < most;
@@ -43,19 +48,43 @@ class WatchedFile : public QFile {
 
  private:
   const std::function<bool()>& stopped_;
+  Clock::time_point end_ = Clock::now() + longestReading;
   bool cutShort_ = false;
   bool askedBehindEnd_ = false;
 };
+
+// By what a file begins with, whatever its name says. Other formats that the toolkit may have
+// learned, such as drawings that name further files, are never decoded.
+QByteArray formatOf(QFile& file) {
+  struct Sign {
+    QByteArrayView bytes;
+    const char* format;
+  };
+  static constexpr Sign signs[] = {{"BM", "bmp"},
+                                   {"\xFF\xD8\xFF", "jpeg"},
+                                   {"\x89PNG\r\n\x1A\n", "png"},
+                                   {"GIF8", "gif"},
+                                   {QByteArrayView("\0\0\1\0", 4), "ico"},
+                                   {QByteArrayView("\0\0\2\0", 4), "cur"}};
+  constexpr qint64 longestSign = 8;
+  const QByteArray begin = file.read(longestSign);
+  file.seek(0);
+  for (const Sign& sign : signs) {
+    if (begin.startsWith(sign.bytes)) return sign.format;
+  }
+  return {};
+}
 
 bool isTurned(const QImageReader& reader) {
   return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
 }
 
 std::optional<PictureFault> faultOf(const QFileInfo& file) {
-  if (!file.exists()) return PictureFault::Missing;
+  if (!file.exists() || !file.isNativePath()) return PictureFault::Missing;
   if (!file.isFile()) return PictureFault::Folder;
   if (!file.isReadable()) return PictureFault::Refused;
   if (file.size() == 0) return PictureFault::Empty;
+  if (file.size() > largestFile) return PictureFault::TooLarge;
   return std::nullopt;
 }
 
@@ -71,11 +100,18 @@ bool isTooLarge(const QImageReader& reader, const QSize& size) {
 }
 
 std::optional<PictureFault> faultOf(QImageReader& reader) {
-  if (!reader.canRead()) return PictureFault::NotAPicture;
+  if (reader.format().isEmpty() || !reader.canRead()) return PictureFault::NotAPicture;
   const QSize size = reader.size();
   if (size.isEmpty()) return PictureFault::Damaged;
   if (isTooLarge(reader, size)) return PictureFault::TooLarge;
   return std::nullopt;
+}
+
+void prepare(QImageReader& reader, QFile& file) {
+  reader.setAutoDetectImageFormat(false);
+  reader.setFormat(formatOf(file));
+  reader.setDevice(&file);
+  reader.setAutoTransform(true);
 }
 
 QSize scaledSize(const QSize& upright, const QSize& limit) {
@@ -93,9 +129,8 @@ ReadPicture readPicture(const QString& path, const QSize& limit,
     read.fault = PictureFault::Refused;
     return read;
   }
-  QImageReader reader(&file);
-  reader.setAutoTransform(true);
-  reader.setDecideFormatFromContent(true);
+  QImageReader reader;
+  prepare(reader, file);
   read.fault = faultOf(reader);
   if (read.fault) return read;
   read.natural = isTurned(reader) ? reader.size().transposed() : reader.size();
@@ -107,6 +142,16 @@ ReadPicture readPicture(const QString& path, const QSize& limit,
   file.forgetReads();
   if (reader.read(&read.image) && !file.endedEarly(format)) return read;
   return {.image = {}, .natural = {}, .fault = PictureFault::Damaged};
+}
+
+bool isPicture(const QString& path) {
+  if (faultOf(QFileInfo(path))) return false;
+  const std::function<bool()> never;
+  WatchedFile file(path, never);
+  if (!file.open()) return false;
+  QImageReader reader;
+  prepare(reader, file);
+  return !faultOf(reader);
 }
 
 }  // namespace desktop

@@ -20,4 +20,7 @@ struct ReadPicture {
 [[nodiscard]] ReadPicture readPicture(const QString& path, const QSize& limit,
                                       const std::function<bool()>& stopped = {});
 
+// By the head of the file alone.
+[[nodiscard]] bool isPicture(const QString& path);
+
 }  // namespace desktop

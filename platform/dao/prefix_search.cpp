@@ -144,6 +144,8 @@ Status PrefixReader::State::readSlice(Deadline deadline) {
     if (late) last = select.text(FoldColumn);
   }
   select.reset();
+  // Else an index that is out of order would be read in a circle.
+  if (!read && last <= from) return {Fault::Damaged, subject + ": the file is damaged."};
   from = std::move(last);
   rows.closeRun();
   return {};

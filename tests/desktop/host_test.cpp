@@ -1,5 +1,7 @@
+#include <QHelpEvent>
 #include <QImage>
 #include <QInputDialog>
+#include <QToolTip>
 
 #include "tests/desktop/desk.h"
 
@@ -69,9 +71,57 @@ TEST(Host, KeysNeverLoseWhatHangsOnAQuestion) {
 
 TEST(Host, TextsOfPeopleAreNoMarkup) {
   WindowDesk desk;
-  desk.answers.look = [](QMessageBox& box) { EXPECT_EQ(box.textFormat(), Qt::PlainText); };
+  desk.answers.look = [](QMessageBox& box) {
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    for (const QLabel* label : box.findChildren<QLabel*>())
+      EXPECT_NE(label->textFormat(), Qt::AutoText) << label->text().toStdString();
+  };
   desk.answers.expect(QMessageBox::Ok);
   desk.host.runtimeError({platform::Fault::Other, "<b>IDCard</b>"});
+}
+
+// A text that names a file without end, in every place where a control shows its words.
+TEST(Host, MarkupInStoredTextIsShownAsItStands) {
+  const std::string hostile = R"(<img src="file:///dev/zero"><b>x</b>)";
+  struct Screen : forms::Form {
+    Screen() : Form("screen") {}
+    forms::Label label{*this, "label"};
+    forms::TextBox box{*this, "box"};
+    forms::ComboBox combo{*this, "combo"};
+    forms::CheckBox check{*this, "check"};
+    forms::CommandButton button{*this, "button"};
+    forms::ListBox list{*this, "list"};
+  } screen;
+  for (forms::Control* control : screen.controls()) {
+    control->setCaption(hostile);
+    control->setToolTip(hostile);
+  }
+  screen.box.setText(hostile);
+  screen.list.setItems({forms::ListItem{.text = hostile}});
+  screen.combo.setItems({hostile});
+  screen.setCaption(hostile);
+  WindowDesk desk;
+  desk.host.show(screen);
+  QWidget& window = *desk.host.windowOf(screen);
+  int shown = 0;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    if (const auto* label = qobject_cast<QLabel*>(widget)) {
+      EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+    }
+    if (!widget->isVisible() || widget->toolTip().isEmpty()) continue;
+    QHelpEvent hover(QEvent::ToolTip, {2, 2}, widget->mapToGlobal(QPoint(2, 2)));
+    QCoreApplication::sendEvent(widget, &hover);
+    for (const QWidget* top : QApplication::topLevelWidgets()) {
+      const auto* tip = qobject_cast<const QLabel*>(top);
+      if (tip == nullptr || !tip->isVisible()) continue;
+      ++shown;
+      EXPECT_EQ(tip->textFormat(), Qt::PlainText);
+      EXPECT_EQ(tip->text(), QString::fromStdString(hostile));
+    }
+    QToolTip::hideText();
+  }
+  EXPECT_GE(shown, 5);
+  desk.host.close(screen);
 }
 
 TEST(Host, AModalFormReturnsWhenItIsClosed) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "desktop/appearance.h"
+#include "desktop/plain_words.h"
 #include "desktop/screen_room.h"
 #include "tests/desktop/desk.h"
 
@@ -11,6 +12,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   desktop::applyAppearance(desktop::Shade::Light);
+  desktop::showWordsPlain();
   desktop::setScreenRoom(support::usualRoom);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

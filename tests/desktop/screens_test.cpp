@@ -67,6 +67,10 @@ void checkToolbar(const QWidget& window, const forms::Toolbar& toolbar) {
 
 // What a screen reader says of everything that the keyboard can reach.
 void checkSpoken(const QWidget& window) {
+  for (const QLabel* label : window.findChildren<QLabel*>()) {
+    if (!label->isVisible()) continue;
+    EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+  }
   for (QWidget* widget : window.findChildren<QWidget*>()) {
     if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus) continue;
     if (widget->focusProxy() != nullptr || widget->inherits("QScrollBar")) continue;
