@@ -1,5 +1,6 @@
 #include "app/start_up.h"
 
+#include <array>
 #include <memory>
 
 #include "documents/frm_pattern.h"
@@ -28,6 +29,7 @@
 #include "shell/frm_pass.h"
 #include "shell/frm_save.h"
 #include "shell/speciality.h"
+#include "shell/told_links.h"
 
 namespace app {
 
@@ -103,6 +105,7 @@ Session::Outcome Session::start() {
     main_.Unload();
     return Outcome::Refused;
   }
+  shell::tellLinks(istasyon_, std::array{istasyon_.UygYolu, istasyon_.dosya("Data")});
   registry::dogumGunuHatirlat(istasyon_);
   if (istasyon_.BransNo == shell::brans::polyclinic) main_.BGenel.setValue(true);
   istasyon_.host.show(main_);

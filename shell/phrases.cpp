@@ -285,6 +285,11 @@ constexpr auto phraseRows = std::to_array<Row>({
      "Bir dosyanın yerinde bağlantı, klasör ya da aygıt var. Ona dokunulmadı."},
     {Phrase::FileTooLarge, "A file is far larger than it can be, and was not read.",
      "Bir dosya olabileceğinden çok daha büyük; okunmadı."},
+    {Phrase::FoldersAreLinks,
+     "The data of the practice lie behind a link. Everything goes on working; if nobody of the "
+     "practice has set this up, ask who did. This is said once.",
+     "Muayenehanenin verileri bir bağlantının arkasında duruyor. Her şey çalışmaya devam eder; "
+     "bunu muayenehaneden kimse kurmadıysa kimin kurduğunu sorun. Bu bir kez söylenir."},
 });
 
 }  // namespace

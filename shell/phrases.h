@@ -160,7 +160,8 @@ enum class Phrase {
   HiddenAsked,   // what the password is good for
   HiddenNotSet,  // and that there is none yet
   NotAPlainFile,
-  FileTooLarge
+  FileTooLarge,
+  FoldersAreLinks  // and go on working; lines follow
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);
