@@ -23,11 +23,13 @@
 #include "scheduling/frm_ayar.h"
 #include "scheduling/frm_mesajlar.h"
 #include "scheduling/frm_msg_gon.h"
+#include "scheduling/message_board.h"
 #include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
 #include "shell/frm_save.h"
+#include "shell/letterhead.h"
 #include "shell/speciality.h"
 #include "shell/told_links.h"
 
@@ -105,11 +107,18 @@ Session::Outcome Session::start() {
     main_.Unload();
     return Outcome::Refused;
   }
-  shell::tellLinks(istasyon_, std::array{istasyon_.UygYolu, istasyon_.dosya("Data")});
+  baslangictaSoyle();
   registry::dogumGunuHatirlat(istasyon_);
   if (istasyon_.BransNo == shell::brans::polyclinic) main_.BGenel.setValue(true);
   istasyon_.host.show(main_);
   return Outcome::Shown;
+}
+
+// What will not work as it should today, before anybody relies on it.
+void Session::baslangictaSoyle() {
+  shell::tellLinks(istasyon_, std::array{istasyon_.UygYolu, istasyon_.dosya("Data")});
+  scheduling::mesajlarOkunurMu(istasyon_);
+  shell::baslikOkunurMu(istasyon_);
 }
 
 bool Session::openingPassword() {

@@ -161,7 +161,14 @@ enum class Phrase {
   HiddenNotSet,  // and that there is none yet
   NotAPlainFile,
   FileTooLarge,
-  FoldersAreLinks  // and go on working; lines follow
+  FoldersAreLinks,    // and go on working; lines follow
+  MessageStaysHere,   // a reason follows
+  NameNotOffered,     // a reason follows
+  FontsUnread,        // a reason follows
+  MessagesNotRead,    // a reason follows
+  NamesNotRead,       // a reason follows
+  LetterheadNotRead,  // a reason follows
+  ReplaceLetterhead
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

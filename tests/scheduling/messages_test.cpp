@@ -63,10 +63,12 @@ TEST_F(Messages, ArriveAtTheirAddresseeInAnyCaseAndInEveryView) {
   receive("ibrahim", "dün", "21.11.2026 17:00");
   receive("İBRAHİM  ", "bugün");
   receive("Ibrahim", "başkası");
-  ASSERT_TRUE(files::changeMessage(mesajDosyasi(desk.station), {1, kept(0)},
-                                   [](MessageRecord& record) { record.isRead = 1; }));
-  ASSERT_TRUE(files::changeMessage(mesajDosyasi(desk.station), {2, kept(1)},
-                                   [](MessageRecord& record) { record.isNew = 0; }));
+  ASSERT_TRUE(files::changeMessages(mesajDosyasi(desk.station),
+                                    std::array{files::Message{1, kept(0)}},
+                                    [](MessageRecord& record) { record.isRead = 1; }));
+  ASSERT_TRUE(files::changeMessages(mesajDosyasi(desk.station),
+                                    std::array{files::Message{2, kept(1)}},
+                                    [](MessageRecord& record) { record.isNew = 0; }));
   FrmMesajlar board(desk.station);
   board.Load();
   using Case = std::tuple<forms::OptionButton*, const char*, Subjects>;
