@@ -122,12 +122,16 @@ void Session::baslangictaSoyle() {
 }
 
 bool Session::openingPassword() {
-  if (text::Val(istasyon_.ayar("oppas", "0")) != 1) return true;
+  const bool lost = shell::sifreKayip(istasyon_, "oppas");
+  if (!lost && text::Val(istasyon_.ayar("oppas", "0")) != 1) return true;
   const bool accepted =
       shell::sifreSor(istasyon_, shell::password::opening, shell::PasswordChange::Withheld);
   istasyon_.SifreSonucu = 0;
-  if (accepted) return true;
-  if (istasyon_.ayar("nopen", "1") == "True") return false;
+  if (accepted) {
+    if (lost) istasyon_.ayarYaz("oppas", "1");
+    return true;
+  }
+  if (istasyon_.ayar("nopen", "1") == "True" || shell::sifreKayip(istasyon_, "nopen")) return false;
   sp4(main_);
   return true;
 }

@@ -8,9 +8,13 @@
 
 namespace shell {
 
+// What a page can show at its head, many times over; more would keep every page waiting.
+constexpr richtext::ReadLimits letterheadLimits{.textBytes = std::size_t{1} << 18U,
+                                                .pieces = 20'000};
+
 platform::Result<richtext::Document> basligiOku(const Station& istasyon) {
   const auto bytes = files::readFile(istasyon.dosya(letterhead::text), largestLetterhead);
-  if (bytes) return richtext::readRtf(*bytes);
+  if (bytes) return richtext::readRtf(*bytes, letterheadLimits);
   if (bytes.error().fault() == platform::Fault::Missing) return richtext::Document();
   return std::unexpected(bytes.error());
 }

@@ -312,6 +312,20 @@ constexpr auto phraseRows = std::to_array<Row>({
      "place. Replace it?",
      "Başlık dosyası okunamamıştı. Bu yazı onun yerine geçerse içindekiler kaybolur. "
      "Değiştirilsin mi?"},
+    {Phrase::PasswordLost,
+     "This user's settings were lost or damaged, and a password with them. What it kept closed "
+     "stays closed.\nIf there is a copy of the settings, put it back into their folder. To go on "
+     "without the old passwords, remove this file and start again:\n",
+     "Bu kullanıcının ayarları kayboldu ya da bozuldu; bir şifre de onlarla gitti. Şifrenin "
+     "kapattığı kapalı kalır.\nAyarların bir kopyası varsa klasörüne geri koyun. Eski şifreler "
+     "olmadan devam etmek için şu dosyayı silip yeniden başlatın:\n"},
+    {Phrase::SettingsMended,
+     "Some of your settings could not be read; the others are used. Everything that was there is "
+     "kept.\n",
+     "Ayarlarınızın bir kısmı okunamadı; kalanı kullanılıyor. Eskiden ne varsa saklandı.\n"},
+    {Phrase::SettingsNotRead,
+     "Your settings could not be read. The program works with the usual ones.\n",
+     "Ayarlarınız okunamadı. Program alışılmış ayarlarla çalışıyor.\n"},
 });
 
 }  // namespace

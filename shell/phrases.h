@@ -168,7 +168,10 @@ enum class Phrase {
   MessagesNotRead,    // a reason follows
   NamesNotRead,       // a reason follows
   LetterheadNotRead,  // a reason follows
-  ReplaceLetterhead
+  ReplaceLetterhead,
+  PasswordLost,    // the path of a file follows
+  SettingsMended,  // a reason follows
+  SettingsNotRead  // a reason follows
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

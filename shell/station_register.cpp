@@ -118,7 +118,7 @@ Result<long> StationRegister::takeSlot(milliseconds patience) {
 
 Result<long> StationRegister::whereElse(std::string_view name) const {
   const std::string wanted = slotName(name);
-  const auto count = slots();
+  const auto count = slotCount();
   if (!count) return std::unexpected(count.error());
   for (long slot = 1; slot <= *count && !wanted.empty(); ++slot) {
     if (slot == slot_) continue;
@@ -145,7 +145,7 @@ Status StationRegister::writeOwn(const NetRecord& record) {
 }
 
 Status StationRegister::flagOthers() {
-  const auto count = slots();
+  const auto count = slotCount();
   if (!count) return count.error();
   for (long slot = 1; slot <= *count; ++slot) {
     auto other = read(slot);
@@ -158,7 +158,7 @@ Status StationRegister::flagOthers() {
 }
 
 // Whatever the length of the file is: there are no more.
-Result<long> StationRegister::slots() const {
+Result<long> StationRegister::slotCount() const {
   const auto count = file_ ? file_->count() : Result<long>(0);
   return count ? std::min(*count, mostStations) : count;
 }

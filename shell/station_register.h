@@ -57,7 +57,7 @@ class StationRegister {
 
  private:
   [[nodiscard]] platform::Result<files::NetRecord> read(long slot) const;
-  [[nodiscard]] platform::Result<long> slots() const;
+  [[nodiscard]] platform::Result<long> slotCount() const;
   [[nodiscard]] bool isRunning(long slot) const;
 
   std::string path_;

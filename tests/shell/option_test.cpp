@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "registry/frm_main.h"
+#include "shell/letterhead.h"
 #include "stores/value_list.h"
 #include "tests/support/practice.h"
 
@@ -113,6 +114,16 @@ TEST_F(Options, AHostileLetterheadSaysSoAndIsLeftAlone) {
   again.BaşlıkKaydet();
   std::ifstream file(folder / "Data/Baslik.rtf");
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), bytes);
+}
+
+// A page's head never keeps the program busy.
+TEST_F(Options, ALetterheadOfManyPiecesIsRefused) {
+  std::string bytes = "{\\rtf1";
+  for (int i = 0; i < 100'000; ++i) bytes += "\\b a\\b0 b";
+  std::ofstream(folder / "Data/Baslik.rtf") << bytes;
+  shell::baslikOkunurMu(desk.station);
+  ASSERT_EQ(desk.host.errors.size(), 1U);
+  EXPECT_EQ(desk.host.errors[0].fault(), platform::Fault::Damaged);
 }
 
 TEST_F(Options, ALetterheadThatCouldNotBeReadIsNotReplacedUnasked) {
