@@ -1,5 +1,6 @@
 #include "app/start_up.h"
 
+#include <array>
 #include <memory>
 
 #include "documents/frm_pattern.h"
@@ -22,12 +23,16 @@
 #include "scheduling/frm_ayar.h"
 #include "scheduling/frm_mesajlar.h"
 #include "scheduling/frm_msg_gon.h"
+#include "scheduling/message_board.h"
 #include "search/frm_find.h"
 #include "shell/frm_about.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
 #include "shell/frm_save.h"
+#include "shell/letterhead.h"
 #include "shell/speciality.h"
+#include "shell/told_links.h"
+#include "stores/store_kinds.h"
 
 namespace app {
 
@@ -103,19 +108,34 @@ Session::Outcome Session::start() {
     main_.Unload();
     return Outcome::Refused;
   }
+  baslangictaSoyle();
   registry::dogumGunuHatirlat(istasyon_);
   if (istasyon_.BransNo == shell::brans::polyclinic) main_.BGenel.setValue(true);
   istasyon_.host.show(main_);
   return Outcome::Shown;
 }
 
+// What will not work as it should today, before anybody relies on it.
+void Session::baslangictaSoyle() {
+  std::vector<std::string> places{istasyon_.UygYolu, istasyon_.dosya("Data")};
+  for (const stores::StoreKind& kind : stores::storeKinds)
+    places.push_back(stores::dataFile(istasyon_.UygYolu, kind).string());
+  shell::tellLinks(istasyon_, places);
+  scheduling::mesajlarOkunurMu(istasyon_);
+  shell::baslikOkunurMu(istasyon_);
+}
+
 bool Session::openingPassword() {
-  if (text::Val(istasyon_.ayar("oppas", "0")) != 1) return true;
+  const bool lost = shell::sifreKayip(istasyon_, "oppas");
+  if (!lost && text::Val(istasyon_.ayar("oppas", "0")) != 1) return true;
   const bool accepted =
       shell::sifreSor(istasyon_, shell::password::opening, shell::PasswordChange::Withheld);
   istasyon_.SifreSonucu = 0;
-  if (accepted) return true;
-  if (istasyon_.ayar("nopen", "1") == "True") return false;
+  if (accepted) {
+    if (lost) istasyon_.ayarYaz("oppas", "1");
+    return true;
+  }
+  if (istasyon_.ayar("nopen", "1") == "True" || shell::sifreKayip(istasyon_, "nopen")) return false;
   sp4(main_);
   return true;
 }

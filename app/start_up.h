@@ -26,6 +26,7 @@ class Session {
 
  private:
   [[nodiscard]] bool openingPassword();
+  void baslangictaSoyle();
   void mesajlaraBak();
 
   shell::Station& istasyon_;

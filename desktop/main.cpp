@@ -9,6 +9,8 @@
 #include "desktop/print/qt_printer.h"
 #include "desktop/tour.h"
 #include "platform/settings/user.h"
+#include "shell/fault_words.h"
+#include "shell/frm_pass.h"
 #include "shell/text_lookup.h"
 
 namespace {
@@ -25,7 +27,8 @@ std::string folderOf(const desktop::CommandLine& line) {
 // A tour leaves the user's settings alone.
 settings::Settings userSettings(const desktop::CommandLine& line) {
   if (!line.tour.empty()) return settings::Settings(std::make_unique<settings::MemoryBackend>());
-  return settings::Settings(settings::openBackend(settings::userSettingsPath()));
+  return settings::Settings(
+      settings::openBackend(settings::userSettingsPath(), shell::guardedSettings()));
 }
 
 int serve(desktop::Application& application, shell::Station& station) {
@@ -55,13 +58,13 @@ int main(int argc, char** argv) {
   const shell::ScreenDirectory screens = app::screens();
   settings::Settings settings = userSettings(*line);
   const platform::Status known = settings.refresh();
-  if (!known) application.host().runtimeError(known);
   shell::Station station({application.host(), clock, settings, screens}, folderOf(*line),
                          line->program);
   desktop::QtPrinter printer;
   station.yazici = &printer;
   application.host().setWords([&](std::string_view key) { return metinbul(station, key); });
   application.host().setTurkish([&] { return station.turkce(); });
+  shell::ayarlarOkunduMu(station, known);
   return line->tour.empty() ? serve(application, station)
                             : takePictures(application, station, {line->tour, line->only});
 }

@@ -96,7 +96,9 @@ void FrmMain::yonleriAc() {
   yonEtkin(Direction::Forward, anyone);
 }
 
+// No other screen is open above the card then that has read its font record already.
 void FrmMain::Activate() {
+  if (shell::ayarDosyasiAc(istasyon)) baski.Setkayitlarioku();
   Pexam.setVisible(istasyon.acik("dexam"));
   gunlukListele();
 }
@@ -194,7 +196,10 @@ void FrmMain::saatVurusu() {
   sbDurum.setPanel(2, text::shortTime(now));
   ++vurus_;
   if (vurus_ % ticksPerLook == 0) digerleriniGor();
-  if (vurus_ % ticksPerDayList == 0) gunuTazele();
+  if (vurus_ % ticksPerDayList == 0) {
+    gunuTazele();
+    netYenidenDene();
+  }
   const auto counter = text::wholeNumber(idk.caption()).value_or(6);
   if (counter == 6) return;
   idk.setCaption(std::to_string(counter + 1));

@@ -315,7 +315,8 @@ class FrmMain : public shell::RecordScreen,
   void netacilis();
   void netkapanis();
   void yalnizAcildi(bool alone);
-  void yerAl();
+  void netYenidenDene();
+  void yerAl(std::chrono::milliseconds patience = files::lockPatience);
   bool netSay(int stations);
   void netDurumu();
   // Looks Station::SeciliHasta up and takes the patient for this station.
@@ -363,6 +364,7 @@ class FrmMain : public shell::RecordScreen,
   bool acildi_ = false;
   bool hataliCikis_ = false;    // the last run ended without netkapanis
   bool sayildi_ = false;        // this run stands in the setting NS
+  bool netDenendi_ = false;     // the start is over: what failed in it may be tried again
   platform::Status yalnizlik_;  // why this station has no slot
   NameSearch isimler_;
   NamesakeNotes adasNotlari_;

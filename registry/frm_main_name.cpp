@@ -56,7 +56,7 @@ void FrmMain::isimSifresi() {
 }
 
 void FrmMain::hesaplariAc() {
-  const bool asked = istasyon.ayar("accpas", "0") != "0";
+  const bool asked = istasyon.ayar("accpas", "0") != "0" || shell::sifreKayip(istasyon, "accpas");
   if (asked && !shell::sifreSor(istasyon, shell::password::accounts)) return;
   istasyon.SifreSonucu = 0;
   ekranAc(mnuhesaplar, "frmaccount");

@@ -34,6 +34,8 @@ bool FrmMain::netAc() {
       return false;
     }
     yalnizlik_ = company ? Status() : company.error();
+    if (yalnizlik_.fault() == Fault::NotAFile)
+      shell::hataSoyle(istasyon, Phrase::WithoutRegister, yalnizlik_);
     yalnizAcildi(company && *company == Company::Alone);
     return true;
   }
@@ -56,11 +58,26 @@ void FrmMain::netacilis() {
     istasyon.ayarYaz(runningStations, "0");
   }
   if (istasyon.sicil.isOpen()) yerAl();
+  netDenendi_ = true;
   netDurumu();
 }
 
-void FrmMain::yerAl() {
-  const auto slot = istasyon.sicil.takeSlot();
+// What kept the register or the font records from this station in the morning may be over. Nobody
+// is made to wait for it.
+void FrmMain::netYenidenDene() {
+  constexpr std::chrono::milliseconds none{0};
+  if (!netDenendi_ || istasyon.sicil.slot() > 0 || !istasyon.stores.personal.database.isOpen())
+    return;
+  if (!istasyon.sicil.isOpen() && !istasyon.sicil.open(istasyon.UygYolu, none)) return;
+  yerAl(none);
+  const std::string patient = istasyon.AgKaydi.name;
+  auto lock = PatientLock::take(istasyon);
+  if (lock && !patient.empty() && !lock->isElsewhere(patient)) lock->publish(patient);
+  netDurumu();
+}
+
+void FrmMain::yerAl(std::chrono::milliseconds patience) {
+  const auto slot = istasyon.sicil.takeSlot(patience);
   istasyon.sicil.letIn();
   yalnizlik_ = slot ? Status() : slot.error();
   if (!slot) return;
@@ -81,6 +98,7 @@ void FrmMain::netkapanis() {
   istasyon.AgKaydi = {};
   if (sayildi_ && text::Val(istasyon.ayar(runningStations, "0")) > 0) netSay(-1);
   sayildi_ = false;
+  netDenendi_ = false;
 }
 
 void FrmMain::netDurumu() {

@@ -25,13 +25,6 @@ constexpr int tickMilliseconds = 1000;
 constexpr const char* ticksToRenewal = "10";
 constexpr std::string_view windowName = "Messages";
 
-// A cell has one line.
-std::string onOneLine(std::string text) {
-  std::ranges::replace_if(
-      text, [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
-  return text;
-}
-
 // What tells notes apart, whatever their flags say.
 std::string noteOf(const MessageRecord& record) {
   std::string note;
@@ -102,12 +95,10 @@ void FrmMesajlar::Load() {
 
 void FrmMesajlar::Unload() {
   Timer1.setInterval(0);
-  for (const Message& message : yeniGosterilen_) {
-    // One that was deleted meanwhile has no flag to lose.
-    files::changeMessage(mesajDosyasi(istasyon_), message, [](MessageRecord& record) {
-      record.isNew = 0;
-    }).ignore();
-  }
+  // One that was deleted meanwhile has no flag to lose.
+  files::changeMessages(mesajDosyasi(istasyon_), yeniGosterilen_, [](MessageRecord& record) {
+    record.isNew = 0;
+  }).ignore();
   shell::pencereYaz(istasyon_, *this, shell::mainSection, windowName).ignore();
 }
 
@@ -138,9 +129,9 @@ void FrmMesajlar::Gridyaz() {
 
 void FrmMesajlar::satirEkle(const Message& message) {
   const MessageRecord& record = message.record;
-  std::string row = onOneLine(record.sender);
+  std::string row = gosterilen(record.sender, Lines::One);
   for (const std::string& text : {record.subject, record.sent, record.text})
-    row += '\t' + onOneLine(text);
+    row += '\t' + gosterilen(text, Lines::One);
   msgrid1.AddItem(row);
   const int added = msgrid1.rows() - 1;
   msgrid1.setRowData(added, message.number);
@@ -172,7 +163,7 @@ void FrmMesajlar::satirSecildi() {
   lblsırano.setCaption(std::to_string(message->number));
   for (forms::MenuItem* entry : {&mnusil, &mnuyanıtla}) entry->setEnabled(true);
   for (const char* key : {"sil", "yanit"}) tbToolBar.setButtonEnabled(key, true);
-  txtmesaj.setText(message->record.text);
+  txtmesaj.setText(gosterilen(message->record.text, Lines::Many));
   if (!kendiliginden_) okundu(*message);
 }
 
@@ -190,7 +181,8 @@ void FrmMesajlar::okundu(Message& message) {
     record.isNew = 0;
     record.isRead = 1;
   };
-  const platform::Status marked = files::changeMessage(mesajDosyasi(istasyon_), message, mark);
+  const platform::Status marked =
+      files::changeMessages(mesajDosyasi(istasyon_), {&message, 1}, mark);
   if (!marked) return hataYaz(marked);
   mark(message.record);
   vurgula(msgrid1.Row(), forms::Emphasis::None);
@@ -242,8 +234,8 @@ void FrmMesajlar::yanitla() {
   const Message* const message = secilen();
   if (message == nullptr) return;
   constexpr std::string_view answer = "Re: ";
-  const std::string& subject = message->record.subject;
-  yaz(message->record.sender,
+  const std::string subject = gosterilen(message->record.subject, Lines::One);
+  yaz(gosterilen(message->record.sender, Lines::One),
       subject.starts_with(answer) ? subject : std::string(answer) + subject);
 }
 

@@ -20,12 +20,6 @@ using files::MessageRecord;
 using shell::metinbul;
 using shell::Phrase;
 
-namespace {
-
-constexpr std::string_view namesFile = "Data/List.dat";
-
-}  // namespace
-
 FrmMsgGon::FrmMsgGon(shell::Station& station) : Form("Frmmsggon"), istasyon_(station) {
   ComKimden.setMaxLength(MessageRecord::nameWidth);
   ComKime.setMaxLength(MessageRecord::nameWidth);
@@ -66,8 +60,9 @@ void FrmMsgGon::kalanYaz() {
 
 // Without the list of names they are typed.
 void FrmMsgGon::isimleriListele() {
-  const auto names = files::readNames(istasyon_.dosya(namesFile));
+  auto names = files::readNames(isimDosyasi(istasyon_));
   if (!names) return;
+  for (std::string& name : *names) name = gosterilen(name, Lines::One);
   ComKimden.setItems(*names);
   ComKime.setItems(*names);
 }
@@ -91,20 +86,22 @@ void FrmMsgGon::gonder() {
                          shell::FileText{"Mesaj", record.text, MessageRecord::textWidth}};
   if (!shell::boyleKalsinMi(istasyon_, texts, Phrase::SendMessageSo)) return;
   if (platform::Status sent = files::sendMessage(mesajDosyasi(istasyon_), record); !sent)
-    return shell::hataSoyle(istasyon_, Phrase::StoreFailed, sent);
-  // The message is out; a name that is not offered next time is typed again.
-  ListeleriKimden().ignore();
-  ListeleriKime().ignore();
+    return shell::hataSoyle(istasyon_, Phrase::MessageStaysHere, sent);
   gonderildi_ = true;
+  for (const platform::Status& kept : {ListeleriKimden(), ListeleriKime()}) {
+    if (kept) continue;
+    shell::hataSoyle(istasyon_, Phrase::NameNotOffered, kept);
+    break;
+  }
   istasyon_.host.close(*this);
 }
 
 platform::Status FrmMsgGon::ListeleriKimden() {
-  return files::addName(istasyon_.dosya(namesFile), ComKimden.text());
+  return files::addName(isimDosyasi(istasyon_), ComKimden.text());
 }
 
 platform::Status FrmMsgGon::ListeleriKime() {
-  return files::addName(istasyon_.dosya(namesFile), ComKime.text());
+  return files::addName(isimDosyasi(istasyon_), ComKime.text());
 }
 
 bool FrmMsgGon::QueryUnload() {

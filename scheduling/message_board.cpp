@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/files/name_list.h"
 #include "platform/text/fold.h"
 #include "platform/text/utf8.h"
+#include "shell/fault_words.h"
+#include "shell/phrases.h"
 
 namespace scheduling {
 
@@ -15,6 +18,7 @@ namespace {
 
 constexpr std::string_view addressSetting = "msg address";
 constexpr std::string_view file = "Data/message.dat";
+constexpr std::string_view namesFile = "Data/List.dat";
 
 bool isOn(std::string_view setting) {
   return setting == "1" || text::equalsNoCase(setting, "True");
@@ -49,6 +53,10 @@ std::string mesajDosyasi(const Station& istasyon) {
   return istasyon.dosya(file);
 }
 
+std::string isimDosyasi(const Station& istasyon) {
+  return istasyon.dosya(namesFile);
+}
+
 std::string mesajAdresi(const Station& istasyon) {
   return text::trim(istasyon.ayar(addressSetting));
 }
@@ -59,6 +67,17 @@ bool mesajAdresiSor(Station& istasyon, std::string_view prompt, std::string_view
   if (name.empty()) return false;
   istasyon.ayarYaz(addressSetting, name);
   return true;
+}
+
+void mesajlarOkunurMu(Station& istasyon) {
+  const auto tell = [&](const std::string& path, shell::Phrase words, auto read) {
+    std::error_code missing;
+    if (!std::filesystem::exists(std::filesystem::symlink_status(path, missing))) return;
+    if (const auto content = read(path); !content)
+      shell::hataSoyle(istasyon, words, content.error());
+  };
+  tell(mesajDosyasi(istasyon), shell::Phrase::MessagesNotRead, files::readMessages);
+  tell(isimDosyasi(istasyon), shell::Phrase::NamesNotRead, files::readNames);
 }
 
 bool gorunur(const MessageRecord& record, std::string_view address, MessageView view,
@@ -76,6 +95,17 @@ bool gorunur(const MessageRecord& record, std::string_view address, MessageView 
       return record.isNew == 1;
   }
   return false;
+}
+
+std::string gosterilen(std::string_view text, Lines lines) {
+  std::string shown;
+  for (std::size_t position = 0; position < text.size();) {
+    const char32_t c = text::nextCharacter(text, position);
+    const bool isControl = c < U' ' || (c >= 0x7F && c <= 0x9F);
+    const bool isLayout = c == U'\r' || c == U'\n' || c == U'\t';
+    text::appendCharacter(shown, isControl && !(isLayout && lines == Lines::Many) ? U' ' : c);
+  }
+  return shown;
 }
 
 MessageStamp mesajDurumu(const Station& istasyon) {

@@ -34,6 +34,8 @@ inline constexpr std::array messageViews{
 void gorunumSakla(shell::Station& istasyon, MessageView view);
 
 [[nodiscard]] std::string mesajDosyasi(const shell::Station& istasyon);
+// The names of senders and addressees.
+[[nodiscard]] std::string isimDosyasi(const shell::Station& istasyon);
 // The user's own name; empty until it was given. Without one nothing is for this user.
 [[nodiscard]] std::string mesajAdresi(const shell::Station& istasyon);
 // Asks for the name and keeps it. False when the user gives none.
@@ -43,6 +45,15 @@ bool mesajAdresiSor(shell::Station& istasyon, std::string_view prompt, std::stri
 // and belongs to the view. `address` empty is nobody.
 [[nodiscard]] bool gorunur(const files::MessageRecord& record, std::string_view address,
                            MessageView view, const text::DateTime& today);
+
+// What a person can be shown of a text that another program, or none, may have written: control
+// characters become blanks, the ends of lines too where there is one line.
+enum class Lines { One, Many };
+[[nodiscard]] std::string gosterilen(std::string_view text, Lines lines);
+
+// Tells the user when the messages, or the names of those who write them, are there and cannot be
+// read as they stand.
+void mesajlarOkunurMu(shell::Station& istasyon);
 
 // When two are equal, there is nothing to read that was not there before.
 struct MessageStamp {

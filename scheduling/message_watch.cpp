@@ -13,11 +13,14 @@ std::optional<long> MessageWatch::look() {
   MessageStamp now = mesajDurumu(istasyon_);
   if (now == seen_) return std::nullopt;
   // A practice that has never written a message gets no file for it.
-  const auto messages =
-      now.size == 0 ? std::vector<files::Message>()
-                    : mesajlar(istasyon_, MessageView::New).value_or(std::vector<files::Message>());
+  long fresh = 0;
+  if (now.size > 0) {
+    const auto messages = mesajlar(istasyon_, MessageView::New);
+    if (!messages) return std::nullopt;  // the next look may be luckier
+    fresh = static_cast<long>(messages->size());
+  }
   seen_ = std::move(now);
-  return static_cast<long>(messages.size());
+  return fresh;
 }
 
 // A clock that was set back counts as time gone by.

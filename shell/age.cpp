@@ -32,10 +32,11 @@ std::optional<std::string> yasmetni(Station& istasyon, std::string_view birth,
   if (text::length(birth) < shortestDate) {
     const auto year = text::wholeNumber(birth);
     if (!year) return std::nullopt;
+    if (*year > reference.year()) return std::nullopt;
     return std::to_string(reference.year() - *year);
   }
   const auto date = text::parseDate(birth, reference);
-  if (!date) return std::nullopt;
+  if (!date || date->day > reference.day) return std::nullopt;
   const int months = text::monthsBetween(*date, reference);
   if (months >= monthsOfYearsOnly) return std::to_string(months / 12);
   if (months <= monthsOfDaysShown) return monthsAndDays(istasyon, months, *date, reference);

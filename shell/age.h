@@ -10,7 +10,7 @@
 namespace shell {
 
 // The age text at `reference`. A birth value shorter than 7 characters is a year; otherwise a date.
-// None when the value is neither.
+// None when the value is neither, or later than the reference: nobody has less than no age.
 [[nodiscard]] std::optional<std::string> yasmetni(Station& istasyon, std::string_view birth,
                                                   const text::DateTime& reference);
 

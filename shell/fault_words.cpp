@@ -59,4 +59,10 @@ void hataSoyle(Station& istasyon, Phrase failed, const platform::Status& fault) 
   istasyon.host.runtimeError({fault.fault(), phrase(istasyon, failed) + nedeni(istasyon, fault)});
 }
 
+void ayarlarOkunduMu(Station& istasyon, const platform::Status& read) {
+  if (read) return;
+  const bool mended = read.fault() == Fault::Damaged;
+  hataSoyle(istasyon, mended ? Phrase::SettingsMended : Phrase::SettingsNotRead, read);
+}
+
 }  // namespace shell

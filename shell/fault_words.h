@@ -18,5 +18,7 @@ namespace shell {
 // A box. The phrase says what did not come about.
 void hataSoyle(Station& istasyon, const platform::Status& fault);
 void hataSoyle(Station& istasyon, Phrase failed, const platform::Status& fault);
+// What reading the user's settings came to.
+void ayarlarOkunduMu(Station& istasyon, const platform::Status& read);
 
 }  // namespace shell

@@ -36,6 +36,16 @@ void setFont(files::SettingRecord& record, const forms::Font& font) {
   record.colour = std::to_string(forms::toBgr(font.colour));
 }
 
+// While the stores are closed, whoever closed them opens this file with them.
+bool ayarDosyasiAc(Station& istasyon) {
+  if (istasyon.stores.settings || !istasyon.stores.personal.database.isOpen()) return false;
+  auto file =
+      files::RecordFile::open(istasyon.dosya("Data/setting.dat"), files::SettingRecord::length);
+  if (!file) return false;
+  istasyon.stores.settings = std::move(*file);
+  return true;
+}
+
 platform::Result<files::SettingRecord> ayarKaydi(const Station& istasyon, int record) {
   if (!istasyon.stores.settings)
     return std::unexpected(

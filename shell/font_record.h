@@ -19,6 +19,9 @@ inline constexpr int signature = 22;
 [[nodiscard]] forms::Font fontOf(const files::SettingRecord& record);
 void setFont(files::SettingRecord& record, const forms::Font& font);
 
+// Tries again when the file could not be opened; whether it has become open by that.
+bool ayarDosyasiAc(Station& istasyon);
+
 // A record as it is stored, whoever wrote it; one that was never written has no owner.
 [[nodiscard]] platform::Result<files::SettingRecord> ayarKaydi(const Station& istasyon, int record);
 platform::Status ayarKaydiYaz(Station& istasyon, int record, const files::SettingRecord& content);

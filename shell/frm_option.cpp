@@ -93,11 +93,12 @@ void FrmOption::ayarlariBagla() {
 void FrmOption::ayarlariOku() {
   (istasyon.turkce() ? OptTR : OptGB).setValue(true);
   const auto read = [this](const BoxSetting& row) {
-    (this->*row.box).setValue(istasyon.acik(row.key));
+    (this->*row.box).setValue(istasyon.acik(row.key) || sifreKayip(istasyon, row.key));
   };
   std::ranges::for_each(passwordBoxes, read);
   std::ranges::for_each(otherBoxes, read);
-  (istasyon.ayar("nopen", "1") == "True" ? optaçma : optkısıtlıaç).setValue(true);
+  const bool stays = istasyon.ayar("nopen", "1") == "True" || sifreKayip(istasyon, "nopen");
+  (stays ? optaçma : optkısıtlıaç).setValue(true);
   Comgönce.setText(istasyon.ayar("remday", "0"));
   txtbtime.setText(istasyon.ayar("btime", "12:00"));
   txtintapp.setText(istasyon.ayar("intapp", "30"));

@@ -111,6 +111,7 @@ class FrmOption : public forms::Form {
   bool cancelled_ = false;
   forms::ComboBox* secilen_ = nullptr;
   bool baslikDegisti_ = false;
+  bool baslikOkunamadi_ = false;  // what the file holds is not what the screen shows
 };
 
 }  // namespace shell

@@ -1,14 +1,14 @@
 // The Options screen's third tab: the letterhead.
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
 
 #include "platform/files/atomic_write.h"
+#include "platform/files/read_file.h"
 #include "platform/text/number.h"
 #include "shell/fault_words.h"
 #include "shell/frm_option.h"
 #include "shell/letterhead.h"
+#include "shell/phrases.h"
 
 namespace shell {
 
@@ -36,10 +36,12 @@ constexpr std::array<FormatButton, 7> formatButtons{{
     {"Align Right", [](Editor& e) { e.setSelAlignment(Alignment::Right); }},
 }};
 
+// As large as a sheet of paper in fine colours.
+constexpr std::size_t largestPicture = 128 * files::megabyte;
+
 platform::Status copyFile(const std::string& from, const std::string& to) {
-  std::ifstream file(from, std::ios::binary);
-  if (!file) return {platform::Fault::Missing, from + ": the file cannot be read."};
-  return files::writeAtomically(to, std::string{std::istreambuf_iterator<char>(file), {}});
+  const auto bytes = files::readFile(from, largestPicture, files::Links::Followed);
+  return bytes ? files::writeAtomically(to, *bytes) : bytes.error();
 }
 
 }  // namespace
@@ -70,7 +72,8 @@ void FrmOption::basligiBagla() {
 
 void FrmOption::basligiOku() {
   auto baslik = shell::basligiOku(istasyon);
-  if (!baslik) hataSoyle(istasyon, baslik.error());
+  baslikOkunamadi_ = !baslik;
+  if (!baslik) hataSoyle(istasyon, Phrase::LetterheadNotRead, baslik.error());
   rtfText.edit([&](Editor& e) { e.load(baslik ? std::move(*baslik) : richtext::Document()); });
   baslikDegisti_ = false;
   ImgBaşlık.setPath(istasyon.dosya(letterhead::picture));
@@ -111,6 +114,8 @@ void FrmOption::BaşlıkKaydet() {
   resmiSakla(ImgBaşlık, letterhead::picture);
   resmiSakla(Imgicon, letterhead::icon);
   if (!baslikDegisti_) return;
+  if (baslikOkunamadi_ && !istasyon.confirmLoss(phrase(istasyon, Phrase::ReplaceLetterhead)))
+    return;
   const platform::Status written = basligiYaz(istasyon, rtfText.editor().document());
   if (!written) return hataSoyle(istasyon, written);
   basligiOku();

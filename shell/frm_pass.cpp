@@ -72,7 +72,26 @@ void FrmPass::yanlisSifre() {
   istasyon.mesaj(metinbul(istasyon, "msghatalisifre"), host::Buttons::Ok, host::Icon::Critical);
 }
 
+std::vector<settings::Place> guardedSettings() {
+  std::vector<settings::Place> places;
+  for (const std::string_view key :
+       {std::string_view("oppas"), std::string_view("nopen"), password::opening,
+        std::string_view("accpas"), password::accounts, password::names})
+    places.emplace_back(settings::PlaceView{applicationName, mainSection, key});
+  return places;
+}
+
+bool sifreKayip(const Station& istasyon, std::string_view key) {
+  return istasyon.settings.isLost(applicationName, mainSection, key);
+}
+
 bool sifreSor(Station& istasyon, std::string_view key, PasswordChange change) {
+  if (sifreKayip(istasyon, key)) {
+    istasyon.SifreSonucu = 0;
+    istasyon.mesaj(phrase(istasyon, Phrase::PasswordLost) + istasyon.settings.guardPath().string(),
+                   host::Buttons::Ok, host::Icon::Critical);
+    return false;
+  }
   FrmPass dialog(istasyon);
   dialog.Load();
   dialog.about(key);

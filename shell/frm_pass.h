@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "platform/forms/button.h"
 #include "platform/forms/label.h"
@@ -43,8 +44,13 @@ inline constexpr std::string_view names = "namepass";
 
 enum class PasswordChange { Offered, Withheld };
 
+// The settings that keep something closed: the passwords, and whether they are asked for.
+[[nodiscard]] std::vector<settings::Place> guardedSettings();
+// Whether one of them was lost with the file of the settings.
+[[nodiscard]] bool sifreKayip(const Station& istasyon, std::string_view key);
+
 // Asks for the password of that key, or for a new one when none is set. The answer is in
-// SifreSonucu as well.
+// SifreSonucu as well. Where the password was lost, it is told what to do, and the answer is no.
 [[nodiscard]] bool sifreSor(Station& istasyon, std::string_view key,
                             PasswordChange change = PasswordChange::Offered);
 

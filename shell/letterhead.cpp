@@ -1,20 +1,27 @@
 #include "shell/letterhead.h"
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "platform/files/atomic_write.h"
 #include "platform/richtext/rtf_reader.h"
 #include "platform/richtext/rtf_writer.h"
+#include "shell/fault_words.h"
+#include "shell/phrases.h"
 
 namespace shell {
 
+// What a page can show at its head, many times over; more would keep every page waiting.
+constexpr richtext::ReadLimits letterheadLimits{.textBytes = std::size_t{1} << 18U,
+                                                .pieces = 20'000};
+
 platform::Result<richtext::Document> basligiOku(const Station& istasyon) {
-  std::ifstream file(istasyon.dosya(letterhead::text), std::ios::binary);
-  if (!file) return richtext::Document();
-  const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-  return richtext::readRtf(bytes);
+  const auto bytes = files::readFile(istasyon.dosya(letterhead::text), largestLetterhead);
+  if (bytes) return richtext::readRtf(*bytes, letterheadLimits);
+  if (bytes.error().fault() == platform::Fault::Missing) return richtext::Document();
+  return std::unexpected(bytes.error());
+}
+
+void baslikOkunurMu(Station& istasyon) {
+  const auto read = basligiOku(istasyon);
+  if (!read) hataSoyle(istasyon, Phrase::LetterheadNotRead, read.error());
 }
 
 platform::Status basligiYaz(const Station& istasyon, const richtext::Document& baslik) {

@@ -319,6 +319,47 @@ constexpr auto phraseRows = std::to_array<Row>({
      "taşıyan bir klasöre yazılır."},
     {Phrase::WrittenBeside, "The new backup was written to %1.",
      "Yeni yedek %1 klasörüne yazıldı."},
+    {Phrase::FoldersAreLinks,
+     "The data of the practice lie behind a link. Everything goes on working; if nobody of the "
+     "practice has set this up, ask who did. This is said once.",
+     "Muayenehanenin verileri bir bağlantının arkasında duruyor. Her şey çalışmaya devam eder; "
+     "bunu muayenehaneden kimse kurmadıysa kimin kurduğunu sorun. Bu bir kez söylenir."},
+    {Phrase::MessageStaysHere, "The message was not sent. It stays in its window.\n",
+     "Mesaj gönderilmedi. Penceresinde duruyor.\n"},
+    {Phrase::NameNotOffered, "The message was sent. Its names will not be offered the next time.\n",
+     "Mesaj gönderildi. İsimler bir dahaki sefere listede çıkmayacak.\n"},
+    {Phrase::FontsUnread,
+     "The fonts and templates of the printed pages cannot be read, and changes of them will not "
+     "be kept.\n",
+     "Basılan sayfaların yazı tipleri ve şablonları okunamıyor; değişiklikleri saklanmayacak.\n"},
+    {Phrase::MessagesNotRead,
+     "Messages between the stations can be neither read nor sent. Everything else works.\n",
+     "İstasyonlar arası mesajlar okunamıyor ve gönderilemiyor. Gerisi çalışıyor.\n"},
+    {Phrase::NamesNotRead, "The names for messages cannot be offered or kept; they can be typed.\n",
+     "Mesajlar için isimler listelenemiyor ve saklanamıyor; elle yazılabilir.\n"},
+    {Phrase::LetterheadNotRead,
+     "The text of the letterhead cannot be read. Pages come out without it; the file stays as it "
+     "is.\n",
+     "Başlığın yazısı okunamıyor. Sayfalar onsuz basılır; dosya olduğu gibi duruyor.\n"},
+    {Phrase::ReplaceLetterhead,
+     "The letterhead's file could not be read. What it holds is lost when this text takes its "
+     "place. Replace it?",
+     "Başlık dosyası okunamamıştı. Bu yazı onun yerine geçerse içindekiler kaybolur. "
+     "Değiştirilsin mi?"},
+    {Phrase::PasswordLost,
+     "This user's settings were lost or damaged, and a password with them. What it kept closed "
+     "stays closed.\nIf there is a copy of the settings, put it back into their folder. To go on "
+     "without the old passwords, remove this file and start again:\n",
+     "Bu kullanıcının ayarları kayboldu ya da bozuldu; bir şifre de onlarla gitti. Şifrenin "
+     "kapattığı kapalı kalır.\nAyarların bir kopyası varsa klasörüne geri koyun. Eski şifreler "
+     "olmadan devam etmek için şu dosyayı silip yeniden başlatın:\n"},
+    {Phrase::SettingsMended,
+     "Some of your settings could not be read; the others are used. Everything that was there is "
+     "kept.\n",
+     "Ayarlarınızın bir kısmı okunamadı; kalanı kullanılıyor. Eskiden ne varsa saklandı.\n"},
+    {Phrase::SettingsNotRead,
+     "Your settings could not be read. The program works with the usual ones.\n",
+     "Ayarlarınız okunamadı. Program alışılmış ayarlarla çalışıyor.\n"},
 });
 
 }  // namespace

@@ -172,7 +172,18 @@ enum class Phrase {
   StoresInUse,
   FewerThanBackup,
   ReplaceFuller,
-  WrittenBeside
+  WrittenBeside,
+  FoldersAreLinks,    // and go on working; lines follow
+  MessageStaysHere,   // a reason follows
+  NameNotOffered,     // a reason follows
+  FontsUnread,        // a reason follows
+  MessagesNotRead,    // a reason follows
+  NamesNotRead,       // a reason follows
+  LetterheadNotRead,  // a reason follows
+  ReplaceLetterhead,
+  PasswordLost,    // the path of a file follows
+  SettingsMended,  // a reason follows
+  SettingsNotRead  // a reason follows
 };
 
 [[nodiscard]] std::string phrase(Station& istasyon, Phrase which);

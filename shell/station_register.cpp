@@ -1,12 +1,11 @@
 #include "shell/station_register.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
 
 #include "platform/files/checksum.h"
-#include "platform/files/replace.h"
 #include "platform/text/codepage.h"
 #include "platform/text/utf8.h"
 #include "stores/store_kinds.h"
@@ -33,11 +32,6 @@ std::uint64_t fingerprint(std::string_view text) {
   return files::checksum(text);
 }
 
-void empty(const std::string& path) {
-  std::error_code passedOver;  // what a crashed station left is overwritten slot by slot
-  std::filesystem::resize_file(path, 0, passedOver);
-}
-
 }  // namespace
 
 std::string slotName(std::string_view name) {
@@ -59,14 +53,14 @@ Result<StationRegister::Company> StationRegister::open(const std::string& folder
   const auto alone = company->tryAlone();
   if (!alone) return std::unexpected(alone.error());
   if (*alone) {
-    empty(path_);
+    company->empty().ignore();  // what a crashed station left is overwritten slot by slot
   } else if (const Status shared = company->share(patience); !shared) {
     return std::unexpected(shared);
   }
   auto file = RecordFile::open(path_, NetRecord::length);
   if (!file) return std::unexpected(file.error());
   // Whoever may open the stores may open the register.
-  files::shareLike(path_, stores::dataFile(folder, stores::personalKind));
+  file->shareLike(stores::dataFile(folder, stores::personalKind));
   company_.emplace(std::move(*company));
   file_.emplace(std::move(*file));
   return *alone ? Company::Alone : Company::Others;
@@ -96,20 +90,17 @@ void StationRegister::close() {
   slot_ = 0;
   hold_.reset();
   file_.reset();
-  if (company_ && company_->tryAlone() == true) {
-    std::error_code passedOver;  // the next station that is alone empties it
-    std::filesystem::remove(path_, passedOver);
-  }
+  if (company_ && company_->tryAlone() == true) company_->removeFile();
   company_.reset();
 }
 
-Result<files::ScopedRangeLock> StationRegister::lock() const {
+Result<files::ScopedRangeLock> StationRegister::lock(milliseconds patience) const {
   if (!file_) return std::unexpected(Status(Fault::NoCurrent, path_));
-  return file_->lock(wholeRegister);
+  return file_->lock(wholeRegister, patience);
 }
 
-Result<long> StationRegister::takeSlot() {
-  const auto guard = lock();
+Result<long> StationRegister::takeSlot(milliseconds patience) {
+  const auto guard = lock(patience);
   if (!guard) return std::unexpected(guard.error());
   for (long slot = 1; slot <= mostStations; ++slot) {
     auto mine = file_->lock(slot, milliseconds{0});
@@ -127,7 +118,7 @@ Result<long> StationRegister::takeSlot() {
 
 Result<long> StationRegister::whereElse(std::string_view name) const {
   const std::string wanted = slotName(name);
-  const auto count = file_ ? file_->count() : Result<long>(0);
+  const auto count = slotCount();
   if (!count) return std::unexpected(count.error());
   for (long slot = 1; slot <= *count && !wanted.empty(); ++slot) {
     if (slot == slot_) continue;
@@ -154,7 +145,7 @@ Status StationRegister::writeOwn(const NetRecord& record) {
 }
 
 Status StationRegister::flagOthers() {
-  const auto count = file_ ? file_->count() : Result<long>(0);
+  const auto count = slotCount();
   if (!count) return count.error();
   for (long slot = 1; slot <= *count; ++slot) {
     auto other = read(slot);
@@ -164,6 +155,12 @@ Status StationRegister::flagOthers() {
     if (const Status written = file_->put(slot, other->encode()); !written) return written;
   }
   return {};
+}
+
+// Whatever the length of the file is: there are no more.
+Result<long> StationRegister::slotCount() const {
+  const auto count = file_ ? file_->count() : Result<long>(0);
+  return count ? std::min(*count, mostStations) : count;
 }
 
 Result<NetRecord> StationRegister::read(long slot) const {

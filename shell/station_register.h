@@ -37,10 +37,12 @@ class StationRegister {
 
   // Keeps what other stations do to the register out of what is done here. The register must stay
   // open for the life of the lock.
-  [[nodiscard]] platform::Result<files::ScopedRangeLock> lock() const;
+  [[nodiscard]] platform::Result<files::ScopedRangeLock> lock(
+      std::chrono::milliseconds patience = files::lockPatience) const;
 
   // Takes the first slot that belongs to no running station. Its number, counting from 1.
-  [[nodiscard]] platform::Result<long> takeSlot();
+  [[nodiscard]] platform::Result<long> takeSlot(
+      std::chrono::milliseconds patience = files::lockPatience);
   [[nodiscard]] long slot() const { return slot_; }  // 0 without one
 
   // The rest is called under lock().
@@ -55,6 +57,7 @@ class StationRegister {
 
  private:
   [[nodiscard]] platform::Result<files::NetRecord> read(long slot) const;
+  [[nodiscard]] platform::Result<long> slotCount() const;
   [[nodiscard]] bool isRunning(long slot) const;
 
   std::string path_;

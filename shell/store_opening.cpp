@@ -20,6 +20,11 @@ std::string yazilamayan(const stores::Stores& stores) {
 
 void depolariAc(Station& istasyon) {
   const dao::Status opened = stores::OpenStores(istasyon.stores);
+  // Without its font records a station works with the usual fonts.
+  const bool storesOpen =
+      istasyon.stores.personal.database.isOpen() && istasyon.stores.clinical.database.isOpen();
+  if (!opened && storesOpen && !istasyon.stores.settings)
+    return hataSoyle(istasyon, Phrase::FontsUnread, opened);
   if (!opened) return hataSoyle(istasyon, Phrase::OpeningFailed, opened);
   if (const std::string name = yazilamayan(istasyon.stores); !name.empty())
     hataSoyle(istasyon, Phrase::OnlyToRead, {dao::Fault::ReadOnly, name});

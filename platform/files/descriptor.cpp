@@ -37,8 +37,8 @@ Result<Descriptor> Descriptor::openFile(const std::filesystem::path& path, int f
   struct stat state = {};
   if (::fstat(file->number(), &state) != 0) return std::unexpected(systemFault(path, errno));
   if (!S_ISREG(state.st_mode)) return std::unexpected(systemFault(path, ELOOP));
-  if ((flags & O_TRUNC) != 0 && ::ftruncate(file->number(), 0) != 0)
-    return std::unexpected(systemFault(path, errno));
+  if ((flags & O_TRUNC) == 0) return file;
+  if (const Status emptied = emptyFile(*file, path); !emptied) return std::unexpected(emptied);
   return file;
 }
 
@@ -78,6 +78,14 @@ bool isNamed(const Descriptor& file, const std::filesystem::path& path) {
   struct stat named = {};
   if (::fstat(file.number(), &held) != 0 || ::lstat(path.c_str(), &named) != 0) return false;
   return held.st_dev == named.st_dev && held.st_ino == named.st_ino;
+}
+
+Status emptyFile(const Descriptor& file, const std::filesystem::path& path) {
+  return ::ftruncate(file.number(), 0) == 0 ? Status{} : systemFault(path, errno);
+}
+
+void removeNamed(const Descriptor& file, const std::filesystem::path& path) {
+  if (isNamed(file, path)) (void)::unlink(path.c_str());
 }
 
 Status systemFault(const std::filesystem::path& path, int error) {

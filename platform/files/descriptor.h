@@ -48,6 +48,12 @@ class Descriptor {
 // replaced it.
 [[nodiscard]] bool isNamed(const Descriptor& file, const std::filesystem::path& path);
 
+// Takes everything out of the open file.
+[[nodiscard]] platform::Status emptyFile(const Descriptor& file, const std::filesystem::path& path);
+
+// Removes the name when the open file is what it names; another file that has taken it stays.
+void removeNamed(const Descriptor& file, const std::filesystem::path& path);
+
 // The fault that an errno value stands for, with a text that names the file.
 [[nodiscard]] platform::Status systemFault(const std::filesystem::path& path, int error);
 

@@ -16,14 +16,14 @@ using platform::Status;
 using std::filesystem::path;
 
 Result<std::vector<Message>> readAll(const RecordFile& file) {
-  const auto count = file.count();
-  if (!count) return std::unexpected(count.error());
+  auto records = file.all(mostMessages);
+  if (!records) return std::unexpected(records.error());
   std::vector<Message> messages;
-  for (long number = 1; number <= *count; ++number) {
-    auto record = file.get(number);
-    if (!record) return std::unexpected(record.error());
-    if (record->extent != Extent::Whole) continue;
-    messages.push_back({number, MessageRecord::decode(std::move(record->buffer))});
+  long number = 0;
+  for (Record& record : *records) {
+    ++number;
+    if (record.extent != Extent::Whole) continue;
+    messages.push_back({number, MessageRecord::decode(std::move(record.buffer))});
   }
   return messages;
 }
@@ -35,6 +35,10 @@ Result<long> wholeRecords(const RecordFile& file) {
   const auto last = file.get(*count);
   if (!last) return std::unexpected(last.error());
   return last->extent == Extent::Whole ? *count : *count - 1;
+}
+
+Status noRoom(const path& name) {
+  return {Fault::TooLarge, name.string() + ": there are too many messages."};
 }
 
 // The file, and the lock that goes before it.
@@ -58,7 +62,7 @@ Result<Locked> lockFile(const path& name) {
 // Under its own number, unless a deletion has moved it; the end when it is gone.
 auto placeOf(std::vector<Message>& messages, const Message& wanted) {
   const auto isWanted = [&](const Message& each) { return each.record.isSameNote(wanted.record); };
-  const auto there = std::ranges::find(messages, wanted.number, &Message::number);
+  const auto there = std::ranges::lower_bound(messages, wanted.number, {}, &Message::number);
   if (there != messages.end() && isWanted(*there)) return there;
   return std::ranges::find_if(messages, isWanted);
 }
@@ -80,20 +84,30 @@ Status sendMessage(const path& name, const MessageRecord& record) {
   if (!locked) return locked.error();
   const auto whole = wholeRecords(locked->file);
   if (!whole) return whole.error();
+  if (*whole >= mostMessages) return noRoom(name);
   if (Status put = locked->file.put(*whole + 1, record.encode()); !put) return put;
   return locked->file.flush();
 }
 
-Status changeMessage(const path& name, const Message& message,
-                     const std::function<void(MessageRecord&)>& change) {
+Status changeMessages(const path& name, std::span<const Message> wanted,
+                      const std::function<void(MessageRecord&)>& change) {
+  if (wanted.empty()) return {};
   auto locked = lockFile(name);
   if (!locked) return locked.error();
   auto messages = readAll(locked->file);
   if (!messages) return messages.error();
-  const auto place = placeOf(*messages, message);
-  if (place == messages->end()) return gone(name);
-  change(place->record);
-  return locked->file.put(place->number, place->record.encode());
+  Status result;
+  for (const Message& each : wanted) {
+    const auto place = placeOf(*messages, each);
+    if (place == messages->end()) {
+      result = gone(name);
+      continue;
+    }
+    change(place->record);
+    const Status put = locked->file.put(place->number, place->record.encode());
+    if (!put) return put;
+  }
+  return result;
 }
 
 Status deleteMessage(const path& name, const Message& message) {

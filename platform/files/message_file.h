@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <vector>
 
 #include "platform/files/message_record.h"
@@ -17,8 +18,12 @@ struct Message {
   MessageRecord record;
 };
 
+// More than any practice keeps. A file with more is neither read nor written, but it can be
+// emptied.
+inline constexpr long mostMessages = 20000;
+
 // All notes in the order of the file; a record that was cut off is none. A missing file is created,
-// empty.
+// empty. TooLarge when there are more than `mostMessages`, as for all that follow but the last.
 [[nodiscard]] platform::Result<std::vector<Message>> readMessages(
     const std::filesystem::path& path);
 
@@ -26,10 +31,11 @@ struct Message {
 [[nodiscard]] platform::Status sendMessage(const std::filesystem::path& path,
                                            const MessageRecord& record);
 
-// Changes the flags of that very note, wherever its record is by now. Missing when it is gone.
-[[nodiscard]] platform::Status changeMessage(const std::filesystem::path& path,
-                                             const Message& message,
-                                             const std::function<void(MessageRecord&)>& change);
+// Changes the flags of those very notes, wherever their records are by now. Missing when one is
+// gone; the others are changed.
+[[nodiscard]] platform::Status changeMessages(const std::filesystem::path& path,
+                                              std::span<const Message> wanted,
+                                              const std::function<void(MessageRecord&)>& change);
 
 // Takes that very note out. Missing when it is gone already.
 [[nodiscard]] platform::Status deleteMessage(const std::filesystem::path& path,

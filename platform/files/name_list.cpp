@@ -8,19 +8,23 @@
 namespace files {
 namespace {
 
+using platform::Fault;
 using platform::Result;
 using platform::Status;
 
 constexpr std::size_t nameWidth = 30;
 
-Result<std::vector<std::string>> readAll(const RecordFile& file, long count) {
+Result<std::vector<std::string>> readAll(const RecordFile& file) {
+  const auto records = file.all(mostNames);
+  if (!records) return std::unexpected(records.error());
   std::vector<std::string> names;
-  for (long number = 1; number <= count; ++number) {
-    const auto record = file.get(number);
-    if (!record) return std::unexpected(record.error());
-    names.push_back(text::trim(record->buffer.textAt(0, nameWidth)));
-  }
+  for (const Record& record : *records)
+    names.push_back(text::trim(record.buffer.textAt(0, nameWidth)));
   return names;
+}
+
+Status noRoom(const std::filesystem::path& path) {
+  return {Fault::TooLarge, path.string() + ": the list of names is full."};
 }
 
 }  // namespace
@@ -28,9 +32,7 @@ Result<std::vector<std::string>> readAll(const RecordFile& file, long count) {
 Result<std::vector<std::string>> readNames(const std::filesystem::path& path) {
   const auto file = RecordFile::open(path, nameWidth);
   if (!file) return std::unexpected(file.error());
-  const auto count = file->count();
-  if (!count) return std::unexpected(count.error());
-  auto names = readAll(*file, *count);
+  auto names = readAll(*file);
   if (names) std::erase(*names, std::string{});
   return names;
 }
@@ -44,12 +46,11 @@ Status addName(const std::filesystem::path& path, std::string_view name) {
   if (!file) return file.error();
   const auto lock = file->lockAll();
   if (!lock) return lock.error();
-  const auto count = file->count();
-  if (!count) return count.error();
-  const auto names = readAll(*file, *count);
+  const auto names = readAll(*file);
   if (!names) return names.error();
   if (std::ranges::find(*names, kept) != names->end()) return {};
-  return file->put(*count + 1, buffer);
+  const auto count = static_cast<long>(names->size());
+  return count < mostNames ? file->put(count + 1, buffer) : noRoom(path);
 }
 
 }  // namespace files

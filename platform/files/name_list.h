@@ -10,8 +10,11 @@
 
 namespace files {
 
+// More than any practice has.
+inline constexpr long mostNames = 10000;
+
 // All names in the order of the file, trimmed; blank records are left out. A missing file is
-// created, empty.
+// created, empty. TooLarge when there are more than `mostNames`, as for the next.
 [[nodiscard]] platform::Result<std::vector<std::string>> readNames(
     const std::filesystem::path& path);
 

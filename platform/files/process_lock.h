@@ -27,6 +27,11 @@ class ProcessLock {
 
   void release();
 
+  // For whoever is alone with the file: takes out what a crashed station left in it, or gives the
+  // file up. Another file that has taken the name stays as it is.
+  [[nodiscard]] platform::Status empty() { return emptyFile(file_, path_); }
+  void removeFile() { removeNamed(file_, path_); }
+
  private:
   ProcessLock(Descriptor file, std::filesystem::path path);
   [[nodiscard]] platform::Status lock(short kind, std::chrono::milliseconds patience);

@@ -38,20 +38,25 @@ Result<std::size_t> readBlock(const Descriptor& file, const path& name, std::str
 }  // namespace
 
 // A file may grow while it is read: what is held never passes the limit by more than a byte.
-Result<std::string> readFile(const path& name, std::size_t most, Links links,
+Result<std::string> readOpen(const Descriptor& file, const path& name, std::size_t most,
                              std::chrono::milliseconds patience) {
-  const auto file = Descriptor::openFile(name, O_RDONLY, links);
-  if (!file) return std::unexpected(file.error());
   const auto end = std::chrono::steady_clock::now() + patience;
   std::string bytes;
   for (;;) {
-    const auto got = readBlock(*file, name, bytes, std::min(blockSize, most + 1 - bytes.size()));
+    const auto got = readBlock(file, name, bytes, std::min(blockSize, most + 1 - bytes.size()));
     if (!got) return std::unexpected(got.error());
     if (*got == 0) return bytes;
     if (bytes.size() > most) return std::unexpected(tooLarge(name));
     if (std::chrono::steady_clock::now() > end)
       return std::unexpected(Status(Fault::Busy, name.string() + ": reading takes too long."));
   }
+}
+
+Result<std::string> readFile(const path& name, std::size_t most, Links links,
+                             std::chrono::milliseconds patience) {
+  const auto file = Descriptor::openFile(name, O_RDONLY, links);
+  if (!file) return std::unexpected(file.error());
+  return readOpen(*file, name, most, patience);
 }
 
 }  // namespace files

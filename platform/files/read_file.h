@@ -14,8 +14,13 @@ namespace files {
 inline constexpr std::size_t megabyte = std::size_t{1} << 20U;
 inline constexpr std::chrono::seconds readingPatience{5};
 
-// The bytes of a plain file. TooLarge when it has more than `most`, NotAFile for a pipe, a device
-// or a folder, Busy when a slow disk or share takes longer than `patience`.
+// The bytes of a file that is open, from where it stands. TooLarge when it has more than `most`,
+// Busy when a slow disk or share takes longer than `patience`.
+[[nodiscard]] platform::Result<std::string> readOpen(
+    const Descriptor& file, const std::filesystem::path& path, std::size_t most,
+    std::chrono::milliseconds patience = readingPatience);
+
+// The bytes of a plain file. NotAFile for a pipe, a device or a folder.
 [[nodiscard]] platform::Result<std::string> readFile(
     const std::filesystem::path& path, std::size_t most, Links links = Links::Refused,
     std::chrono::milliseconds patience = readingPatience);

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <limits>
+#include <string>
 #include <utility>
 
 namespace files {
@@ -39,21 +40,45 @@ Result<off_t> RecordFile::offsetOf(long number) const {
   return (number - 1) * length;
 }
 
-Result<Record> RecordFile::get(long number) const {
-  const auto offset = offsetOf(number);
-  if (!offset) return std::unexpected(offset.error());
-  Record record{RecordBuffer{recordLength_}};
+// As much as the file has of them; how much that was.
+Result<std::size_t> RecordFile::readAt(off_t offset, std::span<char> bytes) const {
   std::size_t held = 0;
-  while (held < recordLength_) {
-    const ssize_t got = ::pread(file_.number(), record.buffer.data() + held, recordLength_ - held,
-                                *offset + static_cast<off_t>(held));
+  while (held < bytes.size()) {
+    const ssize_t got = ::pread(file_.number(), bytes.data() + held, bytes.size() - held,
+                                offset + static_cast<off_t>(held));
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) return std::unexpected(systemFault(path_, errno));
     if (got == 0) break;
     held += static_cast<std::size_t>(got);
   }
-  if (held < recordLength_) record.extent = held == 0 ? Extent::Beyond : Extent::Short;
+  return held;
+}
+
+Result<Record> RecordFile::get(long number) const {
+  const auto offset = offsetOf(number);
+  if (!offset) return std::unexpected(offset.error());
+  Record record{RecordBuffer{recordLength_}};
+  const auto held = readAt(*offset, {record.buffer.data(), recordLength_});
+  if (!held) return std::unexpected(held.error());
+  if (*held < recordLength_) record.extent = *held == 0 ? Extent::Beyond : Extent::Short;
   return record;
+}
+
+// The file may have become shorter since its records were counted.
+Result<std::vector<Record>> RecordFile::all(long most) const {
+  const auto counted = count();
+  if (!counted) return std::unexpected(counted.error());
+  if (*counted > most)
+    return std::unexpected(Status{Fault::TooLarge, path_.string() + ": the file is too large."});
+  std::string bytes(static_cast<std::size_t>(*counted) * recordLength_, '\0');
+  const auto held = readAt(0, bytes);
+  if (!held) return std::unexpected(held.error());
+  std::vector<Record> records;
+  for (std::size_t start = 0; start < *held; start += recordLength_) {
+    const Extent extent = *held - start < recordLength_ ? Extent::Short : Extent::Whole;
+    records.push_back({RecordBuffer{bytes.substr(start, recordLength_)}, extent});
+  }
+  return records;
 }
 
 Status RecordFile::put(long number, const RecordBuffer& buffer) {

@@ -7,10 +7,13 @@
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <span>
+#include <vector>
 
 #include "platform/files/descriptor.h"
 #include "platform/files/range_lock.h"
 #include "platform/files/record_buffer.h"
+#include "platform/files/replace.h"
 #include "platform/status/status.h"
 
 namespace files {
@@ -33,6 +36,9 @@ class RecordFile {
   // Writes the buffer's bytes; a shorter buffer leaves the rest of the record as it is, a longer
   // one is TooLong. A number beyond the end extends the file with zeros.
   [[nodiscard]] platform::Status put(long number, const RecordBuffer& buffer);
+  // All records, read in one piece; the last one may be short. TooLarge when there are more than
+  // `most`.
+  [[nodiscard]] platform::Result<std::vector<Record>> all(long most) const;
   // A last record that is not whole counts.
   [[nodiscard]] platform::Result<long> count() const;
 
@@ -48,11 +54,14 @@ class RecordFile {
   // Whether the path has become another file, or none, since this one was opened.
   [[nodiscard]] bool isReplaced() const { return !isNamed(file_, path_); }
 
+  void shareLike(const std::filesystem::path& model) const { files::shareLike(file_, model); }
+
   void close() { file_.close(); }
 
  private:
   RecordFile(Descriptor file, std::filesystem::path path, std::size_t recordLength, bool writable);
   [[nodiscard]] platform::Result<off_t> offsetOf(long number) const;
+  [[nodiscard]] platform::Result<std::size_t> readAt(off_t offset, std::span<char> bytes) const;
 
   Descriptor file_;
   std::filesystem::path path_;

@@ -7,8 +7,6 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "platform/files/descriptor.h"
-
 namespace files {
 
 using platform::Status;
@@ -35,12 +33,16 @@ Status replaceFile(const path& draft, const path& target) {
 }
 
 // The group goes first: changing it may take away permissions.
+void shareLike(const Descriptor& file, const path& model) {
+  struct stat shared = {};
+  if (::stat(model.c_str(), &shared) != 0 || !S_ISREG(shared.st_mode)) return;
+  (void)!::fchown(file.number(), static_cast<uid_t>(-1), shared.st_gid);
+  (void)::fchmod(file.number(), shared.st_mode & 0666);
+}
+
 void shareLike(const path& file, const path& model) {
   const auto handle = Descriptor::openFile(file, O_RDONLY);
-  struct stat shared = {};
-  if (!handle || ::stat(model.c_str(), &shared) != 0 || !S_ISREG(shared.st_mode)) return;
-  (void)!::fchown(handle->number(), static_cast<uid_t>(-1), shared.st_gid);
-  (void)::fchmod(handle->number(), shared.st_mode & 0666);
+  if (handle) shareLike(*handle, model);
 }
 
 // Without this the new name may be lost with a power cut.

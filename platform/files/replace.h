@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "platform/files/descriptor.h"
 #include "platform/status/status.h"
 
 namespace files {
@@ -18,6 +19,7 @@ namespace files {
 
 // Gives the file, never what a link leads to, the permissions and the group of another, as far as
 // this user may; a file that is not there has nothing to give.
+void shareLike(const Descriptor& file, const std::filesystem::path& model);
 void shareLike(const std::filesystem::path& file, const std::filesystem::path& model);
 
 // Brings names that were given, changed or removed in the folder to the disk. Some file systems

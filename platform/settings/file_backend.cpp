@@ -3,12 +3,14 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
+#include <string>
 #include <utility>
 
 #include "platform/files/atomic_write.h"
 #include "platform/files/range_lock.h"
+#include "platform/files/read_file.h"
+#include "platform/files/replace.h"
 #include "platform/settings/settings_text.h"
 
 namespace settings {
@@ -29,16 +31,18 @@ bool isSame(const struct stat& a, const struct stat& b) {
          a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
 }
 
-Result<std::string> readAll(const files::Descriptor& file, const path& name) {
-  std::string text;
-  std::array<char, 16384> buffer{};
-  for (;;) {
-    const ssize_t got = ::read(file.number(), buffer.data(), buffer.size());
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return std::unexpected(files::systemFault(name, errno));
-    if (got == 0) return text;
-    text.append(buffer.data(), static_cast<std::size_t>(got));
-  }
+// What was kept before is not lost for the next one, as far as there is a name for it.
+path freeName(const path& settings) {
+  constexpr int mostKept = 9;
+  path name = beside(settings, ".damaged");
+  std::error_code unknown;
+  for (int number = 2; number <= mostKept && std::filesystem::exists(name, unknown); ++number)
+    name = beside(settings, ".damaged" + std::to_string(number));
+  return name;
+}
+
+Status damaged(const path& settings, const path& kept) {
+  return {Fault::Damaged, settings.string() + " is damaged and was kept as " + kept.string()};
 }
 
 // One writer at a time among all handles of all processes.
@@ -68,6 +72,9 @@ class Turn {
 
 }  // namespace
 
+FileBackend::FileBackend(path path, std::vector<Place> guarded)
+    : path_(std::move(path)), guard_(beside(path_, ".protected"), std::move(guarded)) {}
+
 bool FileBackend::isChanged() const {
   if (!loaded_) return true;
   struct stat now = {};
@@ -92,46 +99,68 @@ Status FileBackend::remember() {
 Result<std::string> FileBackend::read() {
   if (Status status = remember(); !status) return std::unexpected(status);
   if (!seen_) return std::string{};
-  return readAll(seen_->file, path_);
+  return files::readOpen(seen_->file, path_, largest);
 }
 
 Result<Values> FileBackend::load() {
   const auto text = read();
-  if (!text) return std::unexpected(text.error());
-  if (auto values = fromText(*text)) return std::move(*values);
+  if (!text && text.error().fault() != Fault::TooLarge) return std::unexpected(text.error());
+  ReadSettings found = text ? fromText(*text) : ReadSettings();
+  if (found.whole) return std::move(found.values);
   const auto turn = Turn::take(path_);
-  if (!turn) return std::unexpected(turn.error());
-  return loadOrSetAside();
+  if (turn) {
+    auto mended = loadOrMend();
+    if (mended || mended.error().fault() == Fault::Damaged) return mended;
+  }
+  if (!text) return std::unexpected(text.error());
+  return std::move(found.values);
 }
 
-// In turn: what was damaged a moment ago may have been set aside by another station since.
-Result<Values> FileBackend::loadOrSetAside() {
+// In turn: what was damaged a moment ago may have been mended by another station since.
+Result<Values> FileBackend::loadOrMend() {
   const auto text = read();
-  if (!text) return std::unexpected(text.error());
-  if (auto values = fromText(*text)) return std::move(*values);
-  const path copy = beside(path_, ".damaged");
-  if (::rename(path_.c_str(), copy.c_str()) != 0) {
-    return std::unexpected(files::systemFault(path_, errno));
-  }
-  return std::unexpected(
-      Status{Fault::Damaged, path_.string() + " is damaged and was kept as " + copy.string()});
+  if (!text && text.error().fault() != Fault::TooLarge) return std::unexpected(text.error());
+  ReadSettings found = text ? fromText(*text) : ReadSettings();
+  if (found.whole) return std::move(found.values);
+  const path kept = freeName(files::behindLinks(path_));
+  const Status aside =
+      text ? files::writeAtomically(kept, *text, files::Links::Refused, files::privateMode)
+           : setAside(kept);
+  if (!aside) return std::unexpected(aside);
+  if (Status stored = store(found.values); !stored) return std::unexpected(stored);
+  return std::unexpected(damaged(path_, kept));
+}
+
+// A file too large to be read is not copied either.
+Status FileBackend::setAside(const path& kept) {
+  (void)::fchmod(seen_->file.number(), files::privateMode);
+  const path target = files::behindLinks(path_);
+  return ::rename(target.c_str(), kept.c_str()) == 0 ? Status{} : files::systemFault(target, errno);
 }
 
 Result<Values> FileBackend::update(const Change& change) {
   const auto turn = Turn::take(path_);
   if (!turn) return std::unexpected(turn.error());
-  auto values = loadOrSetAside();
-  if (!values || change(*values) == Edit::Same) return values;
-  if (Status status = store(*values); !status) return std::unexpected(status);
+  auto values = loadOrMend();
+  if (!values) return values;
+  const Values before = *values;
+  if (change(*values) == Edit::Changed) {
+    guard_.forget(before, *values);
+    if (Status status = store(*values); !status) return std::unexpected(status);
+  }
+  guard_.remember(*values);
   return values;
 }
 
+// A file that others could read until now gets a new one in its place that they cannot.
 Status FileBackend::store(const Values& values) {
-  if (Status status =
-          files::writeAtomically(path_, toText(values), files::Links::Followed, files::privateMode);
-      !status)
-    return status;
-  return remember();
+  const std::string text = toText(values);
+  if (text.size() > largest)
+    return {Fault::TooLarge, path_.string() + ": the settings are too large."};
+  if (seen_) (void)::fchmod(seen_->file.number(), files::privateMode);
+  const Status status =
+      files::writeAtomically(path_, text, files::Links::Followed, files::privateMode);
+  return status ? remember() : status;
 }
 
 }  // namespace settings

@@ -33,10 +33,21 @@ Edit assign(Values& values, const PlaceView& place, std::string_view value) {
 
 Status Settings::refresh() {
   if (!backend_->isChanged()) return {};
+  Status told;
   auto values = backend_->load();
+  if (!values && values.error().fault() == Fault::Damaged) {
+    told = values.error();
+    values = backend_->load();
+  }
   if (!values) return values.error();
   values_ = std::move(*values);
-  return {};
+  return told;
+}
+
+bool Settings::isLost(std::string_view application, std::string_view section,
+                      std::string_view key) const {
+  const PlaceView place{application, section, key};
+  return !values_.contains(place) && backend_->isGuarded(place);
 }
 
 std::string_view Settings::get(std::string_view application, std::string_view section,

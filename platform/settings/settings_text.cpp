@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace settings {
@@ -9,6 +10,7 @@ namespace {
 
 constexpr std::string_view heading = "settings 1";
 constexpr std::string_view closing = "end";
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 // Each character of the first has its letter, behind a backslash, in the second.
 constexpr std::string_view escaped{"\\\t\n\r\0", 5};
 constexpr std::string_view letters = "\\tnr0";
@@ -60,6 +62,14 @@ std::optional<std::string_view> take(std::string_view& text, char mark) {
   return taken;
 }
 
+// Without the end of the line, whatever system wrote it; the last one may have none.
+std::string_view takeLine(std::string_view& text) {
+  std::string_view line = text.substr(0, text.find('\n'));
+  text.remove_prefix(std::min(line.size() + 1, text.size()));
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return line;
+}
+
 bool readLine(std::string_view line, Values& values) {
   std::array<std::string, 3> names;
   for (std::string& name : names) {
@@ -87,18 +97,24 @@ std::string toText(const Values& values) {
   return text;
 }
 
-std::optional<Values> fromText(std::string_view text) {
-  Values values;
-  if (text.empty()) return values;
-  if (take(text, '\n') != heading) return std::nullopt;
-  for (;;) {
-    const auto line = take(text, '\n');
-    if (!line) return std::nullopt;
-    if (*line == closing) break;
-    if (!readLine(*line, values)) return std::nullopt;
+ReadSettings fromText(std::string_view text) {
+  ReadSettings read;
+  if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+  read.whole = true;
+  bool ended = text.empty();
+  bool begun = text.empty();
+  while (!text.empty()) {
+    const bool isCut = !text.contains('\n');
+    const std::string_view line = takeLine(text);
+    if (line.empty()) continue;
+    const bool isHeading = line == heading;
+    ended = line == closing;
+    if (!isHeading && !ended && (isCut || !readLine(line, read.values))) read.whole = false;
+    if (!begun && !isHeading) read.whole = false;
+    begun = true;
   }
-  if (!text.empty()) return std::nullopt;
-  return values;
+  read.whole = read.whole && ended;
+  return read;
 }
 
 }  // namespace settings

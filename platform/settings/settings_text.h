@@ -2,7 +2,6 @@
 // section, key and value between tabs, and a closing line that tells a whole file from a cut one.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,7 +12,15 @@ namespace settings {
 // Lines are in the order of their text, so that equal settings make equal files.
 [[nodiscard]] std::string toText(const Values& values);
 
-// Empty when the text breaks the form anywhere. An empty text holds no settings.
-[[nodiscard]] std::optional<Values> fromText(std::string_view text);
+struct ReadSettings {
+  Values values;
+  // Every line was understood, and none is missing. An editor may have left its mark in front,
+  // other ends of lines, blank lines, or no end of the last one. An empty text is whole.
+  bool whole = false;
+};
+
+// What can be read of the text. The line at which it was cut off is no line: half a value would
+// pass for a whole one.
+[[nodiscard]] ReadSettings fromText(std::string_view text);
 
 }  // namespace settings

@@ -1,5 +1,8 @@
 #include "platform/settings/user.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <string_view>
@@ -12,6 +15,14 @@ namespace {
 std::string_view variable(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? std::string_view{} : std::string_view{value};
+}
+
+// Services start programs without the variable; the user has a folder all the same.
+std::filesystem::path homeFolder() {
+  const std::filesystem::path home = variable("HOME");
+  if (home.is_absolute()) return home;
+  const passwd* const user = ::getpwuid(::getuid());
+  return user == nullptr || user->pw_dir == nullptr ? "" : user->pw_dir;
 }
 
 bool isLetter(char c) {
@@ -34,7 +45,7 @@ std::string userLanguage() {
 std::filesystem::path userSettingsPath() {
   std::filesystem::path folder = variable("XDG_CONFIG_HOME");
   if (!folder.is_absolute()) {
-    const std::filesystem::path home = variable("HOME");
+    const std::filesystem::path home = homeFolder();
     if (!home.is_absolute()) return {};
     folder = home / ".config";
   }

@@ -9,7 +9,7 @@ namespace settings {
 // The language of the user's region as two lower-case letters; "en" when none is chosen.
 [[nodiscard]] std::string userLanguage();
 
-// The settings file in the user's configuration folder; empty when there is no such folder.
+// The settings file in the user's configuration folder; empty when the user has none.
 [[nodiscard]] std::filesystem::path userSettingsPath();
 
 }  // namespace settings

@@ -216,4 +216,48 @@ TEST_F(OneFolder, IsServedWithoutARegisterToo) {
   desk.main.Unload();
 }
 
+TEST_F(OneFolder, GivesASlotToWhoeverStartedWithoutOneAsSoonAsItCan) {
+  std::filesystem::create_directories(folder / "Data/net.dat");
+  support::CardDesk late(folder.path());
+  ASSERT_EQ(late.host.errors.size(), 1U);
+  EXPECT_NE(late.host.errors[0].text().find("net.dat"), std::string::npos);
+  late.newPatient("Ali Can", "1980");
+  std::filesystem::remove(folder / "Data/net.dat");
+  support::CardDesk other(folder.path());
+  const auto wait = [&] {
+    for (int tick = 0; tick < 200; ++tick) late.main.Timer1.Tick();
+  };
+  {
+    const auto kept = other.station.sicil.lock();
+    wait();
+    EXPECT_NE(late.main.sbDurum.panels()[3].find("tek başına"), std::string::npos);
+  }
+  wait();
+  EXPECT_EQ(late.main.sbDurum.panels()[3], "istasyon 2");
+  other.host.expect(std::string("Ali Can ") + busy, Answer::Ok);
+  other.load("Ali Can");
+  late.main.Unload();
+  EXPECT_EQ(late.station.ayar("NS"), "0");
+}
+
+// The record is not written over by the fonts of a station that could not read it.
+TEST_F(OneFolder, ShowsItsFontsAsSoonAsTheyCanBeRead) {
+  const std::string records = folder / "Data/setting.dat";
+  {
+    support::CardDesk desk(folder.path());
+    desk.main.setFont({.name = "Serif", .size = 17});
+    desk.main.Unload();
+  }
+  std::filesystem::rename(records, folder / "kept");
+  std::filesystem::create_symlink("nowhere", records);
+  support::CardDesk desk(folder.path());
+  ASSERT_EQ(desk.host.errors.size(), 1U);
+  EXPECT_NE(desk.host.errors[0].text().find("yazı tipleri"), std::string::npos);
+  desk.main.Activate();
+  std::filesystem::rename(folder / "kept", records);
+  desk.main.Activate();
+  EXPECT_EQ(desk.main.font().size, 17);
+  desk.main.Unload();
+}
+
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include "app/program_folder.h"
 #include "app/start_up.h"
+#include "shell/frm_option.h"
+#include "shell/frm_pass.h"
 #include "tests/registry/card_fixture.h"
 
 namespace {
@@ -93,6 +95,68 @@ TEST_F(StartUp, OpensRestrictedOtherwise) {
   EXPECT_EQ(session.start(), app::Session::Outcome::Shown);
   EXPECT_FALSE(session.main().MnuSecenek.visible());
   EXPECT_FALSE(session.main().tbToolBar.button("muayene")->visible);
+}
+
+// The file of the settings goes while the program is closed; the folder keeps what was in it.
+struct LostSettings : testing::Test {
+  LostSettings() {
+    read(desk);
+    for (const auto& [key, value] :
+         {std::pair{"oppas", "1"}, std::pair{"openpass", "1234"}, std::pair{"accpas", "1"},
+          std::pair{"account", "1234"}, std::pair{"namepass", "1234"}, std::pair{"nopen", "True"}})
+      desk.station.ayarYaz(key, value);
+  }
+  void read(support::Desk& each) const {
+    each.settings = settings::Settings(settings::openBackend(file, shell::guardedSettings()));
+    each.settings.refresh().ignore();
+  }
+  app::Session::Outcome startAgain() {
+    read(desk);
+    return app::Session(desk.station).start();
+  }
+  TemporaryFolder folder;
+  std::string file = folder / "user/settings";
+  support::Desk desk{folder.path()};
+};
+
+TEST_F(LostSettings, LeaveTheProgramClosedAndSayHowToGetIn) {
+  for (const bool damaged : {false, true}) {
+    std::filesystem::remove(file);
+    if (damaged) std::ofstream(file) << std::string(3000, '\0');
+    desk.host.expect(file + ".protected", host::Answer::Ok);
+    EXPECT_EQ(startAgain(), app::Session::Outcome::Refused);
+  }
+  std::filesystem::remove(file + ".protected");
+  EXPECT_EQ(startAgain(), app::Session::Outcome::Shown);
+}
+
+// The line alone: whoever knows the password is asked for it as ever.
+TEST_F(LostSettings, DoNotTurnTheQuestionOff) {
+  std::ofstream(file) << "settings 1\nSanavel\tMain\topenpass\t1234\nend\n";
+  desk.host.modal["frmpass"] = [](forms::Form& form) {
+    auto& dialog = dynamic_cast<shell::FrmPass&>(form);
+    dialog.txtsifre.setText("1234");
+    dialog.buttamam.press();
+  };
+  EXPECT_EQ(startAgain(), app::Session::Outcome::Shown);
+  EXPECT_EQ(desk.station.ayar("oppas"), "1");
+}
+
+TEST_F(LostSettings, KeepAccountsAndHiddenNamesClosedInARunningProgram) {
+  support::CardDesk card(folder.path());
+  read(card);
+  std::filesystem::remove(file);
+  for (int i = 0; i < 20; ++i) card.main.Timer1.Tick();
+  for (forms::MenuItem* entry : {&card.main.mnuhesaplar, &card.main.mnuShowHidden}) {
+    card.host.expect(file + ".protected", host::Answer::Ok);
+    entry->press();
+  }
+  EXPECT_TRUE(card.host.shown.empty());
+  shell::FrmOption options(card.station);
+  options.Load();
+  options.AyarKaydet();
+  EXPECT_EQ(card.station.ayar("oppas") + card.station.ayar("accpas"), "11");
+  EXPECT_EQ(card.station.ayar("nopen"), "True");
 }
 
 TEST(ProgramFolder, IsTheNamedOneThenTheProgramsOwnThenTheUsers) {

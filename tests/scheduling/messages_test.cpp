@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <tuple>
 
 #include "platform/files/name_list.h"
@@ -63,10 +65,12 @@ TEST_F(Messages, ArriveAtTheirAddresseeInAnyCaseAndInEveryView) {
   receive("ibrahim", "dün", "21.11.2026 17:00");
   receive("İBRAHİM  ", "bugün");
   receive("Ibrahim", "başkası");
-  ASSERT_TRUE(files::changeMessage(mesajDosyasi(desk.station), {1, kept(0)},
-                                   [](MessageRecord& record) { record.isRead = 1; }));
-  ASSERT_TRUE(files::changeMessage(mesajDosyasi(desk.station), {2, kept(1)},
-                                   [](MessageRecord& record) { record.isNew = 0; }));
+  ASSERT_TRUE(files::changeMessages(mesajDosyasi(desk.station),
+                                    std::array{files::Message{1, kept(0)}},
+                                    [](MessageRecord& record) { record.isRead = 1; }));
+  ASSERT_TRUE(files::changeMessages(mesajDosyasi(desk.station),
+                                    std::array{files::Message{2, kept(1)}},
+                                    [](MessageRecord& record) { record.isNew = 0; }));
   FrmMesajlar board(desk.station);
   board.Load();
   using Case = std::tuple<forms::OptionButton*, const char*, Subjects>;
@@ -217,6 +221,49 @@ TEST_F(Messages, AreSentAndTheirNamesKept) {
   EXPECT_EQ(sent.text.size(), 250U);
   EXPECT_EQ(sent.isNew, 1);
   EXPECT_EQ(*files::readNames(folder / "Data/List.dat"), (Subjects{"İbrahim", "Ayşe"}));
+}
+
+TEST_F(Messages, ThatNobodyWroteAreShownAsText) {
+  MessageRecord record;
+  for (char c = 1; c > 0; ++c) record.text += c;
+  record.sender = record.subject = std::string("\a\t\n\x7F\xC2\x9D", 6);
+  record.addressee = "İbrahim";
+  ASSERT_TRUE(files::sendMessage(mesajDosyasi(desk.station), record));
+  FrmMesajlar board(desk.station);
+  board.Load();
+  const auto isControl = [](char c) { return (c >= 0 && c < ' ') || c == 0x7F; };
+  for (int column = 0; column < board.msgrid1.cols(); ++column)
+    EXPECT_TRUE(std::ranges::none_of(board.msgrid1.TextMatrix(1, column), isControl)) << column;
+  EXPECT_EQ(board.msgrid1.TextMatrix(1, 1), "     ");
+  board.msgrid1.choose({1, 0});
+  std::string shown = board.txtmesaj.text();
+  EXPECT_EQ(std::ranges::count_if(shown, isControl), 3) << "the tab and the ends of lines";
+}
+
+TEST_F(Messages, InAFileThatIsALinkAreNeitherReadNorSentAndThatIsSaid) {
+  mesajlarOkunurMu(desk.station);
+  EXPECT_TRUE(desk.host.errors.empty() && std::filesystem::is_empty(folder / "Data"));
+  std::ofstream(folder / "mine") << "mine";
+  for (const char* name : {"Data/message.dat", "Data/List.dat"})
+    std::filesystem::create_symlink(folder / "mine", folder / name);
+  mesajlarOkunurMu(desk.station);
+  ASSERT_EQ(desk.host.errors.size(), 2U);
+  EXPECT_NE(desk.host.errors[0].text().find("message.dat"), std::string::npos);
+  EXPECT_NE(desk.host.errors[1].text().find("List.dat"), std::string::npos);
+  FrmMsgGon writing(desk.station);
+  writing.Load();
+  writing.ComKime.setText("Ayşe");
+  writing.txtkonu.setText("soru");
+  writing.Butgönder.press();
+  ASSERT_EQ(desk.host.errors.size(), 3U);
+  EXPECT_NE(desk.host.errors[2].text().find("gönderilmedi"), std::string::npos);
+  EXPECT_TRUE(desk.host.closed.empty()) << "what was typed is still there";
+  EXPECT_EQ(MessageWatch(desk.station).look(), std::nullopt);
+  std::filesystem::remove(folder / "Data/message.dat");
+  writing.Butgönder.press();
+  ASSERT_EQ(desk.host.errors.size(), 4U);
+  EXPECT_NE(desk.host.errors[3].text().find("İsimler"), std::string::npos);
+  EXPECT_EQ(std::filesystem::file_size(folder / "mine"), 4U);
 }
 
 // Whether the desk of that name sees what was sent to the other one.

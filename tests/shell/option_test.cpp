@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "registry/frm_main.h"
+#include "shell/letterhead.h"
 #include "stores/value_list.h"
 #include "tests/support/practice.h"
 
@@ -113,6 +114,34 @@ TEST_F(Options, AHostileLetterheadSaysSoAndIsLeftAlone) {
   again.BaşlıkKaydet();
   std::ifstream file(folder / "Data/Baslik.rtf");
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), bytes);
+}
+
+// A page's head never keeps the program busy.
+TEST_F(Options, ALetterheadOfManyPiecesIsRefused) {
+  std::string bytes = "{\\rtf1";
+  for (int i = 0; i < 100'000; ++i) bytes += "\\b a\\b0 b";
+  std::ofstream(folder / "Data/Baslik.rtf") << bytes;
+  shell::baslikOkunurMu(desk.station);
+  ASSERT_EQ(desk.host.errors.size(), 1U);
+  EXPECT_EQ(desk.host.errors[0].fault(), platform::Fault::Damaged);
+}
+
+TEST_F(Options, ALetterheadThatCouldNotBeReadIsNotReplacedUnasked) {
+  std::ofstream(folder / "Data/Baslik.rtf") << "{\\rtf1 Dr. Yıldız}";
+  std::filesystem::resize_file(folder / "Data/Baslik.rtf", 100 << 20);
+  shell::FrmOption again(desk.station);
+  again.Load();
+  ASSERT_EQ(desk.host.errors.size(), 1U);
+  EXPECT_EQ(desk.host.errors[0].fault(), platform::Fault::TooLarge);
+  again.rtfText.edit([](richtext::Editor& e) { e.insert("Prof. "); });
+  desk.host.expect("kaybolur", host::Answer::No);
+  again.buttamam.press();
+  EXPECT_EQ(std::filesystem::file_size(folder / "Data/Baslik.rtf"), 100U << 20);
+  EXPECT_TRUE(desk.host.closed.empty()) << "what was typed is still there";
+  desk.host.expect("kaybolur", host::Answer::Yes);
+  again.buttamam.press();
+  EXPECT_LT(std::filesystem::file_size(folder / "Data/Baslik.rtf"), 1000U);
+  EXPECT_EQ(desk.host.closed, std::vector<std::string>{"FrmOption"});
 }
 
 TEST_F(Options, AChosenPictureBecomesTheLetterheadsOwnCopy) {

@@ -190,6 +190,27 @@ TEST_F(Register, HasRoomForManyStations) {
   EXPECT_FALSE(take(stations.front(), "Ayşe Yıldız"));
 }
 
+TEST_F(Register, HasNoMoreSlotsThanItsFileCanHold) {
+  StationRegister one;
+  StationRegister two;
+  ASSERT_TRUE(start(one, path) && start(two, path));
+  std::filesystem::resize_file(file, std::uintmax_t{1} << 30U);
+  EXPECT_EQ(one.isElsewhere("Ayşe Yıldız"), false);
+  EXPECT_TRUE(one.flagOthers());
+  ASSERT_TRUE(take(two, "Ayşe Yıldız"));
+  EXPECT_EQ(one.whereElse("Ayşe Yıldız"), 2);
+}
+
+TEST_F(Register, LeavesALinkAndWhatItLeadsToAlone) {
+  std::ofstream(folder / "mine") << "mine";
+  std::filesystem::create_symlink(folder / "mine", file);
+  StationRegister stations;
+  EXPECT_EQ(stations.open(path).error().fault(), Fault::NotAFile);
+  stations.close();
+  EXPECT_TRUE(std::filesystem::is_symlink(file));
+  EXPECT_EQ(std::filesystem::file_size(folder / "mine"), 4U);
+}
+
 TEST_F(Register, SaysWhyItCannotBeOpened) {
   std::filesystem::create_directory(file);
   StationRegister stations;

@@ -32,12 +32,11 @@ void filesSurvive(const std::filesystem::path& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
   const auto messages = files::readMessages(path);
   require(messages && messages->size() == bytes.size() / files::MessageRecord::length);
-  for (const files::Message& message : *messages) {
+  for (const files::Message& message : *messages)
     require(message.record.isSameNote(message.record));
-    require(files::changeMessage(path, message, [](files::MessageRecord& record) {
-              record.isRead = 1;
-            }).ok());
-  }
+  require(files::changeMessages(path, *messages, [](files::MessageRecord& record) {
+            record.isRead = 1;
+          }).ok());
   require(files::readNames(path).has_value());
   require(files::addName(path, bytes).ok());
 }

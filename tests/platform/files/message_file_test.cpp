@@ -75,8 +75,8 @@ TEST(MessageFile, FindsTheNoteThatADeletionHasMoved) {
   for (const char* subject : {"a", "b", "c"}) ASSERT_TRUE(files::sendMessage(path, note(subject)));
   const auto listed = *files::readMessages(path);
   ASSERT_TRUE(files::deleteMessage(path, listed[0]));
-  ASSERT_TRUE(
-      files::changeMessage(path, listed[2], [](MessageRecord& record) { record.isRead = 1; }));
+  ASSERT_TRUE(files::changeMessages(path, {&listed[2], 1},
+                                    [](MessageRecord& record) { record.isRead = 1; }));
   EXPECT_EQ(files::readMessages(path)->back().record.isRead, 1);
   EXPECT_EQ(files::readMessages(path)->front().record.isRead, 0);
   EXPECT_TRUE(files::deleteMessage(path, listed[2]));

@@ -73,6 +73,51 @@ TEST(PlainFile, IsReadWithinItsLimit) {
   EXPECT_EQ(faultOf(files::readFile("/dev/zero", 5, Links::Followed)), Fault::NotAFile);
 }
 
+// A file of that size costs neither time nor memory: it has holes.
+TEST(PlainFile, BeyondAllThatAPracticeHasIsTooLargeAtOnce) {
+  constexpr std::uintmax_t gigabyte = std::uintmax_t{1} << 30U;
+  const std::function<Fault(const fs::path&)> ways[] = {
+      [](const fs::path& at) { return faultOf(files::readMessages(at)); },
+      [](const fs::path& at) { return files::sendMessage(at, {}).fault(); },
+      [](const fs::path& at) { return files::deleteMessage(at, {}).fault(); },
+      [](const fs::path& at) { return faultOf(files::readNames(at)); },
+      [](const fs::path& at) { return files::addName(at, "Ayşe").fault(); },
+      [](const fs::path& at) { return faultOf(files::readFile(at, files::megabyte)); },
+  };
+  const TemporaryFolder folder;
+  fill(folder / "a", "");
+  for (const auto& way : ways) {
+    fs::resize_file(folder / "a", gigabyte);
+    EXPECT_EQ(way(folder / "a"), Fault::TooLarge);
+    EXPECT_EQ(fs::file_size(folder / "a"), gigabyte);
+  }
+  EXPECT_TRUE(files::deleteAllMessages(folder / "a")) << "the way out";
+  EXPECT_EQ(fs::file_size(folder / "a"), 0U);
+}
+
+TEST(PlainFile, WithTheLastRecordThatThereIsRoomForIsRead) {
+  const TemporaryFolder folder;
+  fill(folder / "messages", std::string((files::mostMessages - 1) * 384, ' '));
+  EXPECT_TRUE(files::sendMessage(folder / "messages", {}));
+  EXPECT_EQ(files::sendMessage(folder / "messages", {}).fault(), Fault::TooLarge);
+  EXPECT_EQ(files::readMessages(folder / "messages")->size(), std::size_t{files::mostMessages});
+  fill(folder / "names", std::string((files::mostNames - 1) * 30, ' '));
+  EXPECT_TRUE(files::addName(folder / "names", "Ayşe"));
+  EXPECT_EQ(files::addName(folder / "names", "Ali").fault(), Fault::TooLarge);
+  EXPECT_EQ(files::readNames(folder / "names"), std::vector<std::string>{"Ayşe"});
+}
+
+TEST(PlainFile, ThatHasTakenTheNameOfAnotherIsNotRemovedInItsPlace) {
+  const TemporaryFolder folder;
+  auto lock = files::ProcessLock::open(folder / "a");
+  ASSERT_EQ(lock->tryAlone(), true);
+  fs::remove(folder / "a");
+  fill(folder / "a", "another");
+  EXPECT_TRUE(lock->empty());
+  lock->removeFile();
+  EXPECT_EQ(contentOf(folder / "a"), "another");
+}
+
 TEST(PlainFile, WhatIsWrittenHasTheRightsOfWhatItReplaces) {
   const TemporaryFolder folder;
   EXPECT_TRUE(files::writeAtomically(folder / "own", "x", Links::Refused, files::privateMode));

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "platform/settings/settings.h"
 #include "tests/platform/files/child_process.h"
 #include "tests/platform/files/temporary_folder.h"
@@ -12,6 +14,8 @@ namespace {
 using platform::Fault;
 using settings::FileBackend;
 using settings::Settings;
+
+const std::vector<settings::Place> guarded{settings::Place{{"Sanavel", "Main", "openpass"}}};
 
 Settings onFile(const std::filesystem::path& path) {
   return Settings{std::make_unique<FileBackend>(path)};
@@ -114,32 +118,132 @@ TEST(FileBackend, NoProcessLosesAnothersKeys) {
   EXPECT_EQ(FileBackend(path).load()->size(), 121U);
 }
 
-TEST(FileBackend, SetsADamagedFileAside) {
+TEST(FileBackend, UsesWhatCanBeReadAndKeepsAllThatThereWas) {
   const TemporaryFolder folder;
   const auto path = folder / "settings";
-  fill(path, "settings 1\nSanavel\tMain\tLang");
+  const std::string torn = "settings 1\nSanavel\tMain\topenpass\t1234\nSanavel\tMain\tLang";
+  fill(path, torn);
   Settings settings = onFile(path);
   const auto status = settings.refresh();
   EXPECT_EQ(status.fault(), Fault::Damaged);
   EXPECT_NE(status.text().find("settings.damaged"), std::string::npos);
-  EXPECT_EQ(contentOf(folder / "settings.damaged"), "settings 1\nSanavel\tMain\tLang");
-  EXPECT_EQ(settings.get("Sanavel", "Main", "Language", "none"), "none");
-  EXPECT_TRUE(settings.refresh());
-  EXPECT_TRUE(settings.set("Sanavel", "Main", "Language", "tr"));
-  EXPECT_EQ(valueIn(path, "Language"), "tr");
-}
-
-TEST(FileBackend, AWriteOverADamagedFileIsKeptAndSaysSo) {
-  const TemporaryFolder folder;
-  const auto path = folder / "settings";
-  fill(path, "garbage");
-  Settings settings = onFile(path);
-  EXPECT_EQ(settings.set("Sanavel", "Main", "Language", "tr").fault(), Fault::Damaged);
-  EXPECT_EQ(valueIn(path, "Language"), "tr");
-  EXPECT_EQ(contentOf(folder / "settings.damaged"), "garbage");
+  EXPECT_EQ(settings.get("Sanavel", "Main", "openpass"), "1234");
+  EXPECT_EQ(contentOf(folder / "settings.damaged"), torn);
+  EXPECT_TRUE(settings.refresh()) << "told once";
+  EXPECT_EQ(valueIn(path, "openpass"), "1234");
   fill(path, "rubbish");
+  EXPECT_EQ(settings.set("Sanavel", "Main", "Language", "tr").fault(), Fault::Damaged);
+  EXPECT_EQ(valueIn(path, "Language"), "tr") << "a write over it is kept";
+  EXPECT_EQ(contentOf(folder / "settings.damaged2"), "rubbish");
+  fill(path, "garbage");
   EXPECT_EQ(settings.add("Sanavel", "Main", "NS", 1), 1);
   EXPECT_EQ(valueIn(path, "NS"), "1");
+  EXPECT_EQ(contentOf(folder / "settings.damaged"), torn) << "the first one is not written over";
+}
+
+TEST(FileBackend, PutsAFileOfAnySizeAsideUnread) {
+  const TemporaryFolder folder;
+  const auto path = folder / "settings";
+  fill(path, "settings 1\n");
+  std::filesystem::resize_file(path, std::uintmax_t{1} << 30U);
+  Settings settings = onFile(path);
+  EXPECT_EQ(settings.refresh().fault(), Fault::Damaged);
+  EXPECT_TRUE(settings.set("Sanavel", "Main", "a", "1"));
+  EXPECT_EQ(valueIn(path, "a"), "1");
+  EXPECT_EQ(std::filesystem::file_size(folder / "settings.damaged"), std::uintmax_t{1} << 30U);
+  EXPECT_EQ(settings.set("Sanavel", "Main", "b", std::string(FileBackend::largest, 'x')).fault(),
+            Fault::TooLarge);
+  EXPECT_EQ(valueIn(path, "a"), "1");
+}
+
+TEST(FileBackend, IsForItsUserAlone) {
+  namespace fs = std::filesystem;
+  const TemporaryFolder folder;
+  const auto path = folder / "settings";
+  fill(path, "settings 1\nSanavel\tMain\ta\t1\n");  // cut
+  fs::permissions(path, fs::perms{0644});
+  Settings settings{settings::openBackend(path, guarded)};
+  EXPECT_EQ(settings.refresh().fault(), Fault::Damaged);
+  EXPECT_TRUE(settings.set("Sanavel", "Main", "openpass", "1234"));
+  for (const char* suffix : {"", ".lock", ".damaged", ".protected"}) {
+    EXPECT_EQ(fs::status(folder / ("settings" + std::string(suffix))).permissions(),
+              fs::perms{0600})
+        << suffix;
+  }
+}
+
+TEST(FileBackend, FollowsALinkThatItsUserPutThere) {
+  namespace fs = std::filesystem;
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "dotfiles");
+  fill(folder / "dotfiles/kept", "settings 1\nSanavel\tMain\ta\t1\nodd\nend\n");
+  fs::create_symlink("dotfiles/kept", folder / "settings");
+  Settings settings = onFile(folder / "settings");
+  EXPECT_EQ(settings.refresh().fault(), Fault::Damaged);
+  EXPECT_TRUE(settings.set("Sanavel", "Main", "b", "2"));
+  EXPECT_TRUE(fs::is_symlink(folder / "settings"));
+  EXPECT_EQ(valueIn(folder / "dotfiles/kept", "b"), "2");
+  EXPECT_EQ(valueIn(folder / "dotfiles/kept", "a"), "1");
+}
+
+// What was locked is held when its file is lost, and only then.
+TEST(FileBackend, RemembersWhatItsUserLocked) {
+  const auto at = [](const TemporaryFolder& folder) {
+    Settings settings{settings::openBackend(folder / "settings", guarded)};
+    settings.refresh().ignore();
+    return settings;
+  };
+  const auto lost = [](const Settings& settings) {
+    return settings.isLost("Sanavel", "Main", "OpenPass");
+  };
+  using Step = std::function<void(const TemporaryFolder&)>;
+  const Step set = [&](const TemporaryFolder& folder) {
+    EXPECT_TRUE(at(folder).set("Sanavel", "Main", "openpass", "1234"));
+    EXPECT_FALSE(contentOf(folder / "settings.protected").contains("1234"));
+  };
+  const Step turnOff = [&](const TemporaryFolder& folder) {
+    EXPECT_TRUE(at(folder).set("Sanavel", "Main", "openpass", "0"));
+  };
+  const Step remove = [&](const TemporaryFolder& folder) {
+    EXPECT_TRUE(at(folder).remove("Sanavel", "Main", "openpass"));
+  };
+  const Step other = [&](const TemporaryFolder& folder) {
+    (void)at(folder).set("Sanavel", "Main", "a", "1");
+  };
+  const Step lose = [](const TemporaryFolder& folder) {
+    std::filesystem::remove(folder / "settings");
+  };
+  const Step damage = [](const TemporaryFolder& folder) { fill(folder / "settings", "x"); };
+  const Step pardon = [](const TemporaryFolder& folder) {
+    std::filesystem::remove(folder / "settings.protected");
+  };
+  const Step hide = [](const TemporaryFolder& folder) {
+    std::filesystem::remove(folder / "settings.protected");
+    std::filesystem::create_directory(folder / "settings.protected");
+  };
+  const struct {
+    std::vector<Step> steps;
+    bool isLost;
+  } cases[] = {
+      {{set}, false},
+      {{lose}, false},
+      {{set, lose}, true},
+      {{set, damage}, true},
+      {{set, lose, other, other}, true},
+      {{set, damage, other}, true},
+      {{set, remove, lose}, false},
+      {{set, turnOff, lose}, false},
+      {{set, lose, set}, false},
+      {{set, lose, other, turnOff, lose}, false},
+      {{set, lose, pardon}, false},
+      {{set, lose, hide}, true},
+      {{set, pardon, other, other, lose}, true},
+  };
+  for (const auto& c : cases) {
+    const TemporaryFolder folder;
+    for (const Step& step : c.steps) step(folder);
+    EXPECT_EQ(lost(at(folder)), c.isLost) << &c - cases;
+  }
 }
 
 TEST(FileBackend, AWriteThatFailsChangesNothing) {

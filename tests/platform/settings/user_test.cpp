@@ -1,6 +1,8 @@
 #include "platform/settings/user.h"
 
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <optional>
@@ -52,6 +54,9 @@ TEST(UserLanguage, ComesFromTheRegionOfTheUser) {
 }
 
 TEST(UserSettingsPath, IsInTheUsersConfigurationFolder) {
+  const passwd* const user = ::getpwuid(::getuid());
+  ASSERT_NE(user, nullptr);
+  const std::string own = std::string(user->pw_dir) + "/.config/sanavel/settings.txt";
   const struct {
     const char* configuration;
     const char* home;
@@ -60,8 +65,8 @@ TEST(UserSettingsPath, IsInTheUsersConfigurationFolder) {
                {nullptr, "/home/u", "/home/u/.config/sanavel/settings.txt"},
                {"", "/home/u", "/home/u/.config/sanavel/settings.txt"},
                {"relative", "/home/u", "/home/u/.config/sanavel/settings.txt"},
-               {nullptr, nullptr, ""},
-               {nullptr, "", ""}};
+               {nullptr, nullptr, own},
+               {nullptr, "", own}};
   for (const auto& c : cases) {
     const Variable configuration("XDG_CONFIG_HOME", c.configuration);
     const Variable home("HOME", c.home);
