@@ -198,6 +198,7 @@ void FrmMain::saatVurusu() {
   if (vurus_ % ticksPerLook == 0) digerleriniGor();
   if (vurus_ % ticksPerDayList == 0) {
     gunuTazele();
+    depolariYenidenDene();
     netYenidenDene();
   }
   const auto counter = text::wholeNumber(idk.caption()).value_or(6);

@@ -316,6 +316,8 @@ class FrmMain : public shell::RecordScreen,
   void netkapanis();
   void yalnizAcildi(bool alone);
   void netYenidenDene();
+  // Stores that were locked when this station started.
+  void depolariYenidenDene();
   void yerAl(std::chrono::milliseconds patience = files::lockPatience);
   bool netSay(int stations);
   void netDurumu();

@@ -76,6 +76,17 @@ void FrmMain::netYenidenDene() {
   netDurumu();
 }
 
+void FrmMain::depolariYenidenDene() {
+  if (stores::areOpen(istasyon.stores)) return;
+  const bool hadCards = istasyon.stores.personal.database.isOpen();
+  stores::OpenClosedStores(istasyon.stores).ignore();
+  if (hadCards || !istasyon.stores.personal.database.isOpen()) return;
+  alanGenislikleri(istasyon.stores.personal.database, "IDCard");
+  Listeleriyaz();
+  yonleriAc();
+  gunlukListele();
+}
+
 void FrmMain::yerAl(std::chrono::milliseconds patience) {
   const auto slot = istasyon.sicil.takeSlot(patience);
   istasyon.sicil.letIn();

@@ -47,6 +47,17 @@ constexpr auto phraseRows = std::to_array<Row>({
      "Another station is maintaining the files.\nOK tries again, Cancel leaves the program closed.",
      "Başka bir istasyonda dosya bakımı yapılıyor.\nTamam yeniden dener, İptal programı kapalı "
      "bırakır."},
+    {Phrase::StoresLocked,
+     "The records are locked by another station or another program.\nOK tries again. Cancel opens "
+     "the program without them; it goes on trying by itself.",
+     "Kayıtlar başka bir istasyon ya da program tarafından kilitli.\nTamam yeniden dener. İptal "
+     "programı kayıtlar olmadan açar; program kendiliğinden denemeyi sürdürür."},
+    {Phrase::ForeignObjects,
+     "%1 holds things that this program never puts there (%2). They are not run, and the records "
+     "can "
+     "be used. Ask whoever looks after the computers who changed the file.",
+     "%1 dosyasında bu programın koymadığı şeyler var (%2). Bunlar çalıştırılmıyor ve kayıtlar "
+     "kullanılabiliyor. Dosyayı kimin değiştirdiğini bilgisayarlara bakan kişiye sorun."},
     {Phrase::CareNeedsAlone,
      "Nothing was done to the files: other stations are running.\nClose the program there and "
      "start "

@@ -35,6 +35,8 @@ enum class Phrase {
   StationNumber,    // a number follows
   WithoutRegister,  // a reason follows
   CareElsewhere,
+  StoresLocked,
+  ForeignObjects,
   CareNeedsAlone,
   CareUnsure,    // a reason follows
   CareChecking,  // a file's name stands in front of this and the rest

@@ -76,12 +76,10 @@ Contents contentsOf(const std::vector<StoreDraft>& drafts) {
   return contents;
 }
 
-// A second name for the file; where the file system has only one for each, a second file.
 dao::Status keepFile(const fs::path& from, const fs::path& to) {
-  std::error_code refused;
-  if (!fs::is_regular_file(fs::symlink_status(from, refused))) return {};
-  fs::create_hard_link(from, to, refused);
-  return refused ? files::copyFile(from, to) : dao::Status();
+  std::error_code ignored;
+  if (!fs::is_regular_file(fs::symlink_status(from, ignored))) return {};
+  return files::keepAs(from, to);
 }
 
 std::vector<std::string> filesOfBackup() {

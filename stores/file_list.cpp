@@ -4,12 +4,12 @@
 #include <array>
 #include <charconv>
 #include <chrono>
-#include <fstream>
 #include <string_view>
 
 #include "platform/files/atomic_write.h"
 #include "platform/files/checksum.h"
 #include "platform/files/folders.h"
+#include "platform/files/read_file.h"
 #include "stores/store_kinds.h"
 
 namespace stores {
@@ -19,17 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t longestList = std::size_t{32} << 20U;
-constexpr std::size_t blockSize = std::size_t{1} << 18U;
-
-std::string firstBytes(const fs::path& file, std::size_t most) {
-  const auto state = stateOf(file);
-  if (!state) return {};
-  std::string bytes(std::min<std::uintmax_t>(state->bytes, most), '\0');
-  std::ifstream stream(file, std::ios::binary);
-  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  bytes.resize(static_cast<std::size_t>(stream.gcount()));
-  return bytes;
-}
 
 std::string hex(std::uint64_t number) {
   std::array<char, 16> digits{};
@@ -59,19 +48,15 @@ void addLine(FileList& list, std::string_view line) {
 
 std::optional<std::uint64_t> checksumOf(const fs::path& file, const Progress& progress) {
   const auto state = stateOf(file);
-  std::ifstream stream(file, std::ios::binary);
-  if (!state || !stream) return std::nullopt;
-  std::string block(blockSize, '\0');
+  if (!state) return std::nullopt;
   std::uint64_t hash = files::noBytes;
   std::int64_t done = 0;
-  while (stream) {
-    stream.read(block.data(), blockSize);
-    hash = files::checksum(std::string_view(block).substr(0, std::size_t(stream.gcount())), hash);
-    done += stream.gcount();
-    if (progress && !progress(done, static_cast<std::int64_t>(state->bytes))) return std::nullopt;
-  }
-  // A stream ends at a fault of the medium as it does at the end of the file.
-  const bool whole = stream.eof() && static_cast<std::uintmax_t>(done) == state->bytes;
+  const auto read = files::readBlocks(file, [&](std::string_view block) {
+    hash = files::checksum(block, hash);
+    done += static_cast<std::int64_t>(block.size());
+    return !progress || progress(done, static_cast<std::int64_t>(state->bytes));
+  });
+  const bool whole = read && static_cast<std::uintmax_t>(done) == state->bytes;
   return whole ? std::optional(hash) : std::nullopt;
 }
 
@@ -93,7 +78,8 @@ bool canBeListed(const std::string& name) {
 }
 
 FileList readFileList(const fs::path& folder) {
-  const std::string content = firstBytes(folder / fileListName, longestList);
+  const std::string content =
+      files::readFile(folder / fileListName, longestList).value_or(std::string());
   FileList list;
   std::string_view rest = content;
   // A line without its end was cut off.

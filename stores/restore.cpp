@@ -12,14 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A second name for the file; where the file system has only one for each, a second file. The store
-// never lacks its name: a station that found none would make an empty one.
-dao::Status keepBeside(const fs::path& store, const fs::path& kept) {
-  std::error_code refused;
-  fs::create_hard_link(store, kept, refused);
-  return refused ? files::copyFile(store, kept) : dao::Status();
-}
-
 // A store that is missing is shared as its neighbours are; of these, the last one that is there
 // counts.
 void shareLikeOthers(const fs::path& draft, const fs::path& programFolder,
@@ -37,7 +29,7 @@ dao::Result<ReplacedStore> replace(StoreDraft& draft, std::string_view stamp) {
     replaced.kept += "." + std::string(stamp) + ".old";
     std::error_code ignored;
     fs::remove(replaced.kept, ignored);
-    if (dao::Status kept = keepBeside(replaced.store, replaced.kept); !kept)
+    if (dao::Status kept = files::keepAs(replaced.store, replaced.kept); !kept)
       return std::unexpected(std::move(kept));
   }
   if (dao::Status installed = draft.install(); !installed) {

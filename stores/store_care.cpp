@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "platform/files/copy_file.h"
 #include "platform/files/replace.h"
 #include "stores/store_copy.h"
 #include "stores/store_kinds.h"
@@ -19,9 +20,9 @@ constexpr auto freshCopy = "NewFile.mdb";
 Status keepDamaged(const fs::path& store, StoreCare& care) {
   fs::path kept = store;
   kept += ".damaged";
-  std::error_code error;
-  fs::copy_file(store, kept, fs::copy_options::overwrite_existing, error);
-  if (error) return {Fault::Failed, kept.filename().string() + ": " + error.message()};
+  std::error_code ignored;
+  fs::remove(kept, ignored);
+  if (Status named = files::keepAs(store, kept); !named) return named;
   care.kept = kept.filename().string();
   return {};
 }

@@ -66,11 +66,11 @@ dao::Status openStore(Store& store, const std::string& path,
   return openHandles(store, handles, schema);
 }
 
-// Opens, and on any failure creates what is missing and opens again.
+// Opens, and on any failure but a lock creates what is missing and opens again.
 template <class Open, class Create>
 dao::Status openOrCreate(Open open, Create create) {
   const dao::Status opened = open();
-  if (opened) return opened;
+  if (opened || opened.fault() == dao::Fault::Busy) return opened;
   const dao::Status created = create();
   return created ? open() : created;
 }
@@ -97,18 +97,49 @@ dao::Status openSettings(Stores& stores) {
   return {};
 }
 
+dao::Status openPersonalOrCreate(Stores& stores) {
+  return openOrCreate([&] { return ReopenPersonalStore(stores); },
+                      [&] { return CreatePersonalStore(stores); });
+}
+
+dao::Status openClinicalOrCreate(Stores& stores) {
+  return openOrCreate([&] { return openClinical(stores); },
+                      [&] { return CreateClinicalStore(stores); });
+}
+
+bool isLocked(const std::string& path) {
+  using std::chrono_literals::operator""ms;
+  const auto probe = dao::OpenDatabase(path, {.access = dao::Access::ReadOnly, .busyTimeout = 0ms});
+  return !probe && probe.error().fault() == dao::Fault::Busy;
+}
+
 }  // namespace
 
 dao::Status OpenStores(Stores& stores) {
-  const std::array results{openOrCreate([&] { return ReopenPersonalStore(stores); },
-                                        [&] { return CreatePersonalStore(stores); }),
-                           openSettings(stores),
-                           openOrCreate([&] { return openClinical(stores); },
-                                        [&] { return CreateClinicalStore(stores); })};
+  const std::array results{openPersonalOrCreate(stores), openSettings(stores),
+                           openClinicalOrCreate(stores)};
   for (const dao::Status& result : results) {
     if (!result) return result;
   }
   return {};
+}
+
+bool areOpen(const Stores& stores) {
+  return stores.personal.database.isOpen() && stores.clinical.database.isOpen();
+}
+
+dao::Status OpenClosedStores(Stores& stores) {
+  dao::Status first;
+  const auto open = [&](const dao::Database& database, const char* file, auto opening) {
+    if (database.isOpen()) return;
+    const std::string path = stores.folder + file;
+    const dao::Status opened =
+        isLocked(path) ? dao::Status(dao::Fault::Busy, path) : opening(stores);
+    if (first) first = opened;
+  };
+  open(stores.personal.database, personalFile, openPersonalOrCreate);
+  open(stores.clinical.database, clinicalFile, openClinicalOrCreate);
+  return first;
 }
 
 // A reader that still has a handle of the database does not keep the file open.

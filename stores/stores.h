@@ -64,6 +64,11 @@ struct Stores {
 // silence. The first failure that remains comes back, after everything that can be opened is open.
 dao::Status OpenStores(Stores& stores);
 void CloseStores(Stores& stores);
+// Both Personal and Clinical stand open.
+[[nodiscard]] bool areOpen(const Stores& stores);
+// Opens those of the two that are not open and leaves the others alone. Busy at once while another
+// process keeps one locked.
+dao::Status OpenClosedStores(Stores& stores);
 
 // Closes the Personal store and opens it and its twelve recordsets again; nothing is created.
 dao::Status ReopenPersonalStore(Stores& stores);

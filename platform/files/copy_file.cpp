@@ -56,4 +56,10 @@ Status copyFile(const path& from, const path& to, const CopyProgress& progress, 
   return status;
 }
 
+platform::Status keepAs(const std::filesystem::path& file, const std::filesystem::path& name) {
+  std::error_code refused;
+  std::filesystem::create_hard_link(file, name, refused);
+  return refused ? copyFile(file, name) : platform::Status();
+}
+
 }  // namespace files

@@ -21,4 +21,9 @@ using CopyProgress = std::function<bool(std::int64_t done, std::int64_t total)>;
                                         const CopyProgress& progress = {},
                                         Links links = Links::Refused);
 
+// A second name for a file that is about to be replaced; where the file system has only one for
+// each, a copy. Exists when the name is taken.
+[[nodiscard]] platform::Status keepAs(const std::filesystem::path& file,
+                                      const std::filesystem::path& name);
+
 }  // namespace files

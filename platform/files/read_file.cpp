@@ -59,4 +59,17 @@ Result<std::string> readFile(const path& name, std::size_t most, Links links,
   return readOpen(*file, name, most, patience);
 }
 
+Status readBlocks(const path& name, const std::function<bool(std::string_view)>& take) {
+  const auto file = Descriptor::openFile(name, O_RDONLY);
+  if (!file) return file.error();
+  std::string block;
+  for (;;) {
+    block.clear();
+    const auto got = readBlock(*file, name, block, blockSize);
+    if (!got) return got.error();
+    if (*got == 0) return {};
+    if (!take(block)) return {Fault::Other, name.string() + ": stopped."};
+  }
+}
+
 }  // namespace files

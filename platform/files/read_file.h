@@ -4,7 +4,9 @@
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "platform/files/descriptor.h"
 #include "platform/status/status.h"
@@ -24,5 +26,9 @@ inline constexpr std::chrono::seconds readingPatience{5};
 [[nodiscard]] platform::Result<std::string> readFile(
     const std::filesystem::path& path, std::size_t most, Links links = Links::Refused,
     std::chrono::milliseconds patience = readingPatience);
+
+// The bytes of a plain file of any size, block by block; Other when `take` stops it by false.
+[[nodiscard]] platform::Status readBlocks(const std::filesystem::path& path,
+                                          const std::function<bool(std::string_view)>& take);
 
 }  // namespace files

@@ -1,7 +1,11 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 #include "app/program_folder.h"
 #include "app/start_up.h"
+#include "platform/files/descriptor.h"
 #include "shell/frm_option.h"
 #include "shell/frm_pass.h"
 #include "tests/registry/card_fixture.h"
@@ -54,6 +58,28 @@ TEST(Stations, ACardDeletedByAnotherIsStoredAnewWhenItIsSaved) {
   two.main.txtnot.setText("typed meanwhile");
   two.main.mnukaydet.press();
   EXPECT_EQ(one.column("Ayşe Yıldız", "Notes"), "typed meanwhile");
+}
+
+TEST(Stations, OpenTheRecordsThatWereLockedWhenTheyStarted) {
+  const TemporaryFolder folder;
+  CardDesk desk(folder.path());
+  desk.newPatient("Ayşe Yıldız", "1991");
+  stores::CloseStores(desk.station.stores);
+  const auto soonTried = [&] {
+    for (int i = 0; i < 200; ++i) desk.main.Timer1.Tick();
+    return desk.station.stores.personal.database.isOpen();
+  };
+  {
+    const std::filesystem::path store = folder / "Data/Personal.mdb";
+    const auto file = files::Descriptor::openFile(store, O_RDWR).value();
+    struct flock whole = {};
+    whole.l_type = F_WRLCK;
+    ASSERT_EQ(::fcntl(file.number(), F_OFD_SETLK, &whole), 0);
+    EXPECT_FALSE(soonTried());
+    EXPECT_TRUE(desk.station.stores.clinical.database.isOpen());
+  }
+  EXPECT_TRUE(soonTried());
+  EXPECT_TRUE(desk.main.mnugeri.enabled());
 }
 
 struct StartUp : testing::Test {
