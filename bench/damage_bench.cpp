@@ -169,6 +169,7 @@ struct Counts {
   long hangs = 0;
   long crashes = 0;
   long wrongSaved = 0;
+  long lostInDamaged = 0;
 };
 
 void count(Counts& counts, const Told& told, bool hung, unsigned long long seed) {
@@ -181,6 +182,7 @@ void count(Counts& counts, const Told& told, bool hung, unsigned long long seed)
     ++counts.wrongSaved;
   } else {
     told.damaged ? ++counts.told : ++counts.sound;
+    counts.lostInDamaged += told.wrongSaved ? 1 : 0;
   }
   if (bad) std::printf("%s: seed %llu\n", bad, seed);
 }
@@ -215,7 +217,8 @@ int main(int argc, char** argv) {
   fs::remove_all(folder);
   std::printf(
       "%ld rounds: %ld without a trace, %ld told as damaged, %ld hangs, %ld crashes, "
-      "%ld wrongly saved\n",
-      rounds, counts.sound, counts.told, counts.hangs, counts.crashes, counts.wrongSaved);
+      "%ld wrongly saved; %ld saved and not found again in a store that was told as damaged\n",
+      rounds, counts.sound, counts.told, counts.hangs, counts.crashes, counts.wrongSaved,
+      counts.lostInDamaged);
   return counts.hangs + counts.crashes + counts.wrongSaved == 0 ? 0 : 1;
 }

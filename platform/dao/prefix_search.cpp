@@ -1,5 +1,7 @@
 #include "platform/dao/prefix_search.h"
 
+#include <optional>
+
 #include "platform/dao/catalogue.h"
 #include "platform/dao/engine.h"
 #include "platform/dao/sorted_rows.h"
@@ -60,7 +62,7 @@ class Prefix {
   std::size_t length_;
   std::string folded_;
   bool keepsLength_;
-  std::string lastFitting_;
+  std::optional<std::string> lastFitting_;
 };
 
 HelperDef helperOf(std::string_view field, Fold fold) {

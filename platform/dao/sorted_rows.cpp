@@ -35,7 +35,7 @@ std::uint64_t SortedRows::headOf(std::string_view key) const {
 }
 
 char* SortedRows::room(std::size_t size) {
-  if (size > left_) {
+  if (size > left_ || blocks_.empty()) {  // a row may be empty
     blockSize_ = std::max(size, kBlock);
     left_ = blockSize_;
     blocks_.push_back(std::make_unique_for_overwrite<char[]>(blockSize_));

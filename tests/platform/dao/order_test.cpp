@@ -131,6 +131,12 @@ TEST_F(TurkishStoreTest, TheSearchListEqualsAPlainWalk) {
   expectSameAsWalk(store_);
 }
 
+TEST_F(GeneralStoreTest, TheSearchListTakesAnEmptyName) {
+  ASSERT_TRUE(store_.Execute("INSERT INTO IDCard (Name) VALUES ('')"));
+  EXPECT_EQ(prefixList(store_, Fold::Turkish, ""), Texts{""});
+  EXPECT_EQ(prefixList(store_, Fold::Turkish, "a"), Texts{});
+}
+
 TEST_F(GeneralStoreTest, TheSearchListCarriesTheKeyAndNeedsItsIndex) {
   addCards({"Ali", "Veli"});
   ASSERT_TRUE(store_.Execute("UPDATE IDCard SET Key = '¬' WHERE Name = 'ALI'"));
