@@ -1,7 +1,10 @@
 #include "desktop/growing_text.h"
 
+#include <QMimeData>
 #include <algorithm>
 #include <cmath>
+
+#include "desktop/bind/paste.h"
 
 namespace desktop {
 
@@ -23,6 +26,11 @@ GrowingText::GrowingText(QWidget* parent) : QPlainTextEdit(parent) {
             lines_ = lines;
             updateGeometry();
           });
+}
+
+void GrowingText::insertFromMimeData(const QMimeData* source) {
+  if (!tooLongToPaste(*this, static_cast<std::size_t>(source->text().size())))
+    QPlainTextEdit::insertFromMimeData(source);
 }
 
 int GrowingText::wantedHeight() const {

@@ -13,6 +13,9 @@ class GrowingText : public QPlainTextEdit {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
+ protected:
+  void insertFromMimeData(const QMimeData* source) override;
+
  private:
   // High enough for the text, between two limits.
   [[nodiscard]] int wantedHeight() const;

@@ -32,6 +32,8 @@ constexpr auto ownWords = std::to_array<Word>({
     {"QCalendarWidget", "Next Month", "Sonraki Ay"},
     {"QColorDialog", "&Val:", "&Parlaklık:"},
     {"QFontDialog", "Stri&keout", "Üstü &çizili"},
+    {"Paste", "The clipboard holds more text than fits in here.",
+     "Panodaki metin buraya sığmayacak kadar uzun."},
     {"QShortcut", "PgUp", "PgUp"},
     {"QShortcut", "PgDown", "PgDn"},
     {"QShortcut", "Del", "Del"},

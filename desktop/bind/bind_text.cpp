@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 
 #include "desktop/bind/keys.h"
+#include "desktop/bind/paste.h"
 #include "desktop/text.h"
 
 namespace desktop {
@@ -43,7 +44,7 @@ void reportSelection(const QLineEdit& edit, forms::TextControl& control) {
 void takeLine(QLineEdit& edit, forms::TextControl& control) {
   const QPointer<QLineEdit> alive(&edit);
   const int cursor = edit.cursorPosition();
-  control.setText(utf8(edit.text()));
+  control.setText(utf8(withoutControls(edit.text())));
   if (alive == nullptr || edit.text() == qs(control.text())) return;
   showText(edit, control);
   edit.setCursorPosition(cursor);
@@ -109,7 +110,7 @@ void bind(QPlainTextEdit& edit, forms::TextBox& box) {
     if (aspect == Aspect::Selection && edit.hasFocus()) showPlainSelection(edit, box);
   });
   QObject::connect(&edit, &QPlainTextEdit::textChanged, &binding, [&] {
-    box.setText(utf8(edit.toPlainText()));
+    box.setText(utf8(withoutControls(edit.toPlainText())));
     showPlainText(edit, box);
   });
   QObject::connect(&edit, &QPlainTextEdit::cursorPositionChanged, &binding,

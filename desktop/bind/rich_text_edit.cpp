@@ -10,6 +10,7 @@
 #include <QTextCursor>
 #include <algorithm>
 
+#include "desktop/bind/paste.h"
 #include "desktop/bind/rich_text_format.h"
 #include "desktop/text.h"
 
@@ -242,9 +243,11 @@ void RichTextEdit::insertFromMimeData(const QMimeData* source) {
   richtext::Editor foreign;
   const bool rich = source->hasFormat(richTextType) &&
                     foreign.setTextRTF(source->data(richTextType).toStdString());
-  if (rich) return edit([&](richtext::Editor& editor) { editor.paste(foreign.document()); });
-  if (source->hasText())
-    edit([&](richtext::Editor& editor) { editor.insert(utf8(source->text())); });
+  const std::string plain = rich ? foreign.text() : utf8(withoutControls(source->text()));
+  if (tooLongToPaste(*this, plain.size())) return;
+  edit([&](richtext::Editor& editor) {
+    rich ? editor.paste(foreign.document()) : editor.insert(plain);
+  });
 }
 
 // The toolkit's menu edits the shown text behind the editor's back.

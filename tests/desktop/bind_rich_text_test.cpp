@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QMimeData>
 
+#include "desktop/bind/paste.h"
 #include "tests/desktop/desk.h"
 
 namespace {
@@ -150,6 +151,28 @@ TEST_F(RichBinding, TheClipboardCarriesFormats) {
   QApplication::clipboard()->setText(QStringLiteral(" düz"));
   edit.paste();
   expectText("kalın düz");
+}
+
+TEST_F(RichBinding, WhatNoKeyTypesIsNotPasted) {
+  QApplication::clipboard()->setText(
+      QString::fromUtf8("a\0b\x1b"
+                        "c\td",
+                        7));
+  edit.paste();
+  expectText("abc\td");
+  support::Answers answers;
+  answers.expect(QMessageBox::Ok);
+  QApplication::clipboard()->setText(QString(2 * mostPasted, u'x'));
+  edit.paste();
+  QApplication::processEvents();
+  answers.expect(QMessageBox::Ok);
+  auto* const rich = new QMimeData;
+  rich->setData(QStringLiteral("text/rtf"), "{\\rtf1 " + QByteArray(2 * mostPasted, 'x') + "}");
+  QApplication::clipboard()->setMimeData(rich);
+  edit.paste();
+  QApplication::processEvents();
+  expectText("abc\td");
+  EXPECT_TRUE(answers.allAsked());
 }
 
 TEST_F(RichBinding, AReleasedTextIsLeftAlone) {
